@@ -1,0 +1,21 @@
+#pragma once
+
+#include "host/common/CommonExport.h"
+
+#include <QtGui/QFont>
+
+/**
+ * Fonts as the display draws them. A point is 96/72 pixel, on every machine; letters are neither hinted nor placed on
+ * subpixels of a particular screen, so that canvas, picture and display show the same text.
+ */
+namespace Korvex::Meridane::Common
+{
+/** @p points as whole pixels (at least 1): points × 96 / 72, halves upwards. */
+[[nodiscard]] MERIDANE_COMMON_EXPORT int pixelsFromPoints(double points);
+
+/** The size of @p font in pixels: its pixel size, or its point size turned into pixels. */
+[[nodiscard]] MERIDANE_COMMON_EXPORT int fontPixelSize(const QFont &font);
+
+/** @p font with its size in pixels, without hinting and without subpixel antialiasing. */
+[[nodiscard]] MERIDANE_COMMON_EXPORT QFont displayFont(const QFont &font);
+}
