@@ -1,0 +1,66 @@
+#pragma once
+
+#include "host/core/CoreExport.h"
+
+#include <QGraphicsView>
+
+#include <memory>
+
+namespace Korvex::Meridane::Designer {
+
+class CanvasScene;
+class EditSession;
+class Gesture;
+
+/**
+ * The view of the canvas: owns the mouse and the keyboard on it.
+ *
+ * A press asks the selected items for a point handle, then for a frame handle, then for the rotation handle; else it
+ * selects and moves, or spans a selection rectangle on empty ground. The running Gesture changes only items; its release
+ * makes one undo step. Escape and a lost mouse grab take it back. Handles are drawn in the foreground at constant size.
+ */
+class MERIDANE_CORE_EXPORT CanvasView : public QGraphicsView
+{
+    Q_OBJECT
+
+public:
+    explicit CanvasView(EditSession* session, QWidget* parent = nullptr);
+    ~CanvasView() override;
+
+    [[nodiscard]] EditSession* session() const { return m_session; }
+    /// The scene of the session's current screen, or null.
+    [[nodiscard]] CanvasScene* canvasScene() const;
+
+    /// Screen pixels for one pixel of the display, 0.1 to 32.
+    [[nodiscard]] double zoom() const;
+    void setZoom(double zoom);
+    /// Zooms so that the point under \a viewPos stays where it is.
+    void zoomAt(double zoom, const QPoint& viewPos);
+    void zoomToFit();
+
+    /// The element class that the next click or drag on the canvas places; empty for none.
+    [[nodiscard]] const QString& placementClass() const { return m_placementClass; }
+    void setPlacementClass(const QString& className);
+
+    [[nodiscard]] bool isGestureRunning() const { return m_gesture != nullptr; }
+    /// Takes the running gesture back.
+    void cancelGesture();
+
+    /// The MIME type of an element class dragged from the palette; its data is the class name in UTF-8.
+    [[nodiscard]] static QString elementMimeType();
+
+Q_SIGNALS:
+    void zoomChanged(double zoom);
+    /// The mouse position on the screen, in the display's pixels.
+    void pointerMoved(const QPointF& scenePos);
+    /// Geometry while a gesture runs ("x 10, y 20, 100 × 75"), empty when it has ended.
+    void readoutChanged(const QString& text);
+    void placementFinished();
+
+private:
+    EditSession* m_session;
+    QString m_placementClass;
+    std::unique_ptr<Gesture> m_gesture;
+};
+
+} // namespace Korvex::Meridane::Designer

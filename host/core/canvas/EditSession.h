@@ -1,0 +1,95 @@
+#pragma once
+
+#include "host/core/commands/UndoStack.h"
+
+#include <QList>
+#include <QMap>
+#include <QObject>
+#include <QPointF>
+#include <QPointer>
+#include <QSizeF>
+
+#include <map>
+#include <memory>
+
+namespace Korvex::Meridane::Designer {
+
+class CanvasScene;
+class DesignerObject;
+class Project;
+class Screen;
+
+/**
+ * One open project being edited: its scenes, current screen and selection, and the edits that the application and the
+ * command line offer. Each edit is one undo step; one that changes nothing makes none and is accepted.
+ */
+class MERIDANE_CORE_EXPORT EditSession : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit EditSession(std::unique_ptr<Project> project, QObject* parent = nullptr);
+    ~EditSession() override;
+
+    [[nodiscard]] Project* project() const { return m_project.get(); }
+    [[nodiscard]] UndoStack* undoStack() const;
+
+    /// The scene of \a screen, made with the items of all its elements when it is first asked for.
+    CanvasScene* scene(Screen* screen);
+    /// The screen that is shown or was edited last; the first one at the start; null in a project without screens.
+    [[nodiscard]] Screen* currentScreen() const;
+    void setCurrentScreen(Screen* screen);
+
+    /// The selected objects of the current screen (the screen itself when that is what is selected).
+    [[nodiscard]] const QList<DesignerObject*>& selection() const { return m_selection; }
+    /// Selects; goes to the objects' screen and makes its scene. Objects of other screens are left out.
+    void setSelection(const QList<DesignerObject*>& objects);
+
+    /// \a id empty: the smallest free one from "screen". \a size invalid: the project's display size.
+    EditResult addScreen(const QString& id = {}, const QSizeF& size = {}, Screen** added = nullptr);
+    EditResult removeScreen(Screen* screen);
+    /// Adds an element of \a className in front of the others. \a id empty: the smallest free one of its base.
+    /// \a properties: value strings by property id, set in order of rank. Refused as a whole when one is refused.
+    EditResult addElement(const QString& className, Screen* screen, const QString& id,
+                          const QMap<QString, QString>& properties, DesignerObject** added = nullptr);
+    EditResult removeElements(const QList<DesignerObject*>& elements);
+    EditResult setProperty(DesignerObject* object, const QString& propertyId, const QString& value);
+    /// The same property of several objects, each with its own value.
+    EditResult setProperties(const QList<DesignerObject*>& objects, const QString& propertyId,
+                             const QStringList& values);
+    /// Moves elements by a distance in pixels; \a mergeKey as in UndoCommand::setMergeKey().
+    EditResult moveElements(const QList<DesignerObject*>& elements, const QPointF& distance,
+                            const QString& mergeKey = {});
+    /// Refused where the element cannot be rotated.
+    EditResult rotateElement(DesignerObject* element, double angle, const QString& fixedPoint);
+    EditResult rename(DesignerObject* object, const QString& id);
+    /// Moves \a object to \a index among its siblings (back to front).
+    EditResult reorder(DesignerObject* object, int index);
+    /// Copies an image file into the project; refused when no reader can decode it. \a id: the new resource's file
+    /// name, a free one made of the file's own name.
+    EditResult importImage(const QString& file, QString* id);
+    EditResult undo();
+    EditResult redo();
+
+Q_SIGNALS:
+    void selectionChanged();
+    void currentScreenChanged(Screen* screen);
+    /// An edit from the canvas, an editor or a menu was refused; \a message is for the user.
+    void editRefused(const QString& message);
+
+private:
+    EditResult execute(std::unique_ptr<UndoCommand> command);
+    [[nodiscard]] Screen* screenOf(DesignerObject* object) const;
+    void onStepApplied(const UndoCommand* command);
+    void onObjectRemoved(DesignerObject* object);
+    void onSceneSelectionChanged(CanvasScene* scene);
+    void dropScene(Screen* screen);
+
+    std::unique_ptr<Project> m_project;
+    std::map<Screen*, std::unique_ptr<CanvasScene>> m_scenes;
+    QPointer<Screen> m_currentScreen;
+    QList<DesignerObject*> m_selection;
+    bool m_settingSelection = false;
+};
+
+} // namespace Korvex::Meridane::Designer

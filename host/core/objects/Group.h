@@ -1,0 +1,29 @@
+#pragma once
+
+#include "host/core/objects/VisualElement.h"
+
+namespace Korvex::Meridane::Designer {
+
+/// Elements that move, turn and are ordered as one. Child coordinates are relative to the group's position.
+class MERIDANE_CORE_EXPORT Group : public VisualElement
+{
+    Q_OBJECT
+
+public:
+    explicit Group(QObject* parent = nullptr);
+    ~Group() override;
+
+    [[nodiscard]] QString className() const override;
+    [[nodiscard]] QStringList classNames() const override;
+    [[nodiscard]] QString displayName() const override;
+    bool initializeProperties() override;
+    GraphicsItem* createGraphicsItem() override;
+    [[nodiscard]] ObjectListProperty* childList() const override;
+    /// The union of the children's bounding rectangles.
+    [[nodiscard]] QRectF getBoundingRect() const override;
+
+private:
+    QSharedPointer<ObjectListProperty> m_elements;
+};
+
+} // namespace Korvex::Meridane::Designer

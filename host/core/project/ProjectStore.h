@@ -1,0 +1,40 @@
+#pragma once
+
+#include "host/core/project/Problem.h"
+
+#include <QSizeF>
+
+#include <memory>
+
+namespace Korvex::Meridane::Designer {
+
+class Project;
+
+/**
+ * Reads and writes project folders: `project.json`, `screens/<id>.json`, `images/`, `fonts/`.
+ *
+ * A save leaves the old project or the new one, whatever happens meanwhile.
+ */
+class MERIDANE_CORE_EXPORT ProjectStore
+{
+public:
+    struct Loaded {
+        std::unique_ptr<Project> project; ///< null when the project cannot be opened; the problems say why
+        QList<Problem> problems;
+    };
+
+    /// The newest format version that this program reads and writes.
+    static constexpr int FormatVersion = 1;
+
+    /// A new project with one empty screen "main", in a temporary folder that goes with it.
+    [[nodiscard]] static std::unique_ptr<Project> create(const QString& name, const QSizeF& displaySize);
+    /// Opens the project in \a folder. Screens are read when they are first needed.
+    [[nodiscard]] static Loaded load(const QString& folder);
+    /// Reads every screen that has not been read; what is wrong with their files.
+    static QList<Problem> readAllScreens(Project* project);
+    /// Saves into \a folder, the project's own or another one (which becomes its own). False with a message when it
+    /// cannot be written; what stood there before is then still there.
+    static bool save(Project* project, const QString& folder, QString* message);
+};
+
+} // namespace Korvex::Meridane::Designer
