@@ -84,10 +84,11 @@ private:
                 value *= factor();
             } else if (accept(u'/')) {
                 const double divisor = factor();
-                if (m_error.isEmpty() && divisor == 0) {
+                if (divisor != 0) {
+                    value /= divisor;
+                } else {
                     fail(LocalizationHelper::coreString(QStringLiteral("A number cannot be divided by zero.")));
                 }
-                value /= divisor;
             } else {
                 break;
             }

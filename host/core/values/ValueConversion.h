@@ -34,25 +34,25 @@ public:
     ValueConversion() = delete;
 
     /** `-12`: an optional minus and decimal digits, within the range of int; else 0. */
-    [[nodiscard]] static int toInt(const QString &text, bool *ok = nullptr);
+    static int toInt(const QString &text, bool *ok = nullptr);
 
     /** `43.3`, `1e-7`: a finite decimal number; else 0. A number too large or too small for a double is refused. */
-    [[nodiscard]] static double toReal(const QString &text, bool *ok = nullptr);
+    static double toReal(const QString &text, bool *ok = nullptr);
 
     /** `true` or `false`; else false. */
-    [[nodiscard]] static bool toBool(const QString &text, bool *ok = nullptr);
+    static bool toBool(const QString &text, bool *ok = nullptr);
 
     /** `w,h` in pixels; else (0, 0). Negative numbers are read: limits are the property's business. */
-    [[nodiscard]] static QSizeF toSize(const QString &text, bool *ok = nullptr);
+    static QSizeF toSize(const QString &text, bool *ok = nullptr);
 
     /** `x,y`; else (0, 0). */
-    [[nodiscard]] static QPointF toPoint(const QString &text, bool *ok = nullptr);
+    static QPointF toPoint(const QString &text, bool *ok = nullptr);
 
     /** `x,y x,y x,y`, with one blank between points; else an empty polygon. The empty text is the empty polygon. */
-    [[nodiscard]] static QPolygonF toPolygon(const QString &text, bool *ok = nullptr);
+    static QPolygonF toPolygon(const QString &text, bool *ok = nullptr);
 
     /** `#rrggbb`, `#aarrggbb`, `#rgb` or a colour name that QColor knows, in any case; else an invalid colour. */
-    [[nodiscard]] static QColor toColor(const QString &text, bool *ok = nullptr);
+    static QColor toColor(const QString &text, bool *ok = nullptr);
 
     /**
      * A group with `family`, either `pointSize` (points, above 0) or `pixelSize` (whole pixels, above 0), and
@@ -60,29 +60,29 @@ public:
      * (pixels) and `weight` (1 … 1000, which wins over `bold`); else QFont(). The result does not depend on the
      * application's default font. Sizes are limited to maximumFontSize(), spacings to ±maximumFontSize().
      */
-    [[nodiscard]] static QFont toFont(const QString &text, bool *ok = nullptr);
+    static QFont toFont(const QString &text, bool *ok = nullptr);
 
     /** A group with `width` (0 or more) and `color`, both present; else no border. */
-    [[nodiscard]] static BorderInfo toBorderInfo(const QString &text, bool *ok = nullptr);
+    static BorderInfo toBorderInfo(const QString &text, bool *ok = nullptr);
 
     /** A group with `angle` and `fixedPoint` (one of the nine names), both present; else no rotation. */
-    [[nodiscard]] static RotationInfo toRotationInfo(const QString &text, bool *ok = nullptr);
+    static RotationInfo toRotationInfo(const QString &text, bool *ok = nullptr);
 
     /** An object id that ObjectLinkInfo::isValid() accepts, or the empty text for no link; else the empty link. */
-    [[nodiscard]] static ObjectLinkInfo toLinkInfo(const QString &text, bool *ok = nullptr);
+    static ObjectLinkInfo toLinkInfo(const QString &text, bool *ok = nullptr);
 
     /**
      * `position colour, position colour`; else an empty list. Neither the number of stops nor the range and order of
      * the positions is checked.
      */
-    [[nodiscard]] static QVector<QPair<double, QColor>> toGradientStops(const QString &text, bool *ok = nullptr);
+    static QVector<QPair<double, QColor>> toGradientStops(const QString &text, bool *ok = nullptr);
 
     /**
      * `key: value; key: value;`; else an empty map. Keys are identifiers (letters, digits, underscores), each at most
      * once; the blank after a colon and the one between pairs may be missing, any further blank belongs to the value.
      * In a value `;`, `:` and `\` stand behind a `\`.
      */
-    [[nodiscard]] static QMap<QString, QString> toGroupProperties(const QString &text, bool *ok = nullptr);
+    static QMap<QString, QString> toGroupProperties(const QString &text, bool *ok = nullptr);
 
     [[nodiscard]] static QString toString(int value);
     /** The shortest form that reads back exactly, with "." and, for very large and very small numbers, an exponent. */
