@@ -1,0 +1,42 @@
+#include "tests/architecture/LinkRules.h"
+
+#include <QRegularExpression>
+
+namespace Korvex::Meridane::Architecture {
+
+QStringList LinkRules::neededLibraries(const QString& readelfOutput)
+{
+    static const QRegularExpression pattern(QStringLiteral(R"(\(NEEDED\)[^\[\n]*\[([^\]]+)\])"));
+    QStringList names;
+    auto matches = pattern.globalMatch(readelfOutput);
+    while (matches.hasNext())
+        names.append(matches.next().captured(1));
+    return names;
+}
+
+QStringList LinkRules::exportedSymbols(const QString& nmOutput)
+{
+    // Address, type and name; an absolute symbol (A) only names a version node.
+    static const QRegularExpression pattern(QStringLiteral(R"(^[0-9a-f]+ ([B-Zb-z]) ([^@\n]+))"),
+                                            QRegularExpression::MultilineOption);
+    QStringList names;
+    auto matches = pattern.globalMatch(nmOutput);
+    while (matches.hasNext())
+        names.append(matches.next().captured(2));
+    names.sort();
+    return names;
+}
+
+QStringList LinkRules::forbiddenLibraries(const QStringList& needed, const QStringList& forbidden)
+{
+    QStringList found;
+    for (const QString& library : needed) {
+        const QString file = library.section(QLatin1Char('/'), -1);
+        const QString bare = file.startsWith(QLatin1String("lib")) ? file.mid(3) : file;
+        if (forbidden.contains(bare.section(QLatin1String(".so"), 0, 0)))
+            found.append(library);
+    }
+    return found;
+}
+
+} // namespace Korvex::Meridane::Architecture
