@@ -15,8 +15,6 @@ public:
                    UndoCommand* parent);
     ~ChangeProperty() override;
 
-    void undo() override;
-    void redo() override;
     [[nodiscard]] QList<DesignerObject*> selectedItems() const override;
     [[nodiscard]] bool isValid() const override;
     [[nodiscard]] DesignerObject* activeItem() const override;

@@ -55,6 +55,10 @@ public:
     void setMergeKey(const QString& key) { m_mergeKey = key; }
     [[nodiscard]] const QString& mergeKey() const { return m_mergeKey; }
 
+    /// Refuses the whole command when one change of it is refused: UndoStack::execute() then takes back the others.
+    void setAllOrNothing(bool on) { m_allOrNothing = on; }
+    [[nodiscard]] bool isAllOrNothing() const { return m_allOrNothing; }
+
     [[nodiscard]] int childCommandCount() const { return childCount(); }
     /// The child at \a index, or null where it is no UndoCommand.
     [[nodiscard]] const UndoCommand* childCommand(int index) const;
@@ -82,6 +86,7 @@ private:
     QString m_refusal;
     QString m_mergeKey;
     State m_state = State::Fresh;
+    bool m_allOrNothing = false;
 };
 
 } // namespace Korvex::Meridane::Designer

@@ -132,7 +132,6 @@ protected:
     friend class PropertyDeclarationBase;
 
 private:
-    void sortProperties();
     bool storeValue(DesignerProperty& property, const QString& valueString, QString& message);
 
     QVector<QSharedPointer<DesignerProperty>> m_properties;

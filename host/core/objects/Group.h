@@ -16,10 +16,12 @@ public:
     [[nodiscard]] QString className() const override;
     [[nodiscard]] QStringList classNames() const override;
     [[nodiscard]] QString displayName() const override;
+    /// Width and height of the group, for the fixed point of its rotation.
+    [[nodiscard]] QString onCompletedQml(int indent) const override;
     bool initializeProperties() override;
     GraphicsItem* createGraphicsItem() override;
     [[nodiscard]] ObjectListProperty* childList() const override;
-    /// The union of the children's bounding rectangles.
+    /// The union of the children's bounding rectangles, their rotation left aside.
     [[nodiscard]] QRectF getBoundingRect() const override;
 
 private:

@@ -1,0 +1,383 @@
+#include "host/core/canvas/EditSession.h"
+
+#include "host/core/canvas/CanvasScene.h"
+#include "host/core/canvas/GraphicsItem.h"
+#include "host/core/commands/AddObject.h"
+#include "host/core/commands/ChangeProperty.h"
+#include "host/core/commands/MoveObject.h"
+#include "host/core/commands/RemoveObject.h"
+#include "host/core/commands/RenameObject.h"
+#include "host/core/objects/QmlIdentifier.h"
+#include "host/core/objects/Screen.h"
+#include "host/core/objects/VisualElement.h"
+#include "host/core/plugins/DesignerFactory.h"
+#include "host/core/project/Project.h"
+#include "host/core/project/ResourceImporter.h"
+#include "host/core/properties/DesignerProperty.h"
+#include "host/core/properties/ObjectListProperty.h"
+#include "host/core/values/ValueConversion.h"
+
+#include "host/common/LocalizationHelper.h"
+
+#include <QScopedValueRollback>
+
+namespace Korvex::Meridane::Designer {
+
+using Common::LocalizationHelper;
+
+namespace {
+
+QString text(const char* source)
+{
+    return LocalizationHelper::coreString(QString::fromUtf8(source));
+}
+
+EditResult refused(const QString& message)
+{
+    return {false, false, message};
+}
+
+} // namespace
+
+EditSession::EditSession(std::unique_ptr<Project> project, QObject* parent)
+    : QObject(parent)
+    , m_project(std::move(project))
+{
+    connect(undoStack(), &UndoStack::stepApplied, this, &EditSession::onStepApplied);
+    connect(m_project.get(), &Project::objectRemoved, this, &EditSession::onObjectRemoved);
+    connect(m_project.get(), &Project::userModificationRefused, this, &EditSession::editRefused);
+    const QVector<Screen*> screens = m_project->screens();
+    if (!screens.isEmpty())
+        m_currentScreen = screens.first();
+}
+
+EditSession::~EditSession()
+{
+    m_project->disconnect(this);
+    m_project->undoStack()->disconnect(this);
+    m_scenes.clear();
+}
+
+UndoStack* EditSession::undoStack() const
+{
+    return m_project->undoStack();
+}
+
+CanvasScene* EditSession::scene(Screen* screen)
+{
+    if (!screen)
+        return nullptr;
+    auto& scene = m_scenes[screen];
+    if (!scene) {
+        scene = std::make_unique<CanvasScene>(screen);
+        connect(scene.get(), &QGraphicsScene::selectionChanged, this,
+                [this, made = scene.get()] { onSceneSelectionChanged(made); });
+    }
+    return scene.get();
+}
+
+Screen* EditSession::currentScreen() const
+{
+    return m_currentScreen;
+}
+
+void EditSession::setCurrentScreen(Screen* screen)
+{
+    if (screen == m_currentScreen)
+        return;
+    m_currentScreen = screen;
+    Q_EMIT currentScreenChanged(screen);
+    if (screen)
+        onSceneSelectionChanged(scene(screen));
+    else
+        setSelection({});
+}
+
+void EditSession::setSelection(const QList<DesignerObject*>& objects)
+{
+    QList<DesignerObject*> chosen;
+    if (!objects.isEmpty()) {
+        Screen* screen = screenOf(objects.first());
+        if (screen) {
+            const QScopedValueRollback<bool> setting(m_settingSelection, true);
+            setCurrentScreen(screen);
+        }
+        for (DesignerObject* object : objects) {
+            if (screenOf(object) == screen)
+                chosen.append(object);
+        }
+    }
+    {
+        const QScopedValueRollback<bool> setting(m_settingSelection, true);
+        if (CanvasScene* canvas = scene(m_currentScreen))
+            canvas->setSelectedObjects(chosen);
+    }
+    if (m_selection == chosen)
+        return;
+    m_selection = chosen;
+    Q_EMIT selectionChanged();
+}
+
+EditResult EditSession::addScreen(const QString& id, const QSizeF& size, Screen** added)
+{
+    QString reason;
+    if (!id.isEmpty() && !isQmlIdentifier(id, &reason))
+        return refused(reason);
+    if (!id.isEmpty() && m_project->ownIdScope()->contains(id))
+        return refused(text("The id \"%1\" is already used.").arg(id));
+    std::unique_ptr<DesignerObject> object(
+        DesignerFactory::instance()->createDataObject(QStringLiteral("Screen"), nullptr));
+    const auto screen = qobject_cast<Screen*>(object.get());
+    screen->setIdName(id);
+    const auto sizeProperty = screen->getProperty(QStringLiteral("size"));
+    QString message;
+    if (!screen->changePropertyValue(sizeProperty,
+                                     ValueConversion::toString(size.isValid() ? size : m_project->displaySize()),
+                                     &message))
+        return refused(message);
+    const EditResult result
+        = execute(std::make_unique<AddObject>(m_project.get(), std::move(object), -1, nullptr));
+    if (result.changed) {
+        setCurrentScreen(screen);
+        setSelection({});
+        if (added)
+            *added = screen;
+    }
+    return result;
+}
+
+EditResult EditSession::removeScreen(Screen* screen)
+{
+    return execute(std::make_unique<RemoveObject>(screen, nullptr));
+}
+
+EditResult EditSession::addElement(const QString& className, Screen* screen, const QString& id,
+                                   const QMap<QString, QString>& properties, DesignerObject** added)
+{
+    if (!screen)
+        return refused(text("There is no screen to add to."));
+    if (!screen->contentError().isEmpty())
+        return refused(screen->contentError());
+    QString reason;
+    if (!id.isEmpty() && !isQmlIdentifier(id, &reason))
+        return refused(reason);
+    if (!id.isEmpty() && screen->element(id))
+        return refused(text("The id \"%1\" is already used.").arg(id));
+    const QStringList known = DesignerFactory::instance()->elementClassNames();
+    std::unique_ptr<DesignerObject> object;
+    if (known.contains(className))
+        object.reset(DesignerFactory::instance()->createDataObject(className, nullptr));
+    if (!object)
+        return refused(text("There is no element class \"%1\".").arg(className));
+    for (auto value = properties.cbegin(); value != properties.cend(); ++value) {
+        if (!object->getProperty(value.key()))
+            return refused(text("\"%1\" has no property \"%2\".").arg(className, value.key()));
+    }
+
+    scene(screen); // an edit always has items
+    object->setIdName(id);
+    DesignerObject* element = object.get();
+    auto command = std::make_unique<UndoCommand>();
+    const auto* add = new AddObject(screen, std::move(object), -1, command.get());
+    command->setText(add->text());
+    command->setAllOrNothing(true);
+    for (const auto& property : element->properties()) {
+        const auto value = properties.constFind(property->id());
+        if (value != properties.cend())
+            new ChangeProperty(property, value.value(), false, command.get());
+    }
+    const EditResult result = execute(std::move(command));
+    if (result.changed) {
+        setSelection({element});
+        if (added)
+            *added = element;
+    }
+    return result;
+}
+
+EditResult EditSession::removeElements(const QList<DesignerObject*>& elements)
+{
+    auto command = std::make_unique<UndoCommand>();
+    for (DesignerObject* element : elements) {
+        Screen* screen = screenOf(element);
+        if (!screen || element == screen)
+            continue;
+        scene(screen);
+        new RemoveObject(element, command.get());
+    }
+    const int count = command->childCommandCount();
+    if (count == 0)
+        return {true, false, {}};
+    command->setText(count == 1 ? command->childCommand(0)->text() : text("Remove %1 Elements").arg(count));
+    return execute(std::move(command));
+}
+
+EditResult EditSession::setProperty(DesignerObject* object, const QString& propertyId, const QString& value)
+{
+    return setProperties({object}, propertyId, {value});
+}
+
+EditResult EditSession::setProperties(const QList<DesignerObject*>& objects, const QString& propertyId,
+                                      const QStringList& values)
+{
+    auto command = std::make_unique<UndoCommand>();
+    command->setAllOrNothing(true);
+    for (int i = 0; i < objects.size(); ++i) {
+        DesignerObject* object = objects.at(i);
+        const auto property = object->getProperty(propertyId);
+        if (!property || dynamic_cast<const ObjectListProperty*>(property.data()))
+            return refused(text("\"%1\" has no property \"%2\".").arg(object->getIdName(), propertyId));
+        scene(screenOf(object));
+        const auto* change = new ChangeProperty(property, values.at(i), m_selection.contains(object), command.get());
+        command->setText(change->text());
+    }
+    return execute(std::move(command));
+}
+
+EditResult EditSession::moveElements(const QList<DesignerObject*>& elements, const QPointF& distance,
+                                     const QString& mergeKey)
+{
+    auto command = std::make_unique<UndoCommand>();
+    command->setText(text("Move"));
+    command->setMergeKey(mergeKey);
+    for (DesignerObject* object : elements) {
+        const auto* element = qobject_cast<VisualElement*>(object);
+        bool ok = false;
+        const QPointF position = element ? ValueConversion::toPoint(element->position()->valueString(), &ok) : QPointF();
+        if (!ok)
+            continue;
+        scene(screenOf(object));
+        new ChangeProperty(element->position(), ValueConversion::toString(position + distance),
+                           m_selection.contains(object), command.get());
+    }
+    if (command->childCommandCount() == 0)
+        return {true, false, {}};
+    return execute(std::move(command));
+}
+
+EditResult EditSession::rotateElement(DesignerObject* element, double angle, const QString& fixedPoint)
+{
+    scene(screenOf(element));
+    const GraphicsItem* item = element->graphicsItem();
+    if (!item || !item->isRotatable())
+        return refused(text("\"%1\" cannot be rotated.").arg(element->getIdName()));
+    RotationInfo rotation;
+    rotation.setAngle(angle);
+    rotation.setFixedPoint(fixedPoint);
+    const QString value = ValueConversion::toString(rotation);
+    bool ok = false;
+    (void)ValueConversion::toRotationInfo(value, &ok);
+    if (!ok)
+        return refused(text("\"%1\" is not a fixed point.").arg(fixedPoint));
+    return setProperty(element, QStringLiteral("rotation"), value);
+}
+
+EditResult EditSession::rename(DesignerObject* object, const QString& id)
+{
+    return execute(std::make_unique<RenameObject>(object, id, nullptr));
+}
+
+EditResult EditSession::reorder(DesignerObject* object, int index)
+{
+    return execute(std::make_unique<MoveObject>(object, index, nullptr));
+}
+
+EditResult EditSession::importImage(const QString& file, QString* id)
+{
+    QString message;
+    const QString fileName = ResourceImporter::importImage(m_project.get(), file, &message);
+    if (fileName.isEmpty())
+        return refused(message);
+    if (id)
+        *id = fileName;
+    return {true, false, {}};
+}
+
+EditResult EditSession::undo()
+{
+    if (!undoStack()->canUndo() || undoStack()->isBlocked())
+        return refused(text("There is nothing to undo."));
+    undoStack()->undo();
+    return {true, true, {}};
+}
+
+EditResult EditSession::redo()
+{
+    if (!undoStack()->canRedo() || undoStack()->isBlocked())
+        return refused(text("There is nothing to redo."));
+    undoStack()->redo();
+    return {true, true, {}};
+}
+
+EditResult EditSession::execute(std::unique_ptr<UndoCommand> command)
+{
+    const EditResult result = m_project->execute(std::move(command));
+    if (!result.accepted)
+        Q_EMIT editRefused(result.message);
+    return result;
+}
+
+Screen* EditSession::screenOf(DesignerObject* object) const
+{
+    for (DesignerObject* parent = object; parent; parent = parent->parentObject()) {
+        if (auto* screen = qobject_cast<Screen*>(parent))
+            return screen;
+    }
+    return nullptr;
+}
+
+void EditSession::onStepApplied(const UndoCommand* command)
+{
+    if (!command)
+        return;
+    QList<DesignerObject*> items;
+    const QList<DesignerObject*> wanted = command->selectedItems();
+    for (DesignerObject* item : wanted) {
+        if (Project::parentProject(item) == m_project.get() && item != m_project.get())
+            items.append(item);
+    }
+    if (!items.isEmpty())
+        setSelection(items);
+    else if (DesignerObject* active = command->activeItem(); active && screenOf(active))
+        setCurrentScreen(screenOf(active));
+}
+
+void EditSession::onObjectRemoved(DesignerObject* object)
+{
+    if (auto* screen = qobject_cast<Screen*>(object)) {
+        dropScene(screen);
+        return;
+    }
+    const auto gone = [object](DesignerObject* selected) {
+        for (DesignerObject* parent = selected; parent; parent = parent->parentObject()) {
+            if (parent == object)
+                return true;
+        }
+        return false;
+    };
+    if (m_selection.removeIf(gone) > 0)
+        Q_EMIT selectionChanged();
+}
+
+void EditSession::onSceneSelectionChanged(CanvasScene* scene)
+{
+    if (m_settingSelection || scene->screen() != m_currentScreen)
+        return;
+    const QList<DesignerObject*> objects = scene->selectedObjects();
+    if (objects == m_selection)
+        return;
+    m_selection = objects;
+    Q_EMIT selectionChanged();
+}
+
+void EditSession::dropScene(Screen* screen)
+{
+    if (m_currentScreen == screen) {
+        const QVector<Screen*> screens = m_project->screens();
+        setCurrentScreen(screens.isEmpty() ? nullptr : screens.first());
+        setSelection({});
+    }
+    m_scenes.erase(screen);
+}
+
+} // namespace Korvex::Meridane::Designer

@@ -1,0 +1,43 @@
+#include "host/core/objects/BoundingSizeReaction.h"
+
+#include <algorithm>
+
+namespace Korvex::Meridane::Designer {
+
+namespace {
+
+/// Exact, and false where a value is not a number.
+bool differs(double a, double b)
+{
+    return a < b || a > b;
+}
+
+QSizeF heightFollows(double width, double ratio, double smallest)
+{
+    const double height = width / ratio;
+    return height < smallest ? QSizeF(smallest * ratio, smallest) : QSizeF(width, height);
+}
+
+QSizeF widthFollows(double height, double ratio, double smallest)
+{
+    const double width = height * ratio;
+    return width < smallest ? QSizeF(smallest, smallest / ratio) : QSizeF(width, height);
+}
+
+} // namespace
+
+std::optional<QSizeF> reactToBoundingSize(const QSizeF& before, const QSizeF& wanted, double smallest, double ratio)
+{
+    const bool keep = ratio > 0;
+    const bool widthChanged = differs(before.width(), wanted.width());
+    const bool heightChanged = differs(before.height(), wanted.height());
+    const double width = widthChanged ? std::max(wanted.width(), smallest) : wanted.width();
+    const double height = heightChanged ? std::max(wanted.height(), smallest) : wanted.height();
+    if (widthChanged)
+        return keep ? heightFollows(width, ratio, smallest) : QSizeF(width, height);
+    if (heightChanged)
+        return keep ? widthFollows(height, ratio, smallest) : QSizeF(width, height);
+    return std::nullopt;
+}
+
+} // namespace Korvex::Meridane::Designer
