@@ -33,7 +33,7 @@ target_compile_definitions(MeridaneOptions INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH QT_NO_KEYWORDS
     QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 target_compile_options(MeridaneOptions INTERFACE
-    -Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Wcast-align -Wunused -Woverloaded-virtual -Wnull-dereference
+    -Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Wcast-align -Wunused -Woverloaded-virtual
     $<$<BOOL:${MERIDANE_WERROR}>:-Werror>)
 if(MERIDANE_SANITIZERS)
     # Undefined behaviour ends the program instead of printing a line that nobody reads.
