@@ -26,6 +26,7 @@ set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
 set(MERIDANE_PLUGIN_DIR "${CMAKE_BINARY_DIR}/plugins")
 set(MERIDANE_QML_DIR "${CMAKE_BINARY_DIR}/qml")
 set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
+set(CMAKE_INSTALL_RPATH "$ORIGIN/../lib")
 
 add_library(MeridaneOptions INTERFACE)
 target_include_directories(MeridaneOptions INTERFACE "${CMAKE_SOURCE_DIR}")
