@@ -1,38 +1,15 @@
 #include "host/core/values/ValueConversion.h"
 
+#include "host/core/values/FontSpacing.h"
 #include "host/core/values/GroupText.h"
 #include "host/core/values/NumberText.h"
 
 #include <cmath>
-#include <cstdlib>
 
 namespace Korvex::Meridane::Designer
 {
 namespace
 {
-/** QFont keeps spacings as whole 64ths of a pixel and drops what lies beyond; this is the number it keeps. */
-int toSixtyFourths(double spacing)
-{
-    return static_cast<int>(spacing * 64);
-}
-
-/**
- * @p spacing with as few decimals as QFont's resolution allows: the text that was entered (0.1) instead of the 64ths
- * that QFont made of it (0.09375). Two decimals always suffice, because a hundredth is less than a 64th.
- */
-QString spacingToString(double spacing)
-{
-    const int kept = toSixtyFourths(spacing);
-    const double magnitude = std::abs(kept) / 64.0;
-    for (const double scale : {1.0, 10.0, 100.0}) {
-        const double candidate = std::copysign(std::ceil(magnitude * scale) / scale, spacing);
-        if (toSixtyFourths(candidate) == kept) {
-            return ValueConversion::toString(candidate);
-        }
-    }
-    return ValueConversion::toString(kept / 64.0);
-}
-
 /** Collects the pairs of a font group; each may come once and in any order. */
 class FontReader
 {
@@ -99,10 +76,10 @@ public:
         font.setUnderline(m_underline.value_or(false));
         font.setOverline(m_overline.value_or(false));
         font.setStrikeOut(m_strikeOut.value_or(false));
-        if (toSixtyFourths(m_letterSpacing.value_or(0)) != 0) {
+        if (keptSpacing(m_letterSpacing.value_or(0)) != 0) {
             font.setLetterSpacing(QFont::AbsoluteSpacing, *m_letterSpacing);
         }
-        if (toSixtyFourths(m_wordSpacing.value_or(0)) != 0) {
+        if (keptSpacing(m_wordSpacing.value_or(0)) != 0) {
             font.setWordSpacing(*m_wordSpacing);
         }
         return font;
@@ -186,11 +163,11 @@ QString ValueConversion::toString(const QFont &font)
     appendFlag(u"underline", font.underline());
     appendFlag(u"overline", font.overline());
     appendFlag(u"strikeOut", font.strikeOut());
-    if (font.letterSpacingType() == QFont::AbsoluteSpacing && toSixtyFourths(font.letterSpacing()) != 0) {
-        appendPair(text, u"letterSpacing", spacingToString(font.letterSpacing()));
+    if (font.letterSpacingType() == QFont::AbsoluteSpacing && keptSpacing(font.letterSpacing()) != 0) {
+        appendPair(text, u"letterSpacing", toString(shortestSpacing(font.letterSpacing())));
     }
-    if (toSixtyFourths(font.wordSpacing()) != 0) {
-        appendPair(text, u"wordSpacing", spacingToString(font.wordSpacing()));
+    if (keptSpacing(font.wordSpacing()) != 0) {
+        appendPair(text, u"wordSpacing", toString(shortestSpacing(font.wordSpacing())));
     }
     if (font.weight() != QFont::Bold && font.weight() != QFont::Normal) {
         appendPair(text, u"weight", toString(static_cast<int>(font.weight())));
