@@ -1,0 +1,90 @@
+#include "host/core/widgets/FontStyleButton.h"
+
+#include "host/common/LocalizationHelper.h"
+
+namespace Korvex::Meridane::Designer
+{
+namespace
+{
+bool hasStyle(const QFont &font, FontStyleButton::Style style)
+{
+    switch (style) {
+    case FontStyleButton::Style::Bold:
+        return font.bold();
+    case FontStyleButton::Style::Italic:
+        return font.italic();
+    case FontStyleButton::Style::Underline:
+        return font.underline();
+    case FontStyleButton::Style::Overline:
+        return font.overline();
+    case FontStyleButton::Style::StrikeOut:
+        return font.strikeOut();
+    }
+    return false;
+}
+
+QFont withStyle(QFont font, FontStyleButton::Style style, bool set)
+{
+    switch (style) {
+    case FontStyleButton::Style::Bold:
+        font.setBold(set);
+        break;
+    case FontStyleButton::Style::Italic:
+        font.setItalic(set);
+        break;
+    case FontStyleButton::Style::Underline:
+        font.setUnderline(set);
+        break;
+    case FontStyleButton::Style::Overline:
+        font.setOverline(set);
+        break;
+    case FontStyleButton::Style::StrikeOut:
+        font.setStrikeOut(set);
+        break;
+    }
+    return font;
+}
+
+QString styleName(FontStyleButton::Style style)
+{
+    switch (style) {
+    case FontStyleButton::Style::Bold:
+        return QStringLiteral("Bold");
+    case FontStyleButton::Style::Italic:
+        return QStringLiteral("Italic");
+    case FontStyleButton::Style::Underline:
+        return QStringLiteral("Underline");
+    case FontStyleButton::Style::Overline:
+        return QStringLiteral("Overline");
+    case FontStyleButton::Style::StrikeOut:
+        return QStringLiteral("Strikeout");
+    }
+    return QString();
+}
+}
+
+FontStyleButton::FontStyleButton(Style style, QWidget *parent)
+    : QToolButton(parent)
+    , m_style(style)
+{
+    const QString name = Common::LocalizationHelper::coreString(styleName(style));
+    setText(name.left(1));
+    setToolTip(name);
+    setAccessibleName(name);
+    setFont(withStyle(font(), style, true));
+    setCheckable(true);
+    setAutoRaise(true);
+    setFocusPolicy(Qt::StrongFocus);
+    connect(this, &QToolButton::clicked, this, &FontStyleButton::userModified);
+}
+
+void FontStyleButton::showFont(const QFont &font)
+{
+    setChecked(hasStyle(font, m_style));
+}
+
+QFont FontStyleButton::appliedTo(const QFont &font) const
+{
+    return withStyle(font, m_style, isChecked());
+}
+}
