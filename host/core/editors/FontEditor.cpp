@@ -1,0 +1,77 @@
+#include "host/core/editors/FontEditor.h"
+
+#include "host/core/values/ValueConversion.h"
+#include "host/core/widgets/ComboBox.h"
+#include "host/core/widgets/FontFamilyBox.h"
+#include "host/core/widgets/FontStyleButton.h"
+#include "host/core/widgets/FontWidget.h"
+#include "host/core/widgets/SpinBox.h"
+
+#include <array>
+
+namespace Korvex::Meridane::Designer {
+
+namespace {
+
+/// The components in the order of FontWidget::styleButtons().
+constexpr std::array StyleComponents {"bold", "italic", "underline", "overline", "strikeOut"};
+
+} // namespace
+
+FontEditor::FontEditor(QWidget* parent)
+    : StandardEditor(parent)
+{
+}
+
+FontEditor::~FontEditor() = default;
+
+QString FontEditor::className() const
+{
+    return QStringLiteral("FontEditor");
+}
+
+bool FontEditor::createEditorWidget()
+{
+    m_widget = new FontWidget(this);
+    // The parts of the widget tell which attribute was edited; they report after the widget has its new font.
+    const auto save = [this](const char* component) {
+        return [this, component] { edit(QString::fromLatin1(component)); };
+    };
+    connect(m_widget->familyBox(), &FontFamilyBox::userModified, this, save("family"));
+    connect(m_widget->sizeField(), &SpinBox::userModified, this, save("size"));
+    connect(m_widget->unitBox(), &ComboBox::userModified, this, save("size"));
+    connect(m_widget->weightBox(), &ComboBox::userModified, this, save("bold"));
+    connect(m_widget->letterSpacingField(), &SpinBox::userModified, this, save("letterSpacing"));
+    connect(m_widget->wordSpacingField(), &SpinBox::userModified, this, save("wordSpacing"));
+    for (qsizetype i = 0; i < m_widget->styleButtons().size(); ++i) {
+        connect(m_widget->styleButtons().at(i), &FontStyleButton::userModified, this,
+                save(StyleComponents.at(static_cast<std::size_t>(i))));
+    }
+    for (SpinBox* field : {m_widget->sizeField(), m_widget->letterSpacingField(), m_widget->wordSpacingField()})
+        joinSteps(field);
+    setEditorWidget(m_widget);
+    return true;
+}
+
+bool FontEditor::showValue(const QString& value)
+{
+    bool ok = false;
+    const QFont font = ValueConversion::toFont(value, &ok);
+    if (ok)
+        m_widget->setFont(font);
+    const auto mixed = [this, ok](const char* component) { return !ok || isMixed(QString::fromLatin1(component)); };
+    m_widget->familyBox()->setMixed(mixed("family"));
+    m_widget->sizeField()->setMixed(mixed("size"));
+    m_widget->unitBox()->setMixed(mixed("size"));
+    m_widget->weightBox()->setMixed(mixed("bold"));
+    m_widget->letterSpacingField()->setMixed(mixed("letterSpacing"));
+    m_widget->wordSpacingField()->setMixed(mixed("wordSpacing"));
+    return ok;
+}
+
+QString FontEditor::widgetValue() const
+{
+    return ValueConversion::toString(m_widget->font());
+}
+
+} // namespace Korvex::Meridane::Designer

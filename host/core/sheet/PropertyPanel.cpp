@@ -1,0 +1,116 @@
+#include "host/core/sheet/PropertyPanel.h"
+
+#include "host/core/editors/PropertyEditor.h"
+#include "host/core/objects/DesignerObject.h"
+#include "host/core/properties/DesignerProperty.h"
+#include "host/core/sheet/EditorMatcher.h"
+#include "host/core/sheet/PropertyField.h"
+#include "host/core/sheet/PropertyRow.h"
+#include "host/core/sheet/SheetMetrics.h"
+
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace Korvex::Meridane::Designer {
+
+PropertyPanel::PropertyPanel(const QList<RowDescription>& descriptions, bool several,
+                             const QList<DesignerObject*>& objects, EditSession* session,
+                             DirectChangeRecorder* recorder, QWidget* parent)
+    : QWidget(parent)
+    , m_descriptions(descriptions)
+    , m_several(several)
+{
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(SheetMetrics::RowGap);
+    for (const RowDescription& description : descriptions) {
+        if (const auto property = objects.first()->getProperty(description.propertyId))
+            addRow(description, *property, recorder, session);
+    }
+    bind(objects);
+}
+
+PropertyPanel::~PropertyPanel() = default;
+
+bool PropertyPanel::fits(const QList<RowDescription>& descriptions, bool several) const
+{
+    return m_several == several && m_descriptions == descriptions;
+}
+
+void PropertyPanel::bind(const QList<DesignerObject*>& objects)
+{
+    for (PropertyRow* row : std::as_const(m_rows))
+        row->setMessage({});
+    for (const RowDescription& description : std::as_const(m_descriptions)) {
+        if (PropertyField* field = m_fields.value(description.propertyId))
+            field->bind(propertiesOf(description, objects));
+    }
+}
+
+PropertyRow* PropertyPanel::rowOf(const QWidget* widget) const
+{
+    const auto row = std::find_if(m_rows.begin(), m_rows.end(),
+                                  [widget](const PropertyRow* candidate) { return candidate->holds(widget); });
+    return row == m_rows.end() ? nullptr : *row;
+}
+
+int PropertyPanel::wantedLabelWidth() const
+{
+    int width = 0;
+    for (const PropertyRow* row : m_rows)
+        width = std::max(width, row->wantedLabelWidth());
+    return width;
+}
+
+void PropertyPanel::arrange(int labelWidth, int rowWidth)
+{
+    for (PropertyRow* row : std::as_const(m_rows))
+        row->arrange(labelWidth, rowWidth);
+}
+
+void PropertyPanel::focusMoved()
+{
+    for (PropertyField* field : std::as_const(m_fields))
+        field->focusMoved();
+}
+
+void PropertyPanel::addRow(const RowDescription& description, const DesignerProperty& property,
+                           DirectChangeRecorder* recorder, EditSession* session)
+{
+    const bool joins = joinsRowBefore(description);
+    PropertyRow* row = joins ? m_rows.last() : new PropertyRow(description, this);
+    PropertyEditor* editor = EditorMatcher::createEditor(property, row);
+    auto* field = editor ? new PropertyField(editor, m_several, recorder, this) : nullptr;
+    if (editor) {
+        editor->setSession(session);
+        // Which widget is built depends on the property, so that it must be there; its value comes with bind().
+        editor->setProperty(property.parentObject()->getProperty(property.id()));
+    }
+    if (!editor || !editor->initialize()) {
+        delete field;
+        delete editor;
+        if (!joins)
+            delete row;
+        return;
+    }
+    editor->setObjectName(QStringLiteral("editor_") + description.propertyId);
+    editor->setAccessibleName(description.label);
+    editor->setEnabled(description.editable);
+    row->addField(field);
+    m_fields.insert(description.propertyId, field);
+    if (joins)
+        return;
+    m_lastRowClass = description.propertyClass;
+    m_rows.append(row);
+    layout()->addWidget(row);
+}
+
+bool PropertyPanel::joinsRowBefore(const RowDescription& description) const
+{
+    return description.editorClass == QLatin1String("KeepRatioEditor")
+        && m_lastRowClass == QLatin1String("SizeProperty") && !m_rows.isEmpty()
+        && m_rows.last()->fields().size() == 1;
+}
+
+} // namespace Korvex::Meridane::Designer

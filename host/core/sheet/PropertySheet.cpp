@@ -1,0 +1,335 @@
+#include "host/core/sheet/PropertySheet.h"
+
+#include "host/core/canvas/EditSession.h"
+#include "host/core/commands/UndoCommand.h"
+#include "host/core/editors/PropertyEditor.h"
+#include "host/core/objects/Screen.h"
+#include "host/core/project/Project.h"
+#include "host/core/properties/DesignerProperty.h"
+#include "host/core/sheet/DirectChangeRecorder.h"
+#include "host/core/sheet/PropertyField.h"
+#include "host/core/sheet/PropertyPanel.h"
+#include "host/core/sheet/PropertyRow.h"
+#include "host/core/sheet/SheetColors.h"
+#include "host/core/sheet/SheetHeading.h"
+#include "host/core/sheet/SheetMetrics.h"
+
+#include "host/common/LocalizationHelper.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QLabel>
+#include <QScrollBar>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <memory>
+
+namespace Korvex::Meridane::Designer {
+
+using Common::LocalizationHelper;
+
+namespace {
+
+/// Sets of rows that are kept for the next selection that needs them.
+constexpr int KeptPanels = 12;
+
+} // namespace
+
+PropertySheet::PropertySheet(EditSession* session, QWidget* parent)
+    : QScrollArea(parent)
+    , m_content(new QWidget)
+    , m_column(new QVBoxLayout(m_content))
+    , m_heading(new SheetHeading(m_content))
+    , m_hint(new QLabel(m_content))
+    , m_recorder(new DirectChangeRecorder(this))
+    , m_refreshTimer(new QTimer(this))
+{
+    setObjectName(QStringLiteral("propertySheet"));
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFocusPolicy(Qt::NoFocus);
+    m_hint->setText(LocalizationHelper::coreString(
+        QStringLiteral("There is no screen yet. Add one, and its properties appear here.")));
+    m_hint->setTextFormat(Qt::PlainText);
+    m_hint->setWordWrap(true);
+    m_hint->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    m_column->setContentsMargins(SheetMetrics::Margin, SheetMetrics::Margin, SheetMetrics::Margin,
+                                 SheetMetrics::Margin);
+    m_column->setSpacing(SheetMetrics::RowGap);
+    m_column->addWidget(m_hint);
+    m_column->addWidget(m_heading);
+    m_column->addStretch(1);
+    setWidget(m_content);
+    colorHint();
+
+    m_refreshTimer->setSingleShot(true);
+    m_refreshTimer->setInterval(0);
+    connect(m_refreshTimer, &QTimer::timeout, this, &PropertySheet::refreshStaleFields);
+    connect(m_recorder, &DirectChangeRecorder::changedDirectly, this, &PropertySheet::keepDirectChanges);
+    connect(qApp, &QApplication::focusChanged, this, &PropertySheet::onFocusChanged);
+    setSession(session);
+}
+
+PropertySheet::~PropertySheet()
+{
+    m_recorder->setActive(false);
+}
+
+EditSession* PropertySheet::session() const
+{
+    return qobject_cast<EditSession*>(m_session.data());
+}
+
+void PropertySheet::setSession(EditSession* session)
+{
+    if (EditSession* before = this->session()) {
+        showObjects({});
+        before->disconnect(this);
+        before->project()->disconnect(this);
+    }
+    // Editors keep the session that they were built for.
+    showObjects({});
+    qDeleteAll(m_panels);
+    m_panels.clear();
+    m_session = session;
+    m_heading->setSession(session);
+    if (!session)
+        return;
+
+    const Project* project = session->project();
+    connect(session, &EditSession::selectionChanged, this, &PropertySheet::showSelection);
+    connect(session, &EditSession::currentScreenChanged, this, &PropertySheet::showSelection);
+    connect(session, &QObject::destroyed, this, [this] { showObjects({}); });
+    connect(project, &Project::objectPropertyChanged, this, &PropertySheet::onPropertyChanged);
+    connect(project, &Project::objectRenamed, this, [this] { m_heading->refresh(); });
+    connect(project, &Project::objectAdded, this, [this](const DesignerObject* object) {
+        if (qobject_cast<const Screen*>(object))
+            showSelection();
+    });
+    connect(project, &Project::objectRemoved, this, [this](const DesignerObject* object) {
+        if (m_objectSet.contains(object))
+            showSelection();
+    });
+    connect(project, &Project::userModificationRefused, this, &PropertySheet::onModificationRefused);
+    showSelection();
+}
+
+PropertyEditor* PropertySheet::editor(const QString& propertyId) const
+{
+    const PropertyField* field = m_panel ? m_panel->field(propertyId) : nullptr;
+    return field ? field->editor() : nullptr;
+}
+
+QString PropertySheet::message(const QString& propertyId) const
+{
+    const PropertyRow* row = m_panel ? m_panel->rowOf(editor(propertyId)) : nullptr;
+    return row ? row->message() : QString();
+}
+
+QString PropertySheet::title() const
+{
+    return m_objects.isEmpty() ? QString() : m_heading->title();
+}
+
+QSize PropertySheet::sizeHint() const
+{
+    return {280, 480};
+}
+
+void PropertySheet::resizeEvent(QResizeEvent* event)
+{
+    QScrollArea::resizeEvent(event);
+    arrange();
+}
+
+void PropertySheet::changeEvent(QEvent* event)
+{
+    QScrollArea::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange) {
+        colorHint();
+    } else if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        arrange();
+    }
+}
+
+void PropertySheet::colorHint()
+{
+    QPalette quiet = m_hint->palette();
+    quiet.setColor(QPalette::WindowText, quietColor(palette()));
+    m_hint->setPalette(quiet);
+}
+
+void PropertySheet::showSelection()
+{
+    const EditSession* current = session();
+    const Project* project = current ? current->project() : nullptr;
+    QList<DesignerObject*> objects;
+    if (current) {
+        // An object that is just being taken out may still be selected.
+        for (DesignerObject* object : current->selection()) {
+            if (Project::parentProject(object) == project)
+                objects.append(object);
+        }
+        DesignerObject* screen = current->currentScreen();
+        if (objects.isEmpty() && screen && Project::parentProject(screen) == project)
+            objects.append(screen);
+    }
+    showObjects(objects);
+}
+
+void PropertySheet::showObjects(const QList<DesignerObject*>& objects)
+{
+    if (objects == m_objects && !objects.isEmpty()) {
+        rebuildIfNeeded();
+        return;
+    }
+    finishTyping();
+    m_staleIds.clear();
+    m_objects = objects;
+    m_objectSet = QSet<const DesignerObject*>(objects.begin(), objects.end());
+    m_recorder->setActive(objects.size() > 1);
+    m_heading->setObjects(objects);
+    m_heading->setVisible(!objects.isEmpty());
+    m_hint->setVisible(objects.isEmpty());
+    showPanel(objects.isEmpty() ? nullptr : panelFor(objects));
+    verticalScrollBar()->setValue(0);
+}
+
+/// Takes a text that is being typed over before its object goes out of sight.
+void PropertySheet::finishTyping()
+{
+    QWidget* focused = QApplication::focusWidget();
+    if (!focused || !m_content->isAncestorOf(focused))
+        return;
+    const EditSession* current = session();
+    const bool alive = current && std::all_of(m_objects.begin(), m_objects.end(), [current](DesignerObject* object) {
+                           return Project::parentProject(object) == current->project();
+                       });
+    if (alive)
+        focused->clearFocus();
+    else if (m_panel)
+        m_panel->bind({});
+}
+
+PropertyPanel* PropertySheet::panelFor(const QList<DesignerObject*>& objects)
+{
+    // A screen reads its properties when its content is first asked for.
+    for (const DesignerObject* object : objects)
+        (void)object->childList();
+    const QList<RowDescription> rows = commonRows(objects);
+    const bool several = objects.size() > 1;
+    const auto known = std::find_if(m_panels.begin(), m_panels.end(),
+                                    [&](const PropertyPanel* panel) { return panel->fits(rows, several); });
+    if (known != m_panels.end()) {
+        PropertyPanel* panel = *known;
+        m_panels.erase(known);
+        m_panels.prepend(panel);
+        panel->bind(objects);
+        return panel;
+    }
+    auto* panel = new PropertyPanel(rows, several, objects, session(), m_recorder, m_content);
+    ++m_builtPanels;
+    m_panels.prepend(panel);
+    m_column->insertWidget(m_column->count() - 1, panel);
+    while (m_panels.size() > KeptPanels) {
+        PropertyPanel* oldest = m_panels.takeLast();
+        oldest->bind({});
+        oldest->hide();
+        oldest->deleteLater();
+    }
+    return panel;
+}
+
+void PropertySheet::showPanel(PropertyPanel* panel)
+{
+    if (m_panel && m_panel != panel) {
+        m_panel->bind({});
+        m_panel->hide();
+    }
+    m_panel = panel;
+    arrange();
+    if (panel)
+        panel->show();
+}
+
+void PropertySheet::onPropertyChanged(DesignerObject* object, const QSharedPointer<DesignerProperty>& property)
+{
+    if (!m_panel || !m_objectSet.contains(object))
+        return;
+    PropertyField* field = m_panel->field(property->id());
+    // The editor that saves brings itself up to date.
+    if (field && !field->editor()->isSaving()) {
+        m_staleIds.insert(property->id());
+        if (m_objects.size() == 1)
+            refreshStaleFields();
+    }
+    if (!m_refreshTimer->isActive())
+        m_refreshTimer->start();
+}
+
+void PropertySheet::refreshStaleFields()
+{
+    const QSet<QString> ids = std::exchange(m_staleIds, {});
+    for (const QString& id : ids) {
+        if (PropertyField* field = m_panel ? m_panel->field(id) : nullptr)
+            field->refresh();
+    }
+    if (sender() == m_refreshTimer)
+        rebuildIfNeeded();
+}
+
+void PropertySheet::onFocusChanged(QWidget* old, QWidget* now)
+{
+    if (!m_panel || !old || !m_panel->isAncestorOf(old))
+        return;
+    m_panel->focusMoved();
+    if (now && m_content->isAncestorOf(now))
+        ensureWidgetVisible(now, 0, SheetMetrics::Margin);
+}
+
+void PropertySheet::onModificationRefused(const QString& message)
+{
+    // An editor that hands its own commands to the project: the message belongs below the field in use.
+    if (PropertyRow* row = m_panel ? m_panel->rowOf(QApplication::focusWidget()) : nullptr)
+        row->setMessage(message);
+}
+
+void PropertySheet::keepDirectChanges(const QVector<PropertyChange>& changes)
+{
+    EditSession* current = session();
+    if (!current || changes.isEmpty())
+        return;
+    auto step = std::make_unique<UndoCommand>();
+    step->setText(LocalizationHelper::coreString(QStringLiteral("Change %1")).arg(changes.first().property->name()));
+    step->adopt(changes);
+    current->project()->execute(std::move(step));
+}
+
+/// An element may show, hide or lock properties in reaction to a change.
+void PropertySheet::rebuildIfNeeded()
+{
+    if (!m_panel || m_objects.isEmpty())
+        return;
+    const QList<RowDescription> rows = commonRows(m_objects);
+    if (rows != m_panel->descriptions()) {
+        finishTyping();
+        showPanel(panelFor(m_objects));
+    }
+}
+
+void PropertySheet::arrange()
+{
+    const int width = viewport()->width() - 2 * SheetMetrics::Margin;
+    int label = m_heading->wantedLabelWidth();
+    if (m_panel)
+        label = std::max(label, m_panel->wantedLabelWidth());
+    label = std::min(label, SheetMetrics::largestLabelWidth(viewport()->width()));
+    m_heading->arrange(label);
+    if (m_panel)
+        m_panel->arrange(label, width);
+}
+
+} // namespace Korvex::Meridane::Designer

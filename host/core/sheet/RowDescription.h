@@ -1,0 +1,39 @@
+#pragma once
+
+#include "host/core/CoreExport.h"
+
+#include <QList>
+#include <QMap>
+#include <QSharedPointer>
+#include <QString>
+#include <QVariant>
+
+namespace Korvex::Meridane::Designer {
+
+class DesignerObject;
+class DesignerProperty;
+
+/// All that a row of the property sheet is built from. Objects with equal descriptions can share one set of rows.
+struct RowDescription {
+    QString propertyId;
+    QString propertyClass;
+    QString editorClass;
+    QString label;
+    QMap<QString, QVariant> parameters;
+    bool editable = true;
+
+    friend bool operator==(const RowDescription& left, const RowDescription& right) = default;
+};
+
+/**
+ * The rows that \a objects have in common, by rank: the properties that are Shown in each and have the same id and class
+ * everywhere. A row is editable when the property is Editable in each. Label, editor and parameters are the first
+ * object's.
+ */
+[[nodiscard]] QList<RowDescription> commonRows(const QList<DesignerObject*>& objects);
+
+/// The property of each object that a row shows, in the order of \a objects; empty when one of them lacks it.
+[[nodiscard]] QList<QSharedPointer<DesignerProperty>> propertiesOf(const RowDescription& row,
+                                                                   const QList<DesignerObject*>& objects);
+
+} // namespace Korvex::Meridane::Designer
