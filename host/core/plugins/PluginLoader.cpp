@@ -45,6 +45,9 @@ QString verify(QLibrary& library)
 IDesignerFactory* PluginLoader::load(const QString& file, QString* message)
 {
     const QString path = QFileInfo(file).absoluteFilePath();
+    // Made before the library is loaded: Qt then reads the metadata from the file, later it would ask a symbol for them
+    // that plug-ins do not export.
+    QPluginLoader loader(path);
     QLibrary library(path);
     // An unresolved symbol of a foreign library must show here, not when it is first called.
     library.setLoadHints(QLibrary::ResolveAllSymbolsHint);
@@ -55,7 +58,6 @@ IDesignerFactory* PluginLoader::load(const QString& file, QString* message)
         return nullptr;
     }
 
-    QPluginLoader loader(path);
     auto* factory = qobject_cast<IDesignerFactory*>(loader.instance());
     if (!factory) {
         *message = refusal(
