@@ -8,8 +8,13 @@
 namespace Korvex::Meridane::Designer {
 
 /// Something wrong with a project, named so that the user can find it.
-struct MERIDANE_CORE_EXPORT Problem {
-    enum class Severity { Warning, Error };
+struct MERIDANE_CORE_EXPORT Problem
+{
+    enum class Severity
+    {
+        Warning,
+        Error
+    };
 
     Severity severity = Severity::Error;
     QString file; ///< path relative to the project's folder, or absolute when there is no folder
@@ -17,8 +22,16 @@ struct MERIDANE_CORE_EXPORT Problem {
     QString property; ///< the property's id, or empty
     QString message; ///< what is wrong and what to do, a sentence
 
-    /// One line: "file: object.property: message".
+    [[nodiscard]] static Problem error(const QString& file, const QString& object, const QString& property,
+                                       const QString& message);
+    [[nodiscard]] static Problem warning(const QString& file, const QString& object, const QString& property,
+                                         const QString& message);
+
+    /// One line: "file: object.property: message". What is empty is left out; control characters are shown as "\n",
+    /// "\t" or "\u001b", so that no text of a project can forge a line of its own.
     [[nodiscard]] QString text() const;
+
+    friend bool operator==(const Problem& a, const Problem& b) = default;
 };
 
 } // namespace Korvex::Meridane::Designer

@@ -6,12 +6,21 @@ namespace Korvex::Meridane::Designer {
 
 class Project;
 
-/// Writes a project as QML that a display runs: `Main.qml`, `screens/<id>.qml`, the images and fonts used.
+/**
+ * Writes a project as QML that a display runs: `Main.qml`, `screens/<id>.qml`, the images and fonts used, and
+ * `.meridane-export`, which lists the fingerprints of all these files.
+ */
 class MERIDANE_CORE_EXPORT QmlExporter
 {
 public:
-    /// Exports into \a folder, which is made or holds an earlier export; what an export did not write is never
-    /// overwritten. On problems nothing is left half-written. Empty: done. The result is the same for the same project.
+    QmlExporter() = delete;
+
+    /**
+     * Exports into \a folder, which is made, is empty, or holds an earlier export that nobody has changed; anything else
+     * is refused. Screens that cannot be read, elements of unknown classes and images that are missing are refused too:
+     * the display would lack them. On problems nothing is written. Empty: done. The result is the same, byte for byte,
+     * for the same project.
+     */
     [[nodiscard]] static QList<Problem> exportProject(Project* project, const QString& folder);
 };
 

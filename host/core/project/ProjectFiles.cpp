@@ -1,0 +1,173 @@
+#include "host/core/project/ProjectFiles.h"
+
+#include "host/core/objects/Screen.h"
+#include "host/core/project/ElementReader.h"
+#include "host/core/project/FileOperations.h"
+#include "host/core/project/ImageReferences.h"
+#include "host/core/project/JsonText.h"
+#include "host/core/project/Project.h"
+
+#include "host/common/LocalizationHelper.h"
+
+#include <algorithm>
+
+namespace Korvex::Meridane::Designer {
+
+using Common::LocalizationHelper;
+
+ProjectFiles::ProjectFiles(Project* project)
+    : QObject(project)
+    , m_project(project)
+{
+    connect(project, &Project::resourcesChanged, this, &ProjectFiles::noteImages);
+}
+
+ProjectFiles::~ProjectFiles()
+{
+    removeDiscardedImages();
+}
+
+ProjectFiles* ProjectFiles::of(Project* project)
+{
+    auto* files = project->findChild<ProjectFiles*>(QString(), Qt::FindDirectChildrenOnly);
+    return files ? files : new ProjectFiles(project);
+}
+
+const ProjectFiles* ProjectFiles::find(const Project* project)
+{
+    return project->findChild<ProjectFiles*>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+ProjectFolder ProjectFiles::folder() const
+{
+    return ProjectFolder(m_project->folder());
+}
+
+void ProjectFiles::setFolder(const QString& folder)
+{
+    m_project->setFolder(folder);
+    m_folderPath = folder;
+    m_temporaryFolder.reset();
+}
+
+void ProjectFiles::setTemporaryFolder(std::unique_ptr<QTemporaryDir> folder)
+{
+    setFolder(folder->path());
+    m_temporaryFolder = std::move(folder);
+}
+
+void ProjectFiles::addScreen(Screen* screen, const QString& file)
+{
+    m_screens.push_back({screen, file, {}, {}});
+    screen->setContentReader([files = QPointer<ProjectFiles>(this)](Screen* unread) {
+        if (files)
+            files->readScreen(unread);
+    });
+}
+
+ProjectFiles::ScreenFile* ProjectFiles::screenFile(const Screen* screen)
+{
+    const auto found = std::find_if(m_screens.begin(), m_screens.end(),
+                                    [screen](const ScreenFile& entry) { return entry.screen == screen; });
+    return found == m_screens.end() ? nullptr : &*found;
+}
+
+QList<Problem> ProjectFiles::allProblems() const
+{
+    QList<Problem> problems = m_problems;
+    for (const ScreenFile& entry : m_screens) {
+        if (entry.screen && entry.screen->parentObject())
+            problems.append(entry.problems);
+    }
+    return problems;
+}
+
+void ProjectFiles::setForeignResources(const QStringList& images, const QStringList& fonts)
+{
+    m_foreignImages = images;
+    m_foreignFonts = fonts;
+    noteImages();
+}
+
+void ProjectFiles::setReservedImages(const QStringList& images)
+{
+    m_reservedImages = QSet<QString>(images.cbegin(), images.cend());
+}
+
+void ProjectFiles::readScreen(Screen* screen)
+{
+    ScreenFile* entry = screenFile(screen);
+    if (!entry)
+        return;
+    QString error;
+    if (readScreenFile(*entry, screen, &error))
+        return;
+    screen->setContentError(error);
+    entry->problems = {
+        Problem::error(entry->file, screen->getIdName(), {},
+                       error + QLatin1Char(' ')
+                           + LocalizationHelper::coreString(QStringLiteral(
+                               "The screen cannot be shown; its file is left as it is until it has been corrected.")))};
+}
+
+bool ProjectFiles::readScreenFile(ScreenFile& entry, Screen* screen, QString* error)
+{
+    QByteArray content;
+    switch (folder().read(entry.file, &content, error)) {
+    case ProjectFolder::Found::Nothing:
+        *error = LocalizationHelper::coreString(QStringLiteral("The file of the screen is missing."));
+        return false;
+    case ProjectFolder::Found::Refused:
+        return false;
+    case ProjectFolder::Found::File:
+        break;
+    }
+    const std::optional<QJsonObject> object = JsonText::parse(content, error);
+    if (!object)
+        return false;
+    ElementReader reader(entry.file, screen->getIdName());
+    if (!reader.readScreen(*object, screen, error))
+        return false;
+    setContent(entry.file, content);
+    entry.problems = reader.problems();
+    addImageLinks(ImageReferences::linked(screen));
+    return true;
+}
+
+/// An image is the project's own from the moment at which it is offered and was not found in the folder.
+void ProjectFiles::noteImages()
+{
+    const QStringList& images = m_project->imageResources();
+    for (const QString& image : images) {
+        if (!m_foreignImages.contains(image))
+            m_ownImages.insert(image);
+    }
+}
+
+void ProjectFiles::removeDiscardedImages()
+{
+    if (m_discardedImages.isEmpty() || m_temporaryFolder)
+        return;
+    // Only what no file of the project names as it stands now, whoever wrote it, may go.
+    const ProjectFolder folder(m_folderPath);
+    QStringList files{ProjectFolder::projectFile()};
+    const QStringList screens = folder.fileNames(QStringLiteral("screens"));
+    for (const QString& screen : screens)
+        files.append(QLatin1String("screens/") + screen);
+    QSet<QString> mentioned;
+    for (const QString& file : std::as_const(files)) {
+        QByteArray content;
+        QString ignored;
+        const bool read = folder.read(file, &content, &ignored) == ProjectFolder::Found::File;
+        const std::optional<QJsonObject> object = read ? JsonText::parse(content, &ignored) : std::nullopt;
+        if (!object)
+            return;
+        mentioned += ImageReferences::texts(*object);
+    }
+    for (const QString& image : std::as_const(m_discardedImages)) {
+        if (!mentioned.contains(image))
+            FileOperations::current().removeFile(folder.absolute(ProjectFolder::imageFile(image)), nullptr);
+    }
+}
+
+} // namespace Korvex::Meridane::Designer

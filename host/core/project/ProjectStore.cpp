@@ -1,0 +1,69 @@
+#include "host/core/project/ProjectStore.h"
+
+#include "host/core/objects/Screen.h"
+#include "host/core/project/Project.h"
+#include "host/core/project/ProjectFiles.h"
+#include "host/core/project/ProjectReader.h"
+#include "host/core/project/ProjectWriter.h"
+#include "host/core/project/UnknownContent.h"
+#include "host/core/properties/DesignerProperty.h"
+#include "host/core/properties/ObjectListProperty.h"
+#include "host/core/values/ValueConversion.h"
+
+#include <QDir>
+
+namespace Korvex::Meridane::Designer {
+
+std::unique_ptr<Project> ProjectStore::create(const QString& name, const QSizeF& displaySize)
+{
+    auto project = std::make_unique<Project>();
+    project->initialize();
+    auto folder = std::make_unique<QTemporaryDir>(QDir::temp().filePath(QStringLiteral("meridane-XXXXXX")));
+    QDir(folder->path()).mkpath(QStringLiteral("images"));
+    QDir(folder->path()).mkpath(QStringLiteral("fonts"));
+    ProjectFiles::of(project.get())->setTemporaryFolder(std::move(folder));
+    project->getProperty(QStringLiteral("name"))->fill(name);
+    project->getProperty(QStringLiteral("displaySize"))->fill(ValueConversion::toString(displaySize));
+
+    auto screen = std::make_unique<Screen>(project.get());
+    screen->initialize();
+    screen->setIdName(QStringLiteral("main"));
+    if (project->addListItem(project->childList(), screen.get(), -1))
+        screen.release(); // NOLINT(bugprone-unused-return-value): the project owns it now
+    project->setSaved();
+    return project;
+}
+
+ProjectStore::Loaded ProjectStore::load(const QString& folder)
+{
+    ProjectReader reader(folder);
+    Loaded loaded;
+    loaded.project = reader.read();
+    loaded.problems = reader.problems();
+    if (loaded.project)
+        loaded.problems.append(UnknownContent::find(loaded.project.get()));
+    return loaded;
+}
+
+QList<Problem> ProjectStore::readAllScreens(Project* project)
+{
+    QList<Problem> problems;
+    ProjectFiles* files = ProjectFiles::of(project);
+    for (Screen* screen : project->screens()) {
+        screen->readContent();
+        if (const ProjectFiles::ScreenFile* file = files->screenFile(screen))
+            problems.append(file->problems);
+        problems.append(UnknownContent::find(screen));
+    }
+    return problems;
+}
+
+bool ProjectStore::save(Project* project, const QString& folder, QString* message)
+{
+    QString unasked;
+    QString& reason = message ? *message : unasked;
+    reason.clear();
+    return ProjectWriter(project, folder).save(&reason);
+}
+
+} // namespace Korvex::Meridane::Designer

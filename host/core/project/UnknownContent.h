@@ -1,0 +1,23 @@
+#pragma once
+
+#include "host/core/project/Problem.h"
+
+namespace Korvex::Meridane::Designer {
+
+class Project;
+class Screen;
+
+/// Finds what this version does not understand and only carries along: elements of unknown classes (errors: they cannot
+/// be shown or exported), unknown keys and properties (warnings). Looks at what the objects hold now, not at files.
+class UnknownContent
+{
+public:
+    UnknownContent() = delete;
+
+    /// Of project.json.
+    [[nodiscard]] static QList<Problem> find(const Project* project);
+    /// Of a screen that has been read.
+    [[nodiscard]] static QList<Problem> find(const Screen* screen);
+};
+
+} // namespace Korvex::Meridane::Designer

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "host/core/project/Problem.h"
+
+#include <QByteArray>
+#include <QMap>
+
+namespace Korvex::Meridane::Designer {
+
+class DesignerObject;
+class Project;
+class ProjectFiles;
+class Screen;
+
+/// The files of an export, composed in memory.
+class ExportContent
+{
+public:
+    explicit ExportContent(Project* project);
+
+    /// By path relative to the export's folder; of use only when there are no problems.
+    [[nodiscard]] const QMap<QString, QByteArray>& files() const { return m_files; }
+    [[nodiscard]] const QList<Problem>& problems() const { return m_problems; }
+
+private:
+    void addMain();
+    void addScreen(const Screen* screen);
+    void addResources(const DesignerObject* object, const QString& screenFile);
+    void addFonts(const DesignerObject* object);
+    void addImage(const QString& fileName, const QString& screenFile, const QString& object, const QString& property);
+
+    Project* m_project;
+    ProjectFiles* m_projectFiles;
+    QMap<QString, QByteArray> m_files;
+    QList<Problem> m_problems;
+};
+
+} // namespace Korvex::Meridane::Designer
