@@ -92,6 +92,15 @@ void ColorPopup::open(const QColor &color, const QWidget *anchor)
     m_pickButton->setVisible(ScreenColorPicker::isAvailable());
     showRecentColors();
     showColor();
+    placeBeside(anchor);
+    show();
+    placeBeside(anchor); // styles settle the sizes of the parts when they are shown
+    m_field->setFocus(Qt::PopupFocusReason);
+}
+
+/** Below @p anchor, else above it, within the screen. */
+void ColorPopup::placeBeside(const QWidget *anchor)
+{
     adjustSize();
 
     const QRect available = anchor->screen()->availableGeometry();
@@ -102,8 +111,6 @@ void ColorPopup::open(const QColor &color, const QWidget *anchor)
     place.moveLeft(std::clamp(place.left(), available.left(), std::max(available.left(), available.right() - width())));
     place.moveTop(std::max(place.top(), available.top()));
     move(place.topLeft());
-    show();
-    m_field->setFocus(Qt::PopupFocusReason);
 }
 
 void ColorPopup::keyPressEvent(QKeyEvent *event)

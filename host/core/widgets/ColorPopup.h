@@ -50,6 +50,7 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
+    void placeBeside(const QWidget *anchor);
     void showColor();
     void showRecentColors();
     void edit(const QColor &color);

@@ -1,0 +1,227 @@
+#include "host/core/widgets/ColorChannelSlider.h"
+#include "host/core/widgets/ColorPopup.h"
+#include "host/core/widgets/ColorSwatch.h"
+#include "host/core/widgets/HexColorField.h"
+#include "host/core/widgets/HueSaturationField.h"
+#include "host/core/widgets/RecentColors.h"
+
+#include <QtGui/QScreen>
+#include <QtTest/QtTest>
+
+using namespace Korvex::Meridane::Designer;
+
+class tst_ColorPopup : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void openingReportsNothing();
+    void theFieldPicksHueAndSaturation();
+    void theHueSurvivesGreyAndBlack();
+    void brightnessLeadsToBlack();
+    void alphaIsOfferedWhereItIsAllowed();
+    void theTextSetsTheColor();
+    void returnInTheTextTakesItOverAndASecondOneCloses();
+    void escapeTakesEverythingBack();
+    void escapeEndsADrag();
+    void aChosenColorBecomesRecent();
+    void recentColorsArePicked();
+    void thePopupStaysOnTheScreen();
+    void allPartsHaveNames();
+
+private:
+    [[nodiscard]] ColorChannelSlider *channel(const QString &name) const;
+
+    std::unique_ptr<QWidget> m_anchor;
+    std::unique_ptr<ColorPopup> m_popup;
+    std::unique_ptr<QSignalSpy> m_modified;
+};
+
+void tst_ColorPopup::init()
+{
+    m_anchor = std::make_unique<QWidget>();
+    m_anchor->setGeometry(100, 100, 60, 30);
+    m_anchor->show();
+    m_popup = std::make_unique<ColorPopup>(TransparencyAllowed);
+    m_modified = std::make_unique<QSignalSpy>(m_popup.get(), &ColorPopup::userModified);
+}
+
+void tst_ColorPopup::cleanup()
+{
+    m_modified.reset();
+    m_popup.reset();
+    m_anchor.reset();
+}
+
+ColorChannelSlider *tst_ColorPopup::channel(const QString &name) const
+{
+    for (ColorChannelSlider *slider : m_popup->findChildren<ColorChannelSlider *>()) {
+        if (slider->accessibleName() == name) {
+            return slider;
+        }
+    }
+    return nullptr;
+}
+
+void tst_ColorPopup::openingReportsNothing()
+{
+    m_popup->open(QColor(12, 34, 56, 78), m_anchor.get());
+    QVERIFY(m_popup->isVisible());
+    QCOMPARE(m_popup->color(), QColor(12, 34, 56, 78));
+    m_popup->close();
+    QCOMPARE(m_popup->color(), QColor(12, 34, 56, 78));
+    QCOMPARE(m_modified->count(), 0);
+}
+
+void tst_ColorPopup::theFieldPicksHueAndSaturation()
+{
+    m_popup->open(QColor(255, 0, 0), m_anchor.get());
+    auto *field = m_popup->findChild<HueSaturationField *>();
+    QTest::mouseClick(field, Qt::LeftButton, {}, QPoint(field->width() / 3, 3));
+    const QColor color = m_popup->color();
+    QVERIFY2(qAbs(color.hue() - 120) < 4, qPrintable(color.name()));
+    QVERIFY(color.saturation() > 250);
+    QTest::mouseClick(field, Qt::LeftButton, {}, QPoint(field->width() / 3, field->height() - 2));
+    QVERIFY(m_popup->color().saturation() < 5);
+}
+
+void tst_ColorPopup::theHueSurvivesGreyAndBlack()
+{
+    m_popup->open(QColor(0, 0, 255), m_anchor.get());
+    auto *field = m_popup->findChild<HueSaturationField *>();
+    ColorChannelSlider *brightness = channel(QStringLiteral("Brightness"));
+    brightness->setValue(0);
+    QCOMPARE(m_popup->color(), QColor(0, 0, 0));
+    brightness->setValue(255);
+    QCOMPARE(m_popup->color(), QColor(0, 0, 255));
+    for (int i = 0; i < 12; ++i) {
+        QTest::keyClick(field, Qt::Key_Down, Qt::ShiftModifier);
+    }
+    QCOMPARE(m_popup->color(), QColor(255, 255, 255));
+    for (int i = 0; i < 12; ++i) {
+        QTest::keyClick(field, Qt::Key_Up, Qt::ShiftModifier);
+    }
+    QCOMPARE(m_popup->color(), QColor(0, 0, 255));
+}
+
+void tst_ColorPopup::brightnessLeadsToBlack()
+{
+    m_popup->open(QColor(0, 200, 0), m_anchor.get());
+    ColorChannelSlider *brightness = channel(QStringLiteral("Brightness"));
+    QCOMPARE(brightness->value(), 200);
+    QTest::keyClick(brightness, Qt::Key_Right);
+    QCOMPARE(m_popup->color(), QColor(0, 201, 0));
+    QTest::mouseClick(brightness, Qt::LeftButton, {}, QPoint(0, 10));
+    QCOMPARE(m_popup->color(), QColor(0, 0, 0));
+}
+
+void tst_ColorPopup::alphaIsOfferedWhereItIsAllowed()
+{
+    m_popup->open(QColor(0, 200, 0), m_anchor.get());
+    ColorChannelSlider *opacity = channel(QStringLiteral("Opacity"));
+    QVERIFY(opacity->isVisible());
+    opacity->setValue(100);
+    QCOMPARE(m_popup->color(), QColor(0, 200, 0, 100));
+
+    m_popup = std::make_unique<ColorPopup>(OpaqueOnly);
+    m_popup->open(QColor(0, 200, 0), m_anchor.get());
+    QVERIFY(!channel(QStringLiteral("Opacity"))->isVisible());
+}
+
+void tst_ColorPopup::theTextSetsTheColor()
+{
+    m_popup->open(QColor(0, 200, 0), m_anchor.get());
+    auto *text = m_popup->findChild<HexColorField *>();
+    text->setFocus();
+    text->selectAll();
+    QTest::keyClicks(text, QStringLiteral("#336699"));
+    QTest::keyClick(text, Qt::Key_Return);
+    QCOMPARE(m_popup->color(), QColor(0x33, 0x66, 0x99));
+    QCOMPARE(m_modified->count(), 1);
+    QCOMPARE(channel(QStringLiteral("Brightness"))->value(), 0x99);
+}
+
+void tst_ColorPopup::returnInTheTextTakesItOverAndASecondOneCloses()
+{
+    m_popup->open(QColor(0, 200, 0), m_anchor.get());
+    auto *text = m_popup->findChild<HexColorField *>();
+    text->setFocus();
+    text->selectAll();
+    QTest::keyClicks(text, QStringLiteral("red"));
+    QTest::keyClick(text, Qt::Key_Return);
+    QVERIFY(m_popup->isVisible());
+    QTest::keyClick(text, Qt::Key_Return);
+    QVERIFY(!m_popup->isVisible());
+    QCOMPARE(m_popup->color(), QColor(255, 0, 0));
+}
+
+void tst_ColorPopup::escapeTakesEverythingBack()
+{
+    m_popup->open(QColor(0, 200, 0), m_anchor.get());
+    auto *field = m_popup->findChild<HueSaturationField *>();
+    QTest::keyClick(field, Qt::Key_Right, Qt::ShiftModifier);
+    QTest::keyClick(field, Qt::Key_Right, Qt::ShiftModifier);
+    QTest::keyClick(field, Qt::Key_Escape);
+    QVERIFY(!m_popup->isVisible());
+    QCOMPARE(m_popup->color(), QColor(0, 200, 0));
+    QCOMPARE(m_modified->count(), 3);
+}
+
+void tst_ColorPopup::escapeEndsADrag()
+{
+    QSignalSpy started(m_popup.get(), &ColorPopup::gestureStarted);
+    QSignalSpy finished(m_popup.get(), &ColorPopup::gestureFinished);
+    m_popup->open(QColor(0, 200, 0), m_anchor.get());
+    auto *field = m_popup->findChild<HueSaturationField *>();
+    QTest::mousePress(field, Qt::LeftButton, {}, QPoint(30, 30));
+    QTest::keyClick(field, Qt::Key_Escape);
+    QCOMPARE(m_popup->color(), QColor(0, 200, 0));
+    QCOMPARE(started.count(), 1);
+    QCOMPARE(finished.count(), 1);
+    QTest::mouseRelease(field, Qt::LeftButton, {}, QPoint(30, 30));
+    QCOMPARE(finished.count(), 1);
+}
+
+void tst_ColorPopup::aChosenColorBecomesRecent()
+{
+    m_popup->open(QColor(0, 200, 0), m_anchor.get());
+    QTest::keyClick(channel(QStringLiteral("Brightness")), Qt::Key_Left);
+    m_popup->close();
+    QCOMPARE(RecentColors::shared().colors().value(0), QColor(0, 199, 0));
+}
+
+void tst_ColorPopup::recentColorsArePicked()
+{
+    RecentColors::shared().add(QColor(77, 88, 99));
+    m_popup->open(QColor(0, 200, 0), m_anchor.get());
+    const auto swatches = m_popup->findChildren<ColorSwatch *>(QStringLiteral("recentColor"));
+    QCOMPARE(swatches.size(), RecentColors::shared().colors().size());
+    QTest::mouseClick(swatches.first(), Qt::LeftButton);
+    QCOMPARE(m_popup->color(), QColor(77, 88, 99));
+    QCOMPARE(m_modified->count(), 1);
+}
+
+void tst_ColorPopup::thePopupStaysOnTheScreen()
+{
+    const QRect available = m_anchor->screen()->availableGeometry();
+    m_anchor->move(available.bottomRight() - QPoint(20, 20));
+    m_popup->open(QColor(0, 200, 0), m_anchor.get());
+    QVERIFY(available.contains(m_popup->geometry()));
+}
+
+void tst_ColorPopup::allPartsHaveNames()
+{
+    m_popup->open(QColor(0, 200, 0), m_anchor.get());
+    for (const QWidget *part : m_popup->findChildren<QWidget *>()) {
+        if (part->focusPolicy() != Qt::NoFocus && !part->isHidden()) {
+            const auto *button = qobject_cast<const QAbstractButton *>(part);
+            QVERIFY2(!part->accessibleName().isEmpty() || (button && !button->text().isEmpty()),
+                     part->metaObject()->className());
+        }
+    }
+}
+
+QTEST_MAIN(tst_ColorPopup)
+#include "tst_ColorPopup.moc"
