@@ -26,6 +26,7 @@ namespace
 using Common::LocalizationHelper;
 
 constexpr int recentColumns = 8;
+constexpr int recentSwatchWidth = 32;
 /** What a window system needs to take a hidden popup off the screen before the screen is grabbed, in milliseconds. */
 constexpr int hidingDelay = 200;
 }
@@ -61,6 +62,7 @@ ColorPopup::ColorPopup(TransparentOption transparency, QWidget *parent)
     row->addWidget(m_text, 1);
     row->addWidget(m_pickButton);
     m_recentLayout->setSpacing(2);
+    m_recentLayout->setColumnStretch(recentColumns, 1);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_field, 1);
     layout->addWidget(m_brightness);
@@ -182,6 +184,7 @@ void ColorPopup::showRecentColors()
         swatch->setObjectName(QStringLiteral("recentColor"));
         swatch->setAccessibleName(LocalizationHelper::coreString(QStringLiteral("Recent color")));
         swatch->setColor(color);
+        swatch->setFixedSize(recentSwatchWidth, swatch->sizeHint().height());
         connect(swatch, &ColorSwatch::clicked, this, [this, color] { edit(color); });
         m_recentLayout->addWidget(swatch, index / recentColumns, index % recentColumns);
         ++index;

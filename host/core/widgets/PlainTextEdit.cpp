@@ -2,6 +2,7 @@
 
 #include <QtCore/QMimeData>
 #include <QtCore/QScopedValueRollback>
+#include <QtGui/QColor>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextDocument>
@@ -23,11 +24,11 @@ struct Substitute
     char16_t sign;
 };
 constexpr std::array<Substitute, 6> substitutes{{
-    {u'\0', u'\u2400'},     // symbol for null
-    {u'\r', u'\u240d'},     // symbol for carriage return
-    {u'\u2029', u'\u00b6'}, // paragraph separator as a pilcrow
-    {u'\ufdd0', u'\u2402'}, // beginning and end of a text frame inside documents
-    {u'\ufdd1', u'\u2403'},
+    {u'\0', u'\u2205'},     // an empty set
+    {u'\r', u'\u21b5'},     // the arrow of the return key
+    {u'\u2029', u'\u00b6'}, // a pilcrow for the paragraph separator
+    {u'\ufdd0', u'\u00ab'}, // beginning and end of a text frame inside documents
+    {u'\ufdd1', u'\u00bb'},
     {u'\ufffc', u'\u25a1'}, // place of an inline object
 }};
 
@@ -49,6 +50,7 @@ QTextCharFormat substituteFormat()
 {
     QTextCharFormat format;
     format.setProperty(standsForAnother, true);
+    format.setForeground(QColor(128, 128, 128)); // stands back from the text on light and on dark ground
     return format;
 }
 }
