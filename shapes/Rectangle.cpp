@@ -118,7 +118,14 @@ bool Rectangle::initializeProperties()
     if (!setIdInfo(info))
         return false;
 
-    const QMap<QString, QVariant> atLeastOnePixel {{QStringLiteral("minimumValue"), QSizeF(1, 1)}};
+    // Shared by all rectangles.
+    static const QMap<QString, QVariant> atLeastOnePixel {{QStringLiteral("minimumValue"), QSizeF(1, 1)}};
+    static const QMap<QString, QVariant> keepRatioTip {
+        {QStringLiteral("tooltip"), text("Maintain aspect ratio when resizing by mouse or through the editor")}};
+    static const QMap<QString, QVariant> radiusRange {{QStringLiteral("suffix"), text(" px")},
+                                                      {QStringLiteral("minimum"), 0},
+                                                      {QStringLiteral("maximum"), int(LargestCornerRadius)},
+                                                      {QStringLiteral("showSlider"), true}};
     m_size = PropertyDeclaration<SizeProperty>(this, QLatin1String("size"), text("Size"), QSizeF(100, 75))
                  .rank(10)
                  .flags(Stored | Exported)
@@ -135,9 +142,7 @@ bool Rectangle::initializeProperties()
               .rank(12)
               .flags(Shown | Editable)
               .allowInvalid()
-              .editor(QLatin1String("KeepRatioEditor"),
-                      {{QStringLiteral("tooltip"),
-                        text("Maintain aspect ratio when resizing by mouse or through the editor")}});
+              .editor(QLatin1String("KeepRatioEditor"), keepRatioTip);
     m_color
         = PropertyDeclaration<ColorProperty>(this, QLatin1String("color"), text("Color"), QColor(248, 151, 29, 255))
               .rank(13)
@@ -150,10 +155,7 @@ bool Rectangle::initializeProperties()
                          .rank(15)
                          .flags(Stored | Exported | Shown | Editable)
                          .allowInvalid()
-                         .parameters({{QStringLiteral("suffix"), text(" px")},
-                                      {QStringLiteral("minimum"), 0},
-                                      {QStringLiteral("maximum"), int(LargestCornerRadius)},
-                                      {QStringLiteral("showSlider"), true}})
+                         .parameters(radiusRange)
                          .validator(cornerRadiusValidator)
                          .qmlCreator(cornerRadiusQml);
     return true;

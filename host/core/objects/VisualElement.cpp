@@ -33,13 +33,16 @@ bool VisualElement::initializeProperties()
 {
     if (!Element::initializeProperties())
         return false;
+    // Shared by all elements.
+    static const QMap<QString, QVariant> pixels {
+        {QStringLiteral("suffix"), LocalizationHelper::coreString(QStringLiteral(" px"))},
+        {QStringLiteral("decimals"), 2}};
     m_position = PropertyDeclaration<PointProperty>(this, QLatin1String("position"),
                                                     LocalizationHelper::coreString(QStringLiteral("Position")),
                                                     QPointF(0, 0))
                      .rank(1)
                      .allowInvalid()
-                     .parameters({{QStringLiteral("suffix"), LocalizationHelper::coreString(QStringLiteral(" px"))},
-                                  {QStringLiteral("decimals"), 2}});
+                     .parameters(pixels);
     m_rotation = PropertyDeclaration<RotationProperty>(this, QLatin1String("rotation"),
                                                        LocalizationHelper::coreString(QStringLiteral("Rotation")),
                                                        RotationInfo())

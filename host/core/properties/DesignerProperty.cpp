@@ -1,11 +1,13 @@
 #include "host/core/properties/DesignerProperty.h"
 
+#include "host/core/properties/SharedText.h"
+
 namespace Korvex::Meridane::Designer {
 
 DesignerProperty::DesignerProperty(DesignerObject* parent, const QString& id, const QString& name)
     : m_parentObject(parent)
-    , m_id(id)
-    , m_name(name)
+    , m_id(sharedText(id))
+    , m_name(sharedText(name))
 {
 }
 
@@ -69,8 +71,13 @@ QString DesignerProperty::toQml(int indent) const
 
 void DesignerProperty::setEditor(const QString& editorClass, const QMap<QString, QVariant>& parameters)
 {
-    m_editor = editorClass;
+    m_editor = sharedText(editorClass);
     m_editorParameters = parameters;
+}
+
+void DesignerProperty::rememberDefault()
+{
+    m_default = sharedText(valueString());
 }
 
 bool DesignerProperty::keepUnconverted(const QString& text)

@@ -95,7 +95,7 @@ public:
     [[nodiscard]] bool hasQmlCreator() const { return m_qmlCreator != nullptr; }
 
     /// Remembers the present value as the default; called once when the property has been declared.
-    void rememberDefault() { m_default = valueString(); }
+    void rememberDefault();
 
 protected:
     /// For convertToValue(): keeps a text that does not convert where that is allowed, and says whether it was.

@@ -27,7 +27,7 @@ public:
     template <typename Value>
     PropertyDeclaration(DesignerObject* object, QLatin1String id, const QString& label, const Value& value)
         : m_object(object)
-        , m_property(new Property(object, id, label, value))
+        , m_property(QSharedPointer<Property>::create(object, id, label, value))
     {
     }
 
