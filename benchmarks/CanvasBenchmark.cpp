@@ -53,16 +53,27 @@ struct Shown {
     double bytesPerElement = 0;
 };
 
+/// An index that jumps about, and a width that is another one each time an index comes round again.
+qsizetype scattered(qint64 step, int count)
+{
+    return step * 7919 % count;
+}
+
+int width(qint64 step)
+{
+    return 12 + int(step % 41);
+}
+
 void change(benchmark::State& state)
 {
     const int count = int(state.range(0));
     Shown shown(count);
     const auto elements = shown.session->currentScreen()->childList()->items();
-    int step = 0;
+    qint64 step = 0;
     for (auto _ : state) {
-        DesignerObject* element = elements.at(step * 7919 % count);
-        shown.session->setProperty(element, QStringLiteral("size"),
-                                   QStringLiteral("%1,20").arg(12 + step++ % 40));
+        DesignerObject* element = elements.at(scattered(step, count));
+        if (!shown.session->setProperty(element, QStringLiteral("size"), QStringLiteral("%1,30").arg(width(step++))).changed)
+            state.SkipWithError("nothing changed");
         QCoreApplication::processEvents();
     }
     state.counters["bytes/element"] = shown.bytesPerElement;
@@ -86,9 +97,9 @@ void bareChange(benchmark::State& state)
     view.resize(800, 480);
     view.show();
     QCoreApplication::processEvents();
-    int step = 0;
+    qint64 step = 0;
     for (auto _ : state) {
-        items.at(step * 7919 % count)->setRect(0, 0, 12 + step % 40, 20);
+        items.at(scattered(step, count))->setRect(0, 0, width(step), 30);
         ++step;
         QCoreApplication::processEvents();
     }
