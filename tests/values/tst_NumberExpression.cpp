@@ -31,7 +31,7 @@ void tst_NumberExpression::valuesAreComputed_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<double>("expected");
-    const auto row = [](const char *text, double expected) {
+    const auto row = [](const char* text, double expected) {
         QTest::newRow(text) << QString::fromUtf8(text) << expected;
     };
     row("12", 12);
@@ -74,7 +74,7 @@ void tst_NumberExpression::relativeInputIsRead_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("kind");
     QTest::addColumn<double>("operand");
-    const auto row = [](const char *text, Kind kind, double operand) {
+    const auto row = [](const char* text, Kind kind, double operand) {
         QTest::newRow(text) << QString::fromUtf8(text) << static_cast<int>(kind) << operand;
     };
     row("+=10", Kind::Add, 10);
@@ -105,10 +105,11 @@ void tst_NumberExpression::relativeInputIsRefusedUnlessAllowed()
 void tst_NumberExpression::faultsAreNamed_data()
 {
     QTest::addColumn<QString>("text");
-    for (const char *text : {"", " ", "+", "-", "*2", "/2", "2+", "2*", "(2", "2)", "()", "2 3", "1.2.3", "1.234,5",
-                             "1,234,567", ".", ",", "2e", "2e+", "nan", "inf", "1/0", "1/(2-2)", "0/0", "1e308*10",
-                             "1e308+1e308", "1e999", "1e-999", "0x10", "5px", "/=0", "*=", "+=+=1", "=5", "2**3", "2//3",
-                             "\xd9\xa3"}) {
+    for (const char* text :
+         {"",    " ",   "+",       "-",       "*2",        "/2",          "2+",      "2*",     "(2",   "2)",
+          "()",  "2 3", "1.2.3",   "1.234,5", "1,234,567", ".",           ",",       "2e",     "2e+",  "nan",
+          "inf", "1/0", "1/(2-2)", "0/0",     "1e308*10",  "1e308+1e308", "1e999",   "1e-999", "0x10", "5px",
+          "/=0", "*=",  "+=+=1",   "=5",      "2**3",      "2//3",        "\xd9\xa3"}) {
         QTest::newRow(qPrintable(QString::fromUtf8(text) + u'|')) << QString::fromUtf8(text);
     }
 }
@@ -165,9 +166,9 @@ void tst_NumberExpression::everyNumberIsReadAsItself()
 void tst_NumberExpression::anyTextIsReadOrRefused()
 {
     QVERIFY(rc::check("any text", [] {
-        const auto unit = rc::gen::oneOf(rc::gen::element<char16_t>(u'1', u'2', u'.', u',', u'+', u'-', u'*', u'/',
-                                                                    u'(', u')', u'=', u' ', u'e'),
-                                         Generators::bits<char16_t>());
+        const auto unit = rc::gen::oneOf(
+            rc::gen::element<char16_t>(u'1', u'2', u'.', u',', u'+', u'-', u'*', u'/', u'(', u')', u'=', u' ', u'e'),
+            Generators::bits<char16_t>());
         const QString text = QString::fromStdU16String(*rc::gen::container<std::u16string>(unit));
         QString error;
         const auto operation = NumberExpression::parse(text, RelativeInput::Allowed, &error);

@@ -52,26 +52,53 @@ private Q_SLOTS:
     void aHundredThousandValuesTakeLittleTime();
 };
 
-namespace
-{
+namespace {
 /** Rows of texts that no parser of numbers takes, alone or as a part of something. */
 void addBadNumbers()
 {
     QTest::addColumn<QString>("text");
-    for (const char *text : {"", " ", " 5", "5 ", "5px", "nan", "NaN", "-nan", "inf", "-inf", "infinity", "+5", "1,000",
-                             "0x10", "1e", "1e+", "--5", "-", ".", "1.2.3", "1e999", "-1e999", "1e-999", "\t5", "5\n",
-                             "\xc2\xa0" "5", "\xd9\xa3", "\xe2\x88\x92" "5", "one"}) {
+    for (const char* text : {"",
+                             " ",
+                             " 5",
+                             "5 ",
+                             "5px",
+                             "nan",
+                             "NaN",
+                             "-nan",
+                             "inf",
+                             "-inf",
+                             "infinity",
+                             "+5",
+                             "1,000",
+                             "0x10",
+                             "1e",
+                             "1e+",
+                             "--5",
+                             "-",
+                             ".",
+                             "1.2.3",
+                             "1e999",
+                             "-1e999",
+                             "1e-999",
+                             "\t5",
+                             "5\n",
+                             "\xc2\xa0"
+                             "5",
+                             "\xd9\xa3",
+                             "\xe2\x88\x92"
+                             "5",
+                             "one"}) {
         QTest::newRow(qPrintable(QString::fromUtf8(text).toHtmlEscaped() + u'|')) << QString::fromUtf8(text);
     }
     QTest::newRow("digit and NUL") << QString(QStringLiteral("5") + QChar(u'\0'));
 }
-}
+} // namespace
 
 void tst_ValueConversion::writtenForms_data()
 {
     QTest::addColumn<QString>("written");
     QTest::addColumn<QString>("expected");
-    const auto row = [](const char *name, const QString &written, const char *expected) {
+    const auto row = [](const char* name, const QString& written, const char* expected) {
         QTest::newRow(name) << written << QString::fromUtf8(expected);
     };
     row("int", ValueConversion::toString(12), "12");
@@ -151,7 +178,7 @@ void tst_ValueConversion::numbersRefuse()
 void tst_ValueConversion::integersRefuseWhatIsNoInt_data()
 {
     QTest::addColumn<QString>("text");
-    for (const char *text : {"1.0", "1.", "1e3", "2147483648", "-2147483649", "99999999999999999999"}) {
+    for (const char* text : {"1.0", "1.", "1e3", "2147483648", "-2147483649", "99999999999999999999"}) {
         QTest::newRow(text) << QString::fromLatin1(text);
     }
 }
@@ -167,7 +194,7 @@ void tst_ValueConversion::integersRefuseWhatIsNoInt()
 void tst_ValueConversion::pairsRefuse_data()
 {
     addBadNumbers();
-    for (const char *text : {"5", "5,", ",5", ",", "5;5", "5, 5", "5 ,5", "5,5,5", "5,nan", "inf,5", "5x5"}) {
+    for (const char* text : {"5", "5,", ",5", ",", "5;5", "5, 5", "5 ,5", "5,5,5", "5,nan", "inf,5", "5x5"}) {
         QTest::newRow(text) << QString::fromLatin1(text);
     }
 }
@@ -189,7 +216,7 @@ void tst_ValueConversion::pairsRefuse()
 void tst_ValueConversion::polygonsRefuse_data()
 {
     QTest::addColumn<QString>("text");
-    for (const char *text : {" ", "1,2 ", " 1,2", "1,2  3,4", "1,2 3", "1,2,3,4", "1,2;3,4", "1,2\n3,4", "1,2 nan,0"}) {
+    for (const char* text : {" ", "1,2 ", " 1,2", "1,2  3,4", "1,2 3", "1,2,3,4", "1,2;3,4", "1,2\n3,4", "1,2 nan,0"}) {
         QTest::newRow(text) << QString::fromLatin1(text);
     }
 }
@@ -232,7 +259,7 @@ void tst_ValueConversion::colorsAreRead()
 void tst_ValueConversion::colorsRefuse_data()
 {
     QTest::addColumn<QString>("text");
-    for (const char *text : {"", " ", "#", "#12", "#1234", "#12345", "#1234567", "#123456789", "#12345g", "# 12345",
+    for (const char* text : {"", " ", "#", "#12", "#1234", "#12345", "#1234567", "#123456789", "#12345g", "# 12345",
                              " red", "red ", "dark blue", "reddish", "rgb(1,2,3)", "#+12345", "123456"}) {
         QTest::newRow(qPrintable(QString::fromLatin1(text) + u'|')) << QString::fromLatin1(text);
     }
@@ -250,10 +277,10 @@ void tst_ValueConversion::colorsRefuse()
 void tst_ValueConversion::bordersRefuse_data()
 {
     QTest::addColumn<QString>("text");
-    for (const char *text : {"", "2", "width: 2;", "color: #000000;", "width: -1; color: #000000;",
-                             "width: 1.5; color: #000000;", "width: 2; color: none;", "width: 2; width: 2;",
-                             "width: 2; color: #000000", "width: 2; color: #000000; style: dashed;",
-                             " width: 2; color: #000000;", "width: 2; color: #000000; "}) {
+    for (const char* text :
+         {"", "2", "width: 2;", "color: #000000;", "width: -1; color: #000000;", "width: 1.5; color: #000000;",
+          "width: 2; color: none;", "width: 2; width: 2;", "width: 2; color: #000000",
+          "width: 2; color: #000000; style: dashed;", " width: 2; color: #000000;", "width: 2; color: #000000; "}) {
         QTest::newRow(text) << QString::fromLatin1(text);
     }
 }
@@ -269,7 +296,7 @@ void tst_ValueConversion::bordersRefuse()
 void tst_ValueConversion::rotationsRefuse_data()
 {
     QTest::addColumn<QString>("text");
-    for (const char *text : {"", "45", "angle: 45;", "fixedPoint: Center;", "angle: nan; fixedPoint: Center;",
+    for (const char* text : {"", "45", "angle: 45;", "fixedPoint: Center;", "angle: nan; fixedPoint: Center;",
                              "angle: 45; fixedPoint: center;", "angle: 45; fixedPoint: Middle;",
                              "angle: 45; fixedPoint: Center; angle: 45;"}) {
         QTest::newRow(text) << QString::fromLatin1(text);
@@ -318,14 +345,14 @@ void tst_ValueConversion::fontsDoNotDependOnTheApplicationFont()
 void tst_ValueConversion::fontsRefuse_data()
 {
     QTest::addColumn<QString>("text");
-    for (const char *text : {"", "Droid Sans", "family: Droid Sans;", "pointSize: 24;",
-                             "family: A; pointSize: 24; pixelSize: 32;", "family: A; pointSize: 0;",
-                             "family: A; pointSize: -3;", "family: A; pointSize: nan;", "family: A; pointSize: 10001;",
-                             "family: A; pixelSize: 1.5;", "family: A; pixelSize: 0;",
-                             "family: A; pointSize: 24; bold: yes;", "family: A; pointSize: 24; weight: 0;",
-                             "family: A; pointSize: 24; weight: 1001;", "family: A; pointSize: 24; colour: red;",
-                             "family: A; family: A; pointSize: 24;", "family: A; pointSize: 24; letterSpacing: 1e9;",
-                             "family: A;B; pointSize: 24;", "family: A; pointSize: 24"}) {
+    for (const char* text :
+         {"", "Droid Sans", "family: Droid Sans;", "pointSize: 24;", "family: A; pointSize: 24; pixelSize: 32;",
+          "family: A; pointSize: 0;", "family: A; pointSize: -3;", "family: A; pointSize: nan;",
+          "family: A; pointSize: 10001;", "family: A; pixelSize: 1.5;", "family: A; pixelSize: 0;",
+          "family: A; pointSize: 24; bold: yes;", "family: A; pointSize: 24; weight: 0;",
+          "family: A; pointSize: 24; weight: 1001;", "family: A; pointSize: 24; colour: red;",
+          "family: A; family: A; pointSize: 24;", "family: A; pointSize: 24; letterSpacing: 1e9;",
+          "family: A;B; pointSize: 24;", "family: A; pointSize: 24"}) {
         QTest::newRow(text) << QString::fromLatin1(text);
     }
 }
@@ -340,9 +367,9 @@ void tst_ValueConversion::fontsRefuse()
 
 void tst_ValueConversion::spacingsKeepTheTextThatWasEntered()
 {
-    for (const char *spacing : {"0.1", "-0.1", "0.5", "1", "-2.5", "10.2"}) {
-        const QString text = QStringLiteral("family: A; pointSize: 24; letterSpacing: %1; wordSpacing: %1;")
-                                 .arg(QLatin1String(spacing));
+    for (const char* spacing : {"0.1", "-0.1", "0.5", "1", "-2.5", "10.2"}) {
+        const QString text =
+            QStringLiteral("family: A; pointSize: 24; letterSpacing: %1; wordSpacing: %1;").arg(QLatin1String(spacing));
         QCOMPARE(ValueConversion::toString(ValueConversion::toFont(text)), text);
     }
 }
@@ -350,7 +377,7 @@ void tst_ValueConversion::spacingsKeepTheTextThatWasEntered()
 void tst_ValueConversion::gradientStopsRefuse_data()
 {
     QTest::addColumn<QString>("text");
-    for (const char *text : {"", "0.5", "0.5 ", " #ffffff", "0.5 #ffffff,", "0.5 #ffffff, ", "0.5 #ffffff,1 #000000",
+    for (const char* text : {"", "0.5", "0.5 ", " #ffffff", "0.5 #ffffff,", "0.5 #ffffff, ", "0.5 #ffffff,1 #000000",
                              "0.5  #ffffff", "0.5 #ffffff 1", "nan #ffffff", "0.5 #ffffff, 1 black ", "0.5 nothing"}) {
         QTest::newRow(qPrintable(QString::fromLatin1(text) + u'|')) << QString::fromLatin1(text);
     }
@@ -382,9 +409,9 @@ void tst_ValueConversion::groupsAreRead()
 void tst_ValueConversion::groupsRefuse_data()
 {
     QTest::addColumn<QString>("text");
-    for (const char *text : {"", " ", ";", ":", "a", "a:", "a: 1", "a: 1; b", "a: 1;; b: 2;", ": 1;", "a b: 1;",
-                             " a: 1;", "a: 1; ", "a: 1;  b: 2;", "a: 1; a: 2;", "a: b: c;", "a: \\x;", "a: 1\\",
-                             "a: 1\\;"}) {
+    for (const char* text :
+         {"", " ", ";", ":", "a", "a:", "a: 1", "a: 1; b", "a: 1;; b: 2;", ": 1;", "a b: 1;", " a: 1;", "a: 1; ",
+          "a: 1;  b: 2;", "a: 1; a: 2;", "a: b: c;", "a: \\x;", "a: 1\\", "a: 1\\;"}) {
         QTest::newRow(qPrintable(QString::fromLatin1(text) + u'|')) << QString::fromLatin1(text);
     }
 }
@@ -400,7 +427,7 @@ void tst_ValueConversion::groupsRefuse()
 void tst_ValueConversion::linksRefuseWaysOutOfTheProject_data()
 {
     QTest::addColumn<QString>("text");
-    for (const char *text : {".", "..", "../secret.png", "/etc/passwd", "a/b.png", "a\\b.png", "c:x.png", " a.png",
+    for (const char* text : {".", "..", "../secret.png", "/etc/passwd", "a/b.png", "a\\b.png", "c:x.png", " a.png",
                              "a.png ", "a\nb", "a\tb"}) {
         QTest::newRow(text) << QString::fromLatin1(text);
     }
@@ -418,7 +445,7 @@ void tst_ValueConversion::linksRefuseWaysOutOfTheProject()
 
 void tst_ValueConversion::booleansRefuse()
 {
-    for (const char *text : {"", "True", "TRUE", "1", "0", "yes", " true", "true "}) {
+    for (const char* text : {"", "True", "TRUE", "1", "0", "yes", " true", "true "}) {
         bool ok = true;
         QVERIFY(!ValueConversion::toBool(QString::fromLatin1(text), &ok));
         QVERIFY2(!ok, text);
@@ -436,7 +463,7 @@ void tst_ValueConversion::qmlNumbers_data()
     QTest::addColumn<double>("value");
     QTest::addColumn<int>("decimals");
     QTest::addColumn<QString>("expected");
-    const auto row = [](double value, int decimals, const char *expected) {
+    const auto row = [](double value, int decimals, const char* expected) {
         QTest::newRow(expected) << value << decimals << QString::fromLatin1(expected);
     };
     row(1.5, 2, "1.5");

@@ -38,7 +38,7 @@ void tst_ValueRecords::aDefaultRotationTurnsNothingAboutTheCentre()
 
 void tst_ValueRecords::theFixedPointsAreNumberedRowByRow()
 {
-    const QStringList &names = RotationInfo::fixedPointNames();
+    const QStringList& names = RotationInfo::fixedPointNames();
     QCOMPARE(names.join(u' '), QStringLiteral("TopLeft Top TopRight Left Center Right BottomLeft Bottom BottomRight"));
 }
 

@@ -127,7 +127,7 @@ void tst_ValueRoundTrip::gradientStops()
         const auto list = *rc::gen::nonEmpty(rc::gen::container<std::vector<std::pair<double, QColor>>>(
             rc::gen::pair(Generators::finiteReal(), Generators::color())));
         QVector<QPair<double, QColor>> stops;
-        for (const auto &stop : list) {
+        for (const auto& stop : list) {
             stops.append({stop.first, stop.second});
         }
         bool ok = false;
@@ -195,7 +195,7 @@ void tst_ValueRoundTrip::groups()
         const auto values = *rc::gen::nonEmpty(rc::gen::container<std::vector<QString>>(Generators::text()));
         QList<QPair<QString, QString>> pairs;
         QMap<QString, QString> expected;
-        for (const QString &value : values) {
+        for (const QString& value : values) {
             const QString key = QStringLiteral("key_%1").arg(pairs.size());
             pairs.append({key, value});
             expected.insert(key, value);

@@ -4,9 +4,14 @@
 #include "host/core/widgets/HexColorField.h"
 #include "host/core/widgets/HueSaturationField.h"
 #include "host/core/widgets/RecentColors.h"
+#include "host/core/widgets/ScreenColorOverlay.h"
+#include "host/core/widgets/ScreenColorPicker.h"
 
 #include <QtGui/QScreen>
 #include <QtTest/QtTest>
+#include <QtWidgets/QToolButton>
+
+#include <algorithm>
 
 using namespace Korvex::Meridane::Designer;
 
@@ -30,9 +35,11 @@ private Q_SLOTS:
     void recentColorsArePicked();
     void thePopupStaysOnTheScreen();
     void allPartsHaveNames();
+    void aColorIsPickedFromTheScreen();
+    void withoutPicturesOfTheScreenThePickerIsHidden();
 
 private:
-    [[nodiscard]] ColorChannelSlider *channel(const QString &name) const;
+    [[nodiscard]] ColorChannelSlider* channel(const QString& name) const;
 
     std::unique_ptr<QWidget> m_anchor;
     std::unique_ptr<ColorPopup> m_popup;
@@ -55,9 +62,9 @@ void tst_ColorPopup::cleanup()
     m_anchor.reset();
 }
 
-ColorChannelSlider *tst_ColorPopup::channel(const QString &name) const
+ColorChannelSlider* tst_ColorPopup::channel(const QString& name) const
 {
-    for (ColorChannelSlider *slider : m_popup->findChildren<ColorChannelSlider *>()) {
+    for (ColorChannelSlider* slider : m_popup->findChildren<ColorChannelSlider*>()) {
         if (slider->accessibleName() == name) {
             return slider;
         }
@@ -78,7 +85,7 @@ void tst_ColorPopup::openingReportsNothing()
 void tst_ColorPopup::theFieldPicksHueAndSaturation()
 {
     m_popup->open(QColor(255, 0, 0), m_anchor.get());
-    auto *field = m_popup->findChild<HueSaturationField *>();
+    auto* field = m_popup->findChild<HueSaturationField*>();
     QTest::mouseClick(field, Qt::LeftButton, {}, QPoint(field->width() / 3, 3));
     const QColor color = m_popup->color();
     QVERIFY2(qAbs(color.hue() - 120) < 4, qPrintable(color.name()));
@@ -90,8 +97,8 @@ void tst_ColorPopup::theFieldPicksHueAndSaturation()
 void tst_ColorPopup::theHueSurvivesGreyAndBlack()
 {
     m_popup->open(QColor(0, 0, 255), m_anchor.get());
-    auto *field = m_popup->findChild<HueSaturationField *>();
-    ColorChannelSlider *brightness = channel(QStringLiteral("Brightness"));
+    auto* field = m_popup->findChild<HueSaturationField*>();
+    ColorChannelSlider* brightness = channel(QStringLiteral("Brightness"));
     brightness->setValue(0);
     QCOMPARE(m_popup->color(), QColor(0, 0, 0));
     brightness->setValue(255);
@@ -109,7 +116,7 @@ void tst_ColorPopup::theHueSurvivesGreyAndBlack()
 void tst_ColorPopup::brightnessLeadsToBlack()
 {
     m_popup->open(QColor(0, 200, 0), m_anchor.get());
-    ColorChannelSlider *brightness = channel(QStringLiteral("Brightness"));
+    ColorChannelSlider* brightness = channel(QStringLiteral("Brightness"));
     QCOMPARE(brightness->value(), 200);
     QTest::keyClick(brightness, Qt::Key_Right);
     QCOMPARE(m_popup->color(), QColor(0, 201, 0));
@@ -120,7 +127,7 @@ void tst_ColorPopup::brightnessLeadsToBlack()
 void tst_ColorPopup::alphaIsOfferedWhereItIsAllowed()
 {
     m_popup->open(QColor(0, 200, 0), m_anchor.get());
-    ColorChannelSlider *opacity = channel(QStringLiteral("Opacity"));
+    ColorChannelSlider* opacity = channel(QStringLiteral("Opacity"));
     QVERIFY(opacity->isVisible());
     opacity->setValue(100);
     QCOMPARE(m_popup->color(), QColor(0, 200, 0, 100));
@@ -133,7 +140,7 @@ void tst_ColorPopup::alphaIsOfferedWhereItIsAllowed()
 void tst_ColorPopup::theTextSetsTheColor()
 {
     m_popup->open(QColor(0, 200, 0), m_anchor.get());
-    auto *text = m_popup->findChild<HexColorField *>();
+    auto* text = m_popup->findChild<HexColorField*>();
     text->setFocus();
     text->selectAll();
     QTest::keyClicks(text, QStringLiteral("#336699"));
@@ -146,7 +153,7 @@ void tst_ColorPopup::theTextSetsTheColor()
 void tst_ColorPopup::returnInTheTextTakesItOverAndASecondOneCloses()
 {
     m_popup->open(QColor(0, 200, 0), m_anchor.get());
-    auto *text = m_popup->findChild<HexColorField *>();
+    auto* text = m_popup->findChild<HexColorField*>();
     text->setFocus();
     text->selectAll();
     QTest::keyClicks(text, QStringLiteral("red"));
@@ -160,7 +167,7 @@ void tst_ColorPopup::returnInTheTextTakesItOverAndASecondOneCloses()
 void tst_ColorPopup::escapeTakesEverythingBack()
 {
     m_popup->open(QColor(0, 200, 0), m_anchor.get());
-    auto *field = m_popup->findChild<HueSaturationField *>();
+    auto* field = m_popup->findChild<HueSaturationField*>();
     QTest::keyClick(field, Qt::Key_Right, Qt::ShiftModifier);
     QTest::keyClick(field, Qt::Key_Right, Qt::ShiftModifier);
     QTest::keyClick(field, Qt::Key_Escape);
@@ -174,7 +181,7 @@ void tst_ColorPopup::escapeEndsADrag()
     QSignalSpy started(m_popup.get(), &ColorPopup::gestureStarted);
     QSignalSpy finished(m_popup.get(), &ColorPopup::gestureFinished);
     m_popup->open(QColor(0, 200, 0), m_anchor.get());
-    auto *field = m_popup->findChild<HueSaturationField *>();
+    auto* field = m_popup->findChild<HueSaturationField*>();
     QTest::mousePress(field, Qt::LeftButton, {}, QPoint(30, 30));
     QTest::keyClick(field, Qt::Key_Escape);
     QCOMPARE(m_popup->color(), QColor(0, 200, 0));
@@ -196,7 +203,7 @@ void tst_ColorPopup::recentColorsArePicked()
 {
     RecentColors::shared().add(QColor(77, 88, 99));
     m_popup->open(QColor(0, 200, 0), m_anchor.get());
-    const auto swatches = m_popup->findChildren<ColorSwatch *>(QStringLiteral("recentColor"));
+    const auto swatches = m_popup->findChildren<ColorSwatch*>(QStringLiteral("recentColor"));
     QCOMPARE(swatches.size(), RecentColors::shared().colors().size());
     QTest::mouseClick(swatches.first(), Qt::LeftButton);
     QCOMPARE(m_popup->color(), QColor(77, 88, 99));
@@ -214,13 +221,53 @@ void tst_ColorPopup::thePopupStaysOnTheScreen()
 void tst_ColorPopup::allPartsHaveNames()
 {
     m_popup->open(QColor(0, 200, 0), m_anchor.get());
-    for (const QWidget *part : m_popup->findChildren<QWidget *>()) {
+    for (const QWidget* part : m_popup->findChildren<QWidget*>()) {
         if (part->focusPolicy() != Qt::NoFocus && !part->isHidden()) {
-            const auto *button = qobject_cast<const QAbstractButton *>(part);
+            const auto* button = qobject_cast<const QAbstractButton*>(part);
             QVERIFY2(!part->accessibleName().isEmpty() || (button && !button->text().isEmpty()),
                      part->metaObject()->className());
         }
     }
+}
+
+void tst_ColorPopup::aColorIsPickedFromTheScreen()
+{
+    if (!ScreenColorPicker::isAvailable()) {
+        QSKIP("this window system gives out no pictures of the screen");
+    }
+    QPalette palette;
+    palette.setColor(QPalette::Window, QColor(12, 200, 34));
+    m_anchor->setPalette(palette);
+    QVERIFY(QTest::qWaitForWindowExposed(m_anchor.get()));
+    QTest::qWait(100);
+    m_popup->open(QColor(1, 2, 3), m_anchor.get());
+    auto* button = m_popup->findChild<QToolButton*>();
+    const auto overlay = [] {
+        const auto windows = QApplication::topLevelWidgets();
+        const auto found = std::find_if(windows.cbegin(), windows.cend(), [](QWidget* widget) {
+            return qobject_cast<ScreenColorOverlay*>(widget) && widget->isVisible();
+        });
+        return found == windows.cend() ? nullptr : *found;
+    };
+    QTest::mouseClick(button, Qt::LeftButton);
+    QTRY_VERIFY(m_popup->screenPicker()->isActive());
+    QVERIFY(!m_popup->isVisible());
+    QTest::mouseClick(overlay(), Qt::LeftButton, {}, m_anchor->geometry().center());
+    QCOMPARE(m_popup->color(), QColor(12, 200, 34));
+    QCOMPARE(m_modified->count(), 1);
+    QVERIFY(m_popup->isVisible());
+
+    QTest::mouseClick(button, Qt::LeftButton);
+    QTRY_VERIFY(m_popup->screenPicker()->isActive());
+    QTest::keyClick(overlay(), Qt::Key_Escape);
+    QVERIFY(m_popup->isVisible());
+    QCOMPARE(m_modified->count(), 1);
+}
+
+void tst_ColorPopup::withoutPicturesOfTheScreenThePickerIsHidden()
+{
+    m_popup->open(QColor(1, 2, 3), m_anchor.get());
+    QCOMPARE(m_popup->findChild<QToolButton*>()->isVisible(), ScreenColorPicker::isAvailable());
 }
 
 QTEST_MAIN(tst_ColorPopup)

@@ -33,15 +33,15 @@ private Q_SLOTS:
 
 private:
     std::unique_ptr<QWidget> m_window;
-    ColorWidget *m_widget = nullptr;
-    QLineEdit *m_other = nullptr;
+    ColorWidget* m_widget = nullptr;
+    QLineEdit* m_other = nullptr;
     std::unique_ptr<QSignalSpy> m_modified;
 };
 
 void tst_ColorWidget::init()
 {
     m_window = std::make_unique<QWidget>();
-    auto *layout = new QVBoxLayout(m_window.get());
+    auto* layout = new QVBoxLayout(m_window.get());
     m_widget = new ColorWidget(TransparencyAllowed, false);
     m_other = new QLineEdit;
     layout->addWidget(m_widget);
@@ -83,7 +83,7 @@ void tst_ColorWidget::aTypedColorIsReported()
 {
     QFETCH(QString, typed);
     QFETCH(QColor, expected);
-    HexColorField *field = m_widget->textField();
+    HexColorField* field = m_widget->textField();
     field->setFocus();
     field->selectAll();
     QTest::keyClicks(field, typed);
@@ -99,7 +99,7 @@ void tst_ColorWidget::aTypedColorIsReported()
 void tst_ColorWidget::textThatIsNoColorIsDropped()
 {
     m_widget->setColor(QColor(1, 2, 3));
-    HexColorField *field = m_widget->textField();
+    HexColorField* field = m_widget->textField();
     field->setFocus();
     field->selectAll();
     QTest::keyClicks(field, QStringLiteral("greenish"));
@@ -140,7 +140,7 @@ void tst_ColorWidget::compactFieldsShowTheSwatchAlone()
 
 void tst_ColorWidget::theSwatchShowsTheColorOnACheckerboard()
 {
-    ColorSwatch *swatch = m_widget->swatch();
+    ColorSwatch* swatch = m_widget->swatch();
     m_widget->setColor(QColor(10, 200, 30));
     const QImage opaque = swatch->grab().toImage();
     QCOMPARE(opaque.pixelColor(opaque.width() / 2, opaque.height() / 2), QColor(10, 200, 30));
@@ -171,7 +171,7 @@ void tst_ColorWidget::changesInThePopupAreReported()
 {
     m_widget->setColor(QColor(200, 32, 48));
     QTest::mouseClick(m_widget->swatch(), Qt::LeftButton);
-    auto *field = m_widget->popup()->findChild<HueSaturationField *>();
+    auto* field = m_widget->popup()->findChild<HueSaturationField*>();
     QTest::keyClick(field, Qt::Key_Down, Qt::ShiftModifier);
     QCOMPARE(m_modified->count(), 1);
     QCOMPARE(m_widget->color(), m_widget->popup()->color());
@@ -187,7 +187,7 @@ void tst_ColorWidget::aDragInThePopupIsOneGesture()
     QSignalSpy released(m_widget, &ColorWidget::sliderReleased);
     m_widget->setColor(QColor(200, 32, 48));
     QTest::mouseClick(m_widget->swatch(), Qt::LeftButton);
-    auto *field = m_widget->popup()->findChild<HueSaturationField *>();
+    auto* field = m_widget->popup()->findChild<HueSaturationField*>();
     QTest::mousePress(field, Qt::LeftButton, {}, QPoint(20, 20));
     QTest::mouseMove(field, QPoint(40, 40));
     QTest::mouseRelease(field, Qt::LeftButton, {}, QPoint(40, 40));

@@ -25,14 +25,14 @@ private Q_SLOTS:
 
 private:
     std::unique_ptr<QWidget> m_window;
-    ComboBox *m_box = nullptr;
-    QLineEdit *m_other = nullptr;
+    ComboBox* m_box = nullptr;
+    QLineEdit* m_other = nullptr;
 };
 
 void tst_ComboBox::init()
 {
     m_window = std::make_unique<QWidget>();
-    auto *layout = new QVBoxLayout(m_window.get());
+    auto* layout = new QVBoxLayout(m_window.get());
     m_box = new ComboBox({{QStringLiteral("Outline"), QStringLiteral("Umriss")},
                           {QStringLiteral("Raised"), QStringLiteral("Erhaben")},
                           {QStringLiteral("Standard"), QStringLiteral("Normal")}});

@@ -32,18 +32,18 @@ private Q_SLOTS:
     void allPartsHaveNames();
 
 private:
-    void enter(SpinBox *field, const QString &text);
+    void enter(SpinBox* field, const QString& text);
 
     std::unique_ptr<QWidget> m_window;
-    FontWidget *m_widget = nullptr;
-    QLineEdit *m_other = nullptr;
+    FontWidget* m_widget = nullptr;
+    QLineEdit* m_other = nullptr;
     std::unique_ptr<QSignalSpy> m_modified;
 };
 
 void tst_FontWidget::init()
 {
     m_window = std::make_unique<QWidget>();
-    auto *layout = new QVBoxLayout(m_window.get());
+    auto* layout = new QVBoxLayout(m_window.get());
     m_widget = new FontWidget;
     m_other = new QLineEdit;
     layout->addWidget(m_widget);
@@ -62,7 +62,7 @@ void tst_FontWidget::cleanup()
     m_window.reset();
 }
 
-void tst_FontWidget::enter(SpinBox *field, const QString &text)
+void tst_FontWidget::enter(SpinBox* field, const QString& text)
 {
     field->setFocus();
     field->selectAll();
@@ -72,9 +72,10 @@ void tst_FontWidget::enter(SpinBox *field, const QString &text)
 
 void tst_FontWidget::settingAFontIsSilentAndExact()
 {
-    for (const QString &text :
+    for (const QString& text :
          {QStringLiteral("family: Surely Missing Sans; pointSize: 10.123456; weight: 123;"),
-          QStringLiteral("family: X; pixelSize: 33; bold: true; italic: true; letterSpacing: 0.1; wordSpacing: -2.5;")}) {
+          QStringLiteral(
+              "family: X; pixelSize: 33; bold: true; italic: true; letterSpacing: 0.1; wordSpacing: -2.5;")}) {
         m_widget->setValue(ValueConversion::toFont(text));
         m_widget->sizeField()->setFocus();
         m_widget->familyBox()->setFocus();
@@ -94,7 +95,7 @@ void tst_FontWidget::familiesThatAreNotInstalledAreKept()
 
 void tst_FontWidget::aTypedFamilyIsReported()
 {
-    FontFamilyBox *box = m_widget->familyBox();
+    FontFamilyBox* box = m_widget->familyBox();
     if (box->count() == 0) {
         QSKIP("no fonts are installed");
     }
@@ -113,7 +114,7 @@ void tst_FontWidget::aTypedFamilyIsReported()
 
 void tst_FontWidget::escapeTakesATypedFamilyBack()
 {
-    FontFamilyBox *box = m_widget->familyBox();
+    FontFamilyBox* box = m_widget->familyBox();
     box->setFocus();
     box->lineEdit()->selectAll();
     QTest::keyClicks(box, QStringLiteral("Another"));
@@ -148,7 +149,7 @@ void tst_FontWidget::theUnitKeepsTheSizeOnTheScreen()
 
 void tst_FontWidget::styleButtonsChangeTheirAttributeAlone()
 {
-    for (FontStyleButton *button : m_widget->styleButtons()) {
+    for (FontStyleButton* button : m_widget->styleButtons()) {
         QTest::mouseClick(button, Qt::LeftButton);
     }
     QCOMPARE(m_modified->count(), 5);
@@ -156,7 +157,7 @@ void tst_FontWidget::styleButtonsChangeTheirAttributeAlone()
              QStringLiteral("family: Surely Missing Sans; pointSize: 10.55; bold: true; italic: true; "
                             "underline: true; overline: true; strikeOut: true;"));
     QCOMPARE(m_widget->weightBox()->currentItemKey(), QStringLiteral("700"));
-    for (FontStyleButton *button : m_widget->styleButtons()) {
+    for (FontStyleButton* button : m_widget->styleButtons()) {
         QTest::keyClick(button, Qt::Key_Space);
     }
     QCOMPARE(ValueConversion::toString(m_widget->value()),
@@ -204,7 +205,7 @@ void tst_FontWidget::noLetterSpacingIsTheFontThatWasNeverSpaced()
 
 void tst_FontWidget::allPartsHaveNames()
 {
-    for (const QWidget *part : m_widget->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
+    for (const QWidget* part : m_widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
         if (part->focusPolicy() != Qt::NoFocus) {
             QVERIFY2(!part->accessibleName().isEmpty(), part->metaObject()->className());
         }

@@ -18,7 +18,7 @@ void tst_MessageBox::aPresenterGetsTheTexts()
 {
     QWidget widget;
     QStringList seen;
-    const auto before = MessageBox::setPresenter([&](QWidget *parent, const QString &title, const QString &text) {
+    const auto before = MessageBox::setPresenter([&](QWidget* parent, const QString& title, const QString& text) {
         QCOMPARE(parent, &widget);
         seen << title << text;
     });
@@ -39,7 +39,7 @@ void tst_MessageBox::withoutAScreenTheMessageIsLogged()
 void tst_MessageBox::thePresenterBeforeComesBack()
 {
     int calls = 0;
-    MessageBox::setPresenter([&](QWidget *, const QString &, const QString &) { ++calls; });
+    MessageBox::setPresenter([&](QWidget*, const QString&, const QString&) { ++calls; });
     const auto first = MessageBox::setPresenter({});
     QVERIFY(first);
     first(nullptr, {}, {});

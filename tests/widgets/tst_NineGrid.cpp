@@ -31,7 +31,7 @@ void tst_NineGrid::settingAPointIsSilent()
 {
     NineGrid grid;
     QSignalSpy modified(&grid, &NineGrid::userModified);
-    for (const QString &name : RotationInfo::fixedPointNames()) {
+    for (const QString& name : RotationInfo::fixedPointNames()) {
         grid.setFixedPoint(name);
         QCOMPARE(grid.fixedPoint(), name);
     }

@@ -38,15 +38,15 @@ private:
     }
 
     std::unique_ptr<QWidget> m_window;
-    NumberWidget *m_widget = nullptr;
-    QLineEdit *m_other = nullptr;
+    NumberWidget* m_widget = nullptr;
+    QLineEdit* m_other = nullptr;
     std::unique_ptr<QSignalSpy> m_modified;
 };
 
 void tst_NumberWidget::init()
 {
     m_window = std::make_unique<QWidget>();
-    auto *layout = new QVBoxLayout(m_window.get());
+    auto* layout = new QVBoxLayout(m_window.get());
     m_widget = new NumberWidget(false);
     m_other = new QLineEdit;
     layout->addWidget(m_widget);
@@ -115,7 +115,7 @@ void tst_NumberWidget::aDragIsOneGestureOfManyChanges()
     connect(m_widget, &NumberWidget::sliderPressed, this, [&] { log.append(QStringLiteral("pressed")); });
     connect(m_widget, &NumberWidget::sliderReleased, this, [&] { log.append(QStringLiteral("released")); });
     connect(m_widget, &NumberWidget::userModified, this, [&] { log.append(QStringLiteral("modified")); });
-    NumberSlider *slider = m_widget->slider();
+    NumberSlider* slider = m_widget->slider();
     QTest::mousePress(slider, Qt::LeftButton, {}, sliderPoint(0.25));
     const double first = m_widget->value();
     QVERIFY(first > 15 && first < 35);
@@ -134,7 +134,7 @@ void tst_NumberWidget::escapeDuringADragGoesBack()
 {
     m_widget->setValue(10);
     QSignalSpy released(m_widget, &NumberWidget::sliderReleased);
-    NumberSlider *slider = m_widget->slider();
+    NumberSlider* slider = m_widget->slider();
     QTest::mousePress(slider, Qt::LeftButton, {}, sliderPoint(0.5));
     QTest::mouseMove(slider, sliderPoint(0.9));
     QTest::keyClick(slider, Qt::Key_Escape);
@@ -167,7 +167,7 @@ void tst_NumberWidget::arrowKeysMoveTheSliderByAStep()
 
 void tst_NumberWidget::theWheelMovesAFocusedSliderOnly()
 {
-    NumberSlider *slider = m_widget->slider();
+    NumberSlider* slider = m_widget->slider();
     const auto turn = [slider] {
         const QPointF center = QRectF(slider->rect()).center();
         QWheelEvent event(center, slider->mapToGlobal(center), {}, {0, 120}, Qt::NoButton, Qt::NoModifier,

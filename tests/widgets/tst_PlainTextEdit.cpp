@@ -36,14 +36,14 @@ private Q_SLOTS:
 
 private:
     std::unique_ptr<QWidget> m_window;
-    PlainTextEdit *m_edit = nullptr;
-    QLineEdit *m_other = nullptr;
+    PlainTextEdit* m_edit = nullptr;
+    QLineEdit* m_other = nullptr;
 };
 
 void tst_PlainTextEdit::init()
 {
     m_window = std::make_unique<QWidget>();
-    auto *layout = new QVBoxLayout(m_window.get());
+    auto* layout = new QVBoxLayout(m_window.get());
     m_edit = new PlainTextEdit;
     m_other = new QLineEdit;
     layout->addWidget(m_edit);
@@ -205,8 +205,8 @@ void tst_PlainTextEdit::theWheelScrollsTheFocusedFieldOnly()
     m_edit->moveCursor(QTextCursor::Start);
     const auto turn = [this] {
         const QPointF center = QRectF(m_edit->viewport()->rect()).center();
-        QWheelEvent event(center, m_edit->viewport()->mapToGlobal(center), {}, {0, -120}, Qt::NoButton,
-                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QWheelEvent event(center, m_edit->viewport()->mapToGlobal(center), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
         QCoreApplication::sendEvent(m_edit->viewport(), &event);
         return event.isAccepted();
     };

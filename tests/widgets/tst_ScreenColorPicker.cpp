@@ -22,10 +22,9 @@ private Q_SLOTS:
     void destroyingThePickerClosesItsWindows();
 };
 
-namespace
-{
+namespace {
 /** Red on the left half, blue on the right one. */
-QPixmap halves(QScreen *screen)
+QPixmap halves(QScreen* screen)
 {
     QPixmap picture(screen->size());
     picture.fill(Qt::red);
@@ -34,16 +33,16 @@ QPixmap halves(QScreen *screen)
     return picture;
 }
 
-ScreenColorOverlay *overlay()
+ScreenColorOverlay* overlay()
 {
-    for (QWidget *widget : QApplication::topLevelWidgets()) {
-        if (auto *found = qobject_cast<ScreenColorOverlay *>(widget); found && found->isVisible()) {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (auto* found = qobject_cast<ScreenColorOverlay*>(widget); found && found->isVisible()) {
             return found;
         }
     }
     return nullptr;
 }
-}
+} // namespace
 
 void tst_ScreenColorPicker::aClickPicksTheColorUnderIt()
 {
@@ -51,7 +50,7 @@ void tst_ScreenColorPicker::aClickPicksTheColorUnderIt()
     QSignalSpy picked(&picker, &ScreenColorPicker::picked);
     picker.start();
     QVERIFY(picker.isActive());
-    ScreenColorOverlay *window = overlay();
+    ScreenColorOverlay* window = overlay();
     QVERIFY(window);
     QTest::mouseMove(window, QPoint(10, 10));
     QVERIFY(!window->grab().isNull());
@@ -67,7 +66,7 @@ void tst_ScreenColorPicker::keysMoveAndPick()
     ScreenColorPicker picker(halves);
     QSignalSpy picked(&picker, &ScreenColorPicker::picked);
     picker.start();
-    ScreenColorOverlay *window = overlay();
+    ScreenColorOverlay* window = overlay();
     QTest::mouseMove(window, QPoint(window->width() / 2 - 1, 20));
     QTest::keyClick(window, Qt::Key_Right);
     QTest::keyClick(window, Qt::Key_Return);
@@ -98,7 +97,7 @@ void tst_ScreenColorPicker::theRightButtonCancels()
 
 void tst_ScreenColorPicker::aScreenThatCannotBeGrabbedCancels()
 {
-    ScreenColorPicker picker([](QScreen *) { return QPixmap(); });
+    ScreenColorPicker picker([](QScreen*) { return QPixmap(); });
     QSignalSpy cancelled(&picker, &ScreenColorPicker::cancelled);
     picker.start();
     QCOMPARE(cancelled.count(), 1);
@@ -108,7 +107,7 @@ void tst_ScreenColorPicker::aScreenThatCannotBeGrabbedCancels()
 void tst_ScreenColorPicker::onePickAtATime()
 {
     int grabs = 0;
-    ScreenColorPicker picker([&](QScreen *screen) {
+    ScreenColorPicker picker([&](QScreen* screen) {
         ++grabs;
         return halves(screen);
     });

@@ -27,14 +27,14 @@ private Q_SLOTS:
 
 private:
     std::unique_ptr<QWidget> m_window;
-    SizeWidget *m_widget = nullptr;
-    QLineEdit *m_other = nullptr;
+    SizeWidget* m_widget = nullptr;
+    QLineEdit* m_other = nullptr;
 };
 
 void tst_SizeWidget::init()
 {
     m_window = std::make_unique<QWidget>();
-    auto *layout = new QVBoxLayout(m_window.get());
+    auto* layout = new QVBoxLayout(m_window.get());
     m_widget = new SizeWidget;
     m_other = new QLineEdit;
     layout->addWidget(m_widget);

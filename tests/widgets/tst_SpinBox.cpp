@@ -54,19 +54,19 @@ private Q_SLOTS:
     void aRangeMovesTheFirstValueOnly();
 
 private:
-    void type(const QString &text);
-    [[nodiscard]] QLineEdit *line() const { return m_box->findChild<QLineEdit *>(); }
+    void type(const QString& text);
+    [[nodiscard]] QLineEdit* line() const { return m_box->findChild<QLineEdit*>(); }
 
     std::unique_ptr<QWidget> m_window;
-    SpinBox *m_box = nullptr;
-    QLineEdit *m_other = nullptr;
+    SpinBox* m_box = nullptr;
+    QLineEdit* m_other = nullptr;
     std::unique_ptr<QSignalSpy> m_modified;
 };
 
 void tst_SpinBox::init()
 {
     m_window = std::make_unique<QWidget>();
-    auto *layout = new QVBoxLayout(m_window.get());
+    auto* layout = new QVBoxLayout(m_window.get());
     m_box = new SpinBox(false);
     m_other = new QLineEdit;
     layout->addWidget(m_box);
@@ -85,7 +85,7 @@ void tst_SpinBox::cleanup()
     m_window.reset();
 }
 
-void tst_SpinBox::type(const QString &text)
+void tst_SpinBox::type(const QString& text)
 {
     m_box->selectAll();
     QTest::keyClicks(m_box, text);
@@ -208,7 +208,7 @@ void tst_SpinBox::entriesAreLimitedAndRounded()
 void tst_SpinBox::textThatCannotBeReadIsDropped()
 {
     m_box->setValue(3);
-    for (const QString &text : {QStringLiteral("1/0"), QStringLiteral("(2"), QStringLiteral("1.2.3")}) {
+    for (const QString& text : {QStringLiteral("1/0"), QStringLiteral("(2"), QStringLiteral("1.2.3")}) {
         type(text);
         QTest::keyClick(m_box, Qt::Key_Return);
         QCOMPARE(m_box->text(), QStringLiteral("3"));
@@ -468,7 +468,7 @@ void tst_SpinBox::undoIsTheProjectsUnlessTextIsTyped()
 
 void tst_SpinBox::theBaseClassReportsEditsOfAssistivePrograms()
 {
-    static_cast<QDoubleSpinBox *>(m_box)->setValue(17);
+    static_cast<QDoubleSpinBox*>(m_box)->setValue(17);
     QCOMPARE(m_modified->count(), 1);
     QCOMPARE(m_box->value(), 17.0);
 }

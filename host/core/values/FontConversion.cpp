@@ -6,10 +6,8 @@
 
 #include <cmath>
 
-namespace Korvex::Meridane::Designer
-{
-namespace
-{
+namespace Korvex::Meridane::Designer {
+namespace {
 /** Collects the pairs of a font group; each may come once and in any order. */
 class FontReader
 {
@@ -86,8 +84,8 @@ public:
     }
 
 private:
-    template<typename T>
-    [[nodiscard]] static bool store(std::optional<T> &field, const std::optional<T> &value)
+    template <typename T>
+    [[nodiscard]] static bool store(std::optional<T>& field, const std::optional<T>& value)
     {
         if (field || !value) {
             return false;
@@ -96,8 +94,8 @@ private:
         return true;
     }
 
-    template<typename T>
-    [[nodiscard]] static std::optional<T> readSize(const std::optional<T> &size)
+    template <typename T>
+    [[nodiscard]] static std::optional<T> readSize(const std::optional<T>& size)
     {
         return size && *size > 0 && *size <= ValueConversion::maximumFontSize() ? size : std::nullopt;
     }
@@ -127,9 +125,9 @@ private:
     std::optional<double> m_wordSpacing;
     std::optional<int> m_weight;
 };
-}
+} // namespace
 
-QFont ValueConversion::toFont(const QString &text, bool *ok)
+QFont ValueConversion::toFont(const QString& text, bool* ok)
 {
     FontReader font;
     GroupReader reader(text);
@@ -144,7 +142,7 @@ QFont ValueConversion::toFont(const QString &text, bool *ok)
     return result ? *result : QFont();
 }
 
-QString ValueConversion::toString(const QFont &font)
+QString ValueConversion::toString(const QFont& font)
 {
     QString text;
     const auto appendFlag = [&text](QStringView key, bool set) {
@@ -174,4 +172,4 @@ QString ValueConversion::toString(const QFont &font)
     }
     return text;
 }
-}
+} // namespace Korvex::Meridane::Designer

@@ -3,8 +3,7 @@
 #include <cmath>
 #include <cstdlib>
 
-namespace Korvex::Meridane::Designer
-{
+namespace Korvex::Meridane::Designer {
 int keptSpacing(double spacing)
 {
     return static_cast<int>(spacing * 64);
@@ -23,4 +22,4 @@ double shortestSpacing(double spacing)
     }
     return kept / 64.0;
 }
-}
+} // namespace Korvex::Meridane::Designer

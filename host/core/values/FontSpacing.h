@@ -3,8 +3,7 @@
 #include "host/core/CoreExport.h"
 
 /** Letter and word spacing as QFont keeps it: in whole 64ths of a pixel, of which it drops what lies beyond. */
-namespace Korvex::Meridane::Designer
-{
+namespace Korvex::Meridane::Designer {
 /** The 64ths of a pixel that QFont keeps of @p spacing (pixels, up to ±10^7). */
 [[nodiscard]] MERIDANE_CORE_EXPORT int keptSpacing(double spacing);
 
@@ -13,4 +12,4 @@ namespace Korvex::Meridane::Designer
  * what became of it (0.09375).
  */
 [[nodiscard]] MERIDANE_CORE_EXPORT double shortestSpacing(double spacing);
-}
+} // namespace Korvex::Meridane::Designer

@@ -1,9 +1,7 @@
 #include "host/core/values/GroupText.h"
 
-namespace Korvex::Meridane::Designer
-{
-namespace
-{
+namespace Korvex::Meridane::Designer {
+namespace {
 bool isKeyCharacter(QChar c)
 {
     return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || (c >= u'0' && c <= u'9') || c == u'_';
@@ -13,12 +11,11 @@ bool needsEscape(QChar c)
 {
     return c == u';' || c == u':' || c == u'\\';
 }
-}
+} // namespace
 
 GroupReader::GroupReader(QStringView text)
     : m_text(text)
-{
-}
+{}
 
 bool GroupReader::next()
 {
@@ -86,7 +83,7 @@ bool GroupReader::readValue()
     return false;
 }
 
-void appendPair(QString &text, QStringView key, QStringView value)
+void appendPair(QString& text, QStringView key, QStringView value)
 {
     if (!text.isEmpty()) {
         text.append(u' ');
@@ -101,4 +98,4 @@ void appendPair(QString &text, QStringView key, QStringView value)
     }
     text.append(u';');
 }
-}
+} // namespace Korvex::Meridane::Designer

@@ -4,8 +4,7 @@
 #include <QtCore/QStringView>
 
 /** The text form of grouped values, `key: value; key: value;`, read and written pair by pair. */
-namespace Korvex::Meridane::Designer
-{
+namespace Korvex::Meridane::Designer {
 /**
  * Walks over the pairs of a group. The text must outlive the reader.
  *
@@ -42,5 +41,5 @@ private:
 };
 
 /** Appends `key: value;`, with a blank before it unless @p text is empty. @p key is an identifier. */
-void appendPair(QString &text, QStringView key, QStringView value);
-}
+void appendPair(QString& text, QStringView key, QStringView value);
+} // namespace Korvex::Meridane::Designer

@@ -6,10 +6,8 @@
 #include <algorithm>
 #include <cmath>
 
-namespace Korvex::Meridane::Designer
-{
-namespace
-{
+namespace Korvex::Meridane::Designer {
+namespace {
 using Common::LocalizationHelper;
 
 /** Operators also come from keyboards and texts that use the typographic signs. */
@@ -42,15 +40,15 @@ class Parser
 public:
     explicit Parser(QStringView text)
         : m_text(text)
-    {
-    }
+    {}
 
     [[nodiscard]] std::optional<double> parse()
     {
         const double value = sum();
         skipBlanks();
         if (m_error.isEmpty() && m_position < m_text.size()) {
-            fail(LocalizationHelper::coreString(QStringLiteral("Unexpected character \"%1\".")).arg(m_text.at(m_position)));
+            fail(LocalizationHelper::coreString(QStringLiteral("Unexpected character \"%1\"."))
+                     .arg(m_text.at(m_position)));
         }
         if (m_error.isEmpty() && !std::isfinite(value)) {
             fail(LocalizationHelper::coreString(QStringLiteral("The result is too large.")));
@@ -58,7 +56,7 @@ public:
         return m_error.isEmpty() ? std::optional(value) : std::nullopt;
     }
 
-    [[nodiscard]] const QString &error() const { return m_error; }
+    [[nodiscard]] const QString& error() const { return m_error; }
 
 private:
     double sum()
@@ -187,7 +185,7 @@ private:
     }
 
     /** The first error counts; what follows from it does not. */
-    void fail(const QString &error)
+    void fail(const QString& error)
     {
         if (m_error.isEmpty()) {
             m_error = error;
@@ -218,9 +216,9 @@ std::optional<NumberOperation::Kind> relativeKind(QStringView text)
         return std::nullopt;
     }
 }
-}
+} // namespace
 
-std::optional<NumberOperation> NumberExpression::parse(QStringView text, RelativeInput relativeInput, QString *error)
+std::optional<NumberOperation> NumberExpression::parse(QStringView text, RelativeInput relativeInput, QString* error)
 {
     text = text.trimmed();
     NumberOperation operation;
@@ -254,4 +252,4 @@ bool NumberExpression::mayBecomeExpression(QStringView text, RelativeInput relat
         return isDigit(c) || c.isSpace() || QStringView(u"+-*/().,eE").contains(canonical(c));
     });
 }
-}
+} // namespace Korvex::Meridane::Designer

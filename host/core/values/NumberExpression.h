@@ -8,8 +8,7 @@
 
 #include <optional>
 
-namespace Korvex::Meridane::Designer
-{
+namespace Korvex::Meridane::Designer {
 /**
  * Reads what a user types into a number field: a decimal number, arithmetic with `+ - * /`, parentheses and signs, and
  * relative operations (`+=10`, `-=5`, `*=2`, `/=4`, with arithmetic behind the sign). Blanks may stand anywhere between
@@ -39,9 +38,9 @@ public:
      */
     [[nodiscard]] static std::optional<NumberOperation> parse(QStringView text,
                                                               RelativeInput relativeInput = RelativeInput::Refused,
-                                                              QString *error = nullptr);
+                                                              QString* error = nullptr);
 
     /** True when every character of @p text can be part of an expression, so that typing may go on. */
     [[nodiscard]] static bool mayBecomeExpression(QStringView text, RelativeInput relativeInput);
 };
-}
+} // namespace Korvex::Meridane::Designer

@@ -2,8 +2,7 @@
 
 #include <cmath>
 
-namespace Korvex::Meridane::Designer
-{
+namespace Korvex::Meridane::Designer {
 double NumberOperation::applyTo(double value) const
 {
     double result = value;
@@ -29,4 +28,4 @@ double NumberOperation::applyTo(double value) const
     }
     return result == 0 ? 0 : result; // never -0
 }
-}
+} // namespace Korvex::Meridane::Designer

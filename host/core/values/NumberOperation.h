@@ -2,8 +2,7 @@
 
 #include "host/core/CoreExport.h"
 
-namespace Korvex::Meridane::Designer
-{
+namespace Korvex::Meridane::Designer {
 /**
  * What a user asked a number to become: a value of its own, or its present value changed by an amount. With several
  * elements selected the operation is applied to the value of each.
@@ -29,6 +28,6 @@ struct MERIDANE_CORE_EXPORT NumberOperation
     /** True unless the operation is Set. */
     [[nodiscard]] bool isRelative() const { return kind != Kind::Set; }
 
-    friend bool operator==(const NumberOperation &a, const NumberOperation &b) = default;
+    friend bool operator==(const NumberOperation& a, const NumberOperation& b) = default;
 };
-}
+} // namespace Korvex::Meridane::Designer

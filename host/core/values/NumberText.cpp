@@ -6,10 +6,8 @@
 #include <charconv>
 #include <cmath>
 
-namespace Korvex::Meridane::Designer
-{
-namespace
-{
+namespace Korvex::Meridane::Designer {
+namespace {
 using Characters = QVarLengthArray<char, 64>;
 
 /** The characters of @p text as ASCII; empty when one is not ASCII, which no number has. */
@@ -29,12 +27,12 @@ Characters toAscii(QStringView text)
 /** Numbers from here on, and below its counterpart, are written with an exponent. */
 constexpr double largestPlainNumber = 1e15;
 constexpr double smallestPlainNumber = 1e-5;
-}
+} // namespace
 
 std::optional<int> readInteger(QStringView text)
 {
     const Characters characters = toAscii(text);
-    const char *end = characters.constData() + characters.size();
+    const char* end = characters.constData() + characters.size();
     int value = 0;
     const auto [stop, error] = std::from_chars(characters.constData(), end, value);
     if (error != std::errc() || stop != end || characters.isEmpty()) {
@@ -49,10 +47,10 @@ std::optional<double> readReal(QStringView text)
     if (characters.isEmpty()) {
         return std::nullopt;
     }
-    const char *begin = characters.constData();
-    const char *end = begin + characters.size();
+    const char* begin = characters.constData();
+    const char* end = begin + characters.size();
     // from_chars also knows the words for infinity and not-a-number.
-    const char *number = *begin == '-' ? begin + 1 : begin;
+    const char* number = *begin == '-' ? begin + 1 : begin;
     if (number == end || ((*number < '0' || *number > '9') && *number != '.')) {
         return std::nullopt;
     }
@@ -78,7 +76,7 @@ std::optional<RealPair> readRealPair(QStringView text)
     return RealPair{*first, *second};
 }
 
-void appendReal(QString &text, double value)
+void appendReal(QString& text, double value)
 {
     if (value == 0 || !std::isfinite(value)) {
         text.append(u'0');
@@ -93,10 +91,10 @@ void appendReal(QString &text, double value)
     text.append(QLatin1String(buffer.data(), end - buffer.data()));
 }
 
-void appendRealPair(QString &text, double first, double second)
+void appendRealPair(QString& text, double first, double second)
 {
     appendReal(text, first);
     text.append(u',');
     appendReal(text, second);
 }
-}
+} // namespace Korvex::Meridane::Designer

@@ -6,8 +6,7 @@
 #include <optional>
 
 /** Numbers as they stand inside value strings; the pieces that all parsers and writers of numbers share. */
-namespace Korvex::Meridane::Designer
-{
+namespace Korvex::Meridane::Designer {
 /** The whole of @p text as an int: an optional minus and decimal digits. Nothing else, and nothing out of range. */
 [[nodiscard]] std::optional<int> readInteger(QStringView text);
 
@@ -26,8 +25,8 @@ struct RealPair
 [[nodiscard]] std::optional<RealPair> readRealPair(QStringView text);
 
 /** Appends the shortest text that reads back as @p value; both zeros, and a value that is not finite, give "0". */
-void appendReal(QString &text, double value);
+void appendReal(QString& text, double value);
 
 /** Appends `first,second`. */
-void appendRealPair(QString &text, double first, double second);
-}
+void appendRealPair(QString& text, double first, double second);
+} // namespace Korvex::Meridane::Designer

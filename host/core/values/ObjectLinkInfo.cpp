@@ -2,16 +2,14 @@
 
 #include <algorithm>
 
-namespace Korvex::Meridane::Designer
-{
-namespace
-{
+namespace Korvex::Meridane::Designer {
+namespace {
 bool isPathOrControlCharacter(QChar c)
 {
     return c == u'/' || c == u'\\' || c == u':' || c.category() == QChar::Other_Control
-        || c.category() == QChar::Separator_Line || c.category() == QChar::Separator_Paragraph;
+           || c.category() == QChar::Separator_Line || c.category() == QChar::Separator_Paragraph;
 }
-}
+} // namespace
 
 bool ObjectLinkInfo::isValid() const
 {
@@ -26,4 +24,4 @@ bool ObjectLinkInfo::isValid() const
     }
     return m_objectId.isValidUtf16() && std::none_of(m_objectId.cbegin(), m_objectId.cend(), isPathOrControlCharacter);
 }
-}
+} // namespace Korvex::Meridane::Designer

@@ -5,8 +5,7 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
-namespace Korvex::Meridane::Designer
-{
+namespace Korvex::Meridane::Designer {
 /** A reference to another object by its id, with the kinds of object that it may name. */
 class MERIDANE_CORE_EXPORT ObjectLinkInfo
 {
@@ -14,22 +13,21 @@ public:
     /** The empty link: names nothing, which is valid. */
     ObjectLinkInfo() = default;
 
-    explicit ObjectLinkInfo(const QString &objectId)
+    explicit ObjectLinkInfo(const QString& objectId)
         : m_objectId(objectId)
-    {
-    }
+    {}
 
     /** The id of the object; the file name of an image resource; empty when nothing is linked. */
-    [[nodiscard]] const QString &objectId() const { return m_objectId; }
+    [[nodiscard]] const QString& objectId() const { return m_objectId; }
 
     /** Class names of the objects that may be linked; empty for all. */
-    [[nodiscard]] const QStringList &filterType() const { return m_filterType; }
-    void setFilterType(const QStringList &filterType) { m_filterType = filterType; }
-    void setFilterType(const QString &filterType) { m_filterType = QStringList{filterType}; }
+    [[nodiscard]] const QStringList& filterType() const { return m_filterType; }
+    void setFilterType(const QStringList& filterType) { m_filterType = filterType; }
+    void setFilterType(const QString& filterType) { m_filterType = QStringList{filterType}; }
 
     /** Where the object is looked for: "Screen" or "Project". */
-    [[nodiscard]] const QString &scopeType() const { return m_scopeType; }
-    void setScopeType(const QString &scopeType) { m_scopeType = scopeType; }
+    [[nodiscard]] const QString& scopeType() const { return m_scopeType; }
+    void setScopeType(const QString& scopeType) { m_scopeType = scopeType; }
 
     /**
      * True for the empty link and for an id that can name an object or a file of the project. An id becomes a part of
@@ -39,11 +37,11 @@ public:
      */
     [[nodiscard]] bool isValid() const;
 
-    friend bool operator==(const ObjectLinkInfo &a, const ObjectLinkInfo &b) = default;
+    friend bool operator==(const ObjectLinkInfo& a, const ObjectLinkInfo& b) = default;
 
 private:
     QString m_objectId;
     QStringList m_filterType;
     QString m_scopeType;
 };
-}
+} // namespace Korvex::Meridane::Designer

@@ -2,14 +2,12 @@
 
 #include "host/common/TransformOrigin.h"
 
-namespace Korvex::Meridane::Designer
-{
+namespace Korvex::Meridane::Designer {
 RotationInfo::RotationInfo()
     : m_fixedPoint(fixedPointNames().at(Common::Center))
-{
-}
+{}
 
-const QStringList &RotationInfo::fixedPointNames()
+const QStringList& RotationInfo::fixedPointNames()
 {
     static const QStringList names = [] {
         QStringList list;
@@ -20,4 +18,4 @@ const QStringList &RotationInfo::fixedPointNames()
     }();
     return names;
 }
-}
+} // namespace Korvex::Meridane::Designer

@@ -6,13 +6,11 @@
 #include <algorithm>
 #include <cmath>
 
-namespace Korvex::Meridane::Designer
-{
-namespace
-{
+namespace Korvex::Meridane::Designer {
+namespace {
 /** Reports through @p ok, which may be null, whether @p result holds a value, and gives that or @p fallback. */
-template<typename T>
-T unwrap(const std::optional<T> &result, bool *ok, const T &fallback = {})
+template <typename T>
+T unwrap(const std::optional<T>& result, bool* ok, const T& fallback = {})
 {
     if (ok) {
         *ok = result.has_value();
@@ -201,67 +199,67 @@ std::optional<QMap<QString, QString>> readGroup(QStringView text)
     }
     return reader.atEnd() ? std::optional(properties) : std::nullopt;
 }
-}
+} // namespace
 
-int ValueConversion::toInt(const QString &text, bool *ok)
+int ValueConversion::toInt(const QString& text, bool* ok)
 {
     return unwrap(readInteger(text), ok);
 }
 
-double ValueConversion::toReal(const QString &text, bool *ok)
+double ValueConversion::toReal(const QString& text, bool* ok)
 {
     return unwrap(readReal(text), ok);
 }
 
-bool ValueConversion::toBool(const QString &text, bool *ok)
+bool ValueConversion::toBool(const QString& text, bool* ok)
 {
     return unwrap(readBool(text), ok);
 }
 
-QSizeF ValueConversion::toSize(const QString &text, bool *ok)
+QSizeF ValueConversion::toSize(const QString& text, bool* ok)
 {
     const RealPair pair = unwrap(readRealPair(text), ok);
     return {pair.first, pair.second};
 }
 
-QPointF ValueConversion::toPoint(const QString &text, bool *ok)
+QPointF ValueConversion::toPoint(const QString& text, bool* ok)
 {
     const RealPair pair = unwrap(readRealPair(text), ok);
     return {pair.first, pair.second};
 }
 
-QPolygonF ValueConversion::toPolygon(const QString &text, bool *ok)
+QPolygonF ValueConversion::toPolygon(const QString& text, bool* ok)
 {
     return unwrap(readPolygon(text), ok);
 }
 
-QColor ValueConversion::toColor(const QString &text, bool *ok)
+QColor ValueConversion::toColor(const QString& text, bool* ok)
 {
     return unwrap(readColor(text), ok);
 }
 
-BorderInfo ValueConversion::toBorderInfo(const QString &text, bool *ok)
+BorderInfo ValueConversion::toBorderInfo(const QString& text, bool* ok)
 {
     return unwrap(readBorder(text), ok);
 }
 
-RotationInfo ValueConversion::toRotationInfo(const QString &text, bool *ok)
+RotationInfo ValueConversion::toRotationInfo(const QString& text, bool* ok)
 {
     return unwrap(readRotation(text), ok);
 }
 
-ObjectLinkInfo ValueConversion::toLinkInfo(const QString &text, bool *ok)
+ObjectLinkInfo ValueConversion::toLinkInfo(const QString& text, bool* ok)
 {
     const ObjectLinkInfo link(text);
     return unwrap(link.isValid() ? std::optional(link) : std::nullopt, ok);
 }
 
-QVector<QPair<double, QColor>> ValueConversion::toGradientStops(const QString &text, bool *ok)
+QVector<QPair<double, QColor>> ValueConversion::toGradientStops(const QString& text, bool* ok)
 {
     return unwrap(readGradientStops(text), ok);
 }
 
-QMap<QString, QString> ValueConversion::toGroupProperties(const QString &text, bool *ok)
+QMap<QString, QString> ValueConversion::toGroupProperties(const QString& text, bool* ok)
 {
     return unwrap(readGroup(text), ok);
 }
@@ -283,7 +281,7 @@ QString ValueConversion::toString(bool value)
     return value ? QStringLiteral("true") : QStringLiteral("false");
 }
 
-QString ValueConversion::toString(const QColor &color)
+QString ValueConversion::toString(const QColor& color)
 {
     if (!color.isValid()) {
         return QString();
@@ -291,25 +289,25 @@ QString ValueConversion::toString(const QColor &color)
     return color.name(color.alpha() == 255 ? QColor::HexRgb : QColor::HexArgb);
 }
 
-QString ValueConversion::toString(const QPointF &point)
+QString ValueConversion::toString(const QPointF& point)
 {
     QString text;
     appendRealPair(text, point.x(), point.y());
     return text;
 }
 
-QString ValueConversion::toString(const QSizeF &size)
+QString ValueConversion::toString(const QSizeF& size)
 {
     QString text;
     appendRealPair(text, size.width(), size.height());
     return text;
 }
 
-QString ValueConversion::toString(const QPolygonF &polygon)
+QString ValueConversion::toString(const QPolygonF& polygon)
 {
     QString text;
     text.reserve(polygon.size() * 16);
-    for (const QPointF &point : polygon) {
+    for (const QPointF& point : polygon) {
         if (!text.isEmpty()) {
             text.append(u' ');
         }
@@ -318,10 +316,10 @@ QString ValueConversion::toString(const QPolygonF &polygon)
     return text;
 }
 
-QString ValueConversion::toString(const QVector<QPair<double, QColor>> &stops)
+QString ValueConversion::toString(const QVector<QPair<double, QColor>>& stops)
 {
     QString text;
-    for (const auto &[position, color] : stops) {
+    for (const auto& [position, color] : stops) {
         if (!text.isEmpty()) {
             text.append(QLatin1String(", "));
         }
@@ -332,7 +330,7 @@ QString ValueConversion::toString(const QVector<QPair<double, QColor>> &stops)
     return text;
 }
 
-QString ValueConversion::toString(const BorderInfo &border)
+QString ValueConversion::toString(const BorderInfo& border)
 {
     QString text;
     appendPair(text, u"width", toString(border.width()));
@@ -340,7 +338,7 @@ QString ValueConversion::toString(const BorderInfo &border)
     return text;
 }
 
-QString ValueConversion::toString(const RotationInfo &rotation)
+QString ValueConversion::toString(const RotationInfo& rotation)
 {
     QString text;
     appendPair(text, u"angle", toString(rotation.angle()));
@@ -348,21 +346,21 @@ QString ValueConversion::toString(const RotationInfo &rotation)
     return text;
 }
 
-QString ValueConversion::toString(const ObjectLinkInfo &link)
+QString ValueConversion::toString(const ObjectLinkInfo& link)
 {
     return link.objectId();
 }
 
-QString ValueConversion::groupToString(const QList<QPair<QString, QString>> &pairs)
+QString ValueConversion::groupToString(const QList<QPair<QString, QString>>& pairs)
 {
     QString text;
-    for (const auto &[key, value] : pairs) {
+    for (const auto& [key, value] : pairs) {
         appendPair(text, key, value);
     }
     return text;
 }
 
-QString ValueConversion::toQmlString(const double &value, const int &decimals)
+QString ValueConversion::toQmlString(const double& value, const int& decimals)
 {
     if (!std::isfinite(value)) {
         return QStringLiteral("0");
@@ -381,4 +379,4 @@ QString ValueConversion::toQmlString(const double &value, const int &decimals)
     }
     return text == QLatin1String("-0") ? QStringLiteral("0") : text;
 }
-}
+} // namespace Korvex::Meridane::Designer

@@ -4,15 +4,13 @@
 #include <QtGui/QColor>
 #include <QtGui/QPainter>
 
-namespace Korvex::Meridane::Designer
-{
-namespace
-{
+namespace Korvex::Meridane::Designer {
+namespace {
 /** Side of a square in device-independent pixels. */
 constexpr double squareSide = 4;
-}
+} // namespace
 
-void paintCheckerboard(QPainter &painter, const QRectF &rectangle)
+void paintCheckerboard(QPainter& painter, const QRectF& rectangle)
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, false);
@@ -21,10 +19,11 @@ void paintCheckerboard(QPainter &painter, const QRectF &rectangle)
     bool rowStartsGrey = false;
     for (double y = rectangle.top(); y < rectangle.bottom(); y += squareSide) {
         rowStartsGrey = !rowStartsGrey;
-        for (double x = rectangle.left() + (rowStartsGrey ? 0 : squareSide); x < rectangle.right(); x += 2 * squareSide) {
+        for (double x = rectangle.left() + (rowStartsGrey ? 0 : squareSide); x < rectangle.right();
+             x += 2 * squareSide) {
             painter.fillRect(QRectF(x, y, squareSide, squareSide), QColor(192, 192, 192));
         }
     }
     painter.restore();
 }
-}
+} // namespace Korvex::Meridane::Designer

@@ -3,8 +3,7 @@
 class QPainter;
 class QRectF;
 
-namespace Korvex::Meridane::Designer
-{
+namespace Korvex::Meridane::Designer {
 /** Fills @p rectangle with the grey squares that show through translucent colours. */
-void paintCheckerboard(QPainter &painter, const QRectF &rectangle);
-}
+void paintCheckerboard(QPainter& painter, const QRectF& rectangle);
+} // namespace Korvex::Meridane::Designer

@@ -9,15 +9,13 @@
 
 #include <cmath>
 
-namespace Korvex::Meridane::Designer
-{
-namespace
-{
+namespace Korvex::Meridane::Designer {
+namespace {
 constexpr double handleWidth = 6;
 constexpr int largestChannel = 255;
-}
+} // namespace
 
-ColorChannelSlider::ColorChannelSlider(QWidget *parent)
+ColorChannelSlider::ColorChannelSlider(QWidget* parent)
     : QAbstractSlider(parent)
 {
     setOrientation(Qt::Horizontal);
@@ -29,7 +27,7 @@ ColorChannelSlider::ColorChannelSlider(QWidget *parent)
     connect(this, &QAbstractSlider::valueChanged, this, &ColorChannelSlider::userModified);
 }
 
-void ColorChannelSlider::setEnds(const QColor &first, const QColor &last)
+void ColorChannelSlider::setEnds(const QColor& first, const QColor& last)
 {
     m_first = first;
     m_last = last;
@@ -58,7 +56,7 @@ QRectF ColorChannelSlider::grooveRect() const
     return QRectF(rect()).adjusted(3 + handleWidth / 2, 4, -3 - handleWidth / 2, -4);
 }
 
-void ColorChannelSlider::paintEvent(QPaintEvent *event)
+void ColorChannelSlider::paintEvent(QPaintEvent* event)
 {
     Q_UNUSED(event);
     QPainter painter(this);
@@ -79,7 +77,7 @@ void ColorChannelSlider::paintEvent(QPaintEvent *event)
     painter.drawRoundedRect(handle, 2, 2);
 }
 
-void ColorChannelSlider::mousePressEvent(QMouseEvent *event)
+void ColorChannelSlider::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() != Qt::LeftButton) {
         event->ignore();
@@ -90,21 +88,21 @@ void ColorChannelSlider::mousePressEvent(QMouseEvent *event)
     moveTo(event->position().x());
 }
 
-void ColorChannelSlider::mouseMoveEvent(QMouseEvent *event)
+void ColorChannelSlider::mouseMoveEvent(QMouseEvent* event)
 {
     if (isSliderDown()) {
         moveTo(event->position().x());
     }
 }
 
-void ColorChannelSlider::mouseReleaseEvent(QMouseEvent *event)
+void ColorChannelSlider::mouseReleaseEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton) {
         finishGesture();
     }
 }
 
-void ColorChannelSlider::hideEvent(QHideEvent *event)
+void ColorChannelSlider::hideEvent(QHideEvent* event)
 {
     finishGesture();
     QAbstractSlider::hideEvent(event);
@@ -125,4 +123,4 @@ void ColorChannelSlider::moveTo(double x)
         setValue(static_cast<int>(std::lround((x - groove.left()) / groove.width() * largestChannel)));
     }
 }
-}
+} // namespace Korvex::Meridane::Designer

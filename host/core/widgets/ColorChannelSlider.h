@@ -5,18 +5,17 @@
 #include <QtGui/QColor>
 #include <QtWidgets/QAbstractSlider>
 
-namespace Korvex::Meridane::Designer
-{
+namespace Korvex::Meridane::Designer {
 /** A horizontal slider from 0 to 255 whose groove shows the colours that it leads to. */
 class MERIDANE_CORE_EXPORT ColorChannelSlider : public QAbstractSlider
 {
     Q_OBJECT
 
 public:
-    explicit ColorChannelSlider(QWidget *parent = nullptr);
+    explicit ColorChannelSlider(QWidget* parent = nullptr);
 
     /** The colours at 0 and at 255; translucent ones lie on a checkerboard. */
-    void setEnds(const QColor &first, const QColor &last);
+    void setEnds(const QColor& first, const QColor& last);
 
     /** Moves the handle, silently. */
     void setChannel(int channel);
@@ -31,11 +30,11 @@ Q_SIGNALS:
     void gestureFinished();
 
 protected:
-    void paintEvent(QPaintEvent *event) override;
-    void mousePressEvent(QMouseEvent *event) override;
-    void mouseMoveEvent(QMouseEvent *event) override;
-    void mouseReleaseEvent(QMouseEvent *event) override;
-    void hideEvent(QHideEvent *event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
     void finishGesture();
@@ -45,4 +44,4 @@ private:
     QColor m_first = QColor(Qt::black);
     QColor m_last = QColor(Qt::white);
 };
-}
+} // namespace Korvex::Meridane::Designer

@@ -19,19 +19,17 @@
 
 #include <algorithm>
 
-namespace Korvex::Meridane::Designer
-{
-namespace
-{
+namespace Korvex::Meridane::Designer {
+namespace {
 using Common::LocalizationHelper;
 
 constexpr int recentColumns = 8;
 constexpr int recentSwatchWidth = 32;
 /** What a window system needs to take a hidden popup off the screen before the screen is grabbed, in milliseconds. */
 constexpr int hidingDelay = 200;
-}
+} // namespace
 
-ColorPopup::ColorPopup(TransparentOption transparency, QWidget *parent)
+ColorPopup::ColorPopup(TransparentOption transparency, QWidget* parent)
     : QFrame(parent, Qt::Popup)
     , m_transparency(transparency)
     , m_field(new HueSaturationField(this))
@@ -57,13 +55,13 @@ ColorPopup::ColorPopup(TransparentOption transparency, QWidget *parent)
     m_pickButton->setToolTip(LocalizationHelper::coreString(QStringLiteral("Pick a color from the screen")));
     m_pickButton->setFocusPolicy(Qt::StrongFocus);
 
-    auto *row = new QHBoxLayout;
+    auto* row = new QHBoxLayout;
     row->addWidget(m_preview);
     row->addWidget(m_text, 1);
     row->addWidget(m_pickButton);
     m_recentLayout->setSpacing(2);
     m_recentLayout->setColumnStretch(recentColumns, 1);
-    auto *layout = new QVBoxLayout(this);
+    auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_field, 1);
     layout->addWidget(m_brightness);
     layout->addWidget(m_alpha);
@@ -76,7 +74,7 @@ ColorPopup::ColorPopup(TransparentOption transparency, QWidget *parent)
     connect(m_text, &HexColorField::userModified, this, [this] { edit(m_text->color()); });
     connect(m_field, &HueSaturationField::gestureStarted, this, &ColorPopup::gestureStarted);
     connect(m_field, &HueSaturationField::gestureFinished, this, &ColorPopup::gestureFinished);
-    for (const ColorChannelSlider *slider : {m_brightness, m_alpha}) {
+    for (const ColorChannelSlider* slider : {m_brightness, m_alpha}) {
         connect(slider, &ColorChannelSlider::gestureStarted, this, &ColorPopup::gestureStarted);
         connect(slider, &ColorChannelSlider::gestureFinished, this, &ColorPopup::gestureFinished);
     }
@@ -87,7 +85,7 @@ ColorPopup::ColorPopup(TransparentOption transparency, QWidget *parent)
 
 ColorPopup::~ColorPopup() = default;
 
-void ColorPopup::open(const QColor &color, const QWidget *anchor)
+void ColorPopup::open(const QColor& color, const QWidget* anchor)
 {
     m_color = color.isValid() ? color : QColor(Qt::black);
     m_colorBefore = m_color;
@@ -101,7 +99,7 @@ void ColorPopup::open(const QColor &color, const QWidget *anchor)
 }
 
 /** Below @p anchor, else above it, within the screen. */
-void ColorPopup::placeBeside(const QWidget *anchor)
+void ColorPopup::placeBeside(const QWidget* anchor)
 {
     adjustSize();
 
@@ -115,7 +113,7 @@ void ColorPopup::placeBeside(const QWidget *anchor)
     move(place.topLeft());
 }
 
-void ColorPopup::keyPressEvent(QKeyEvent *event)
+void ColorPopup::keyPressEvent(QKeyEvent* event)
 {
     switch (event->key()) {
     case Qt::Key_Escape:
@@ -132,7 +130,7 @@ void ColorPopup::keyPressEvent(QKeyEvent *event)
     }
 }
 
-void ColorPopup::hideEvent(QHideEvent *event)
+void ColorPopup::hideEvent(QHideEvent* event)
 {
     QFrame::hideEvent(event);
     if (m_pickingFromScreen) {
@@ -158,8 +156,7 @@ void ColorPopup::showColor()
     m_field->setHueAndSaturation(m_hue, m_saturation);
     m_brightness->setChannel(hsv.value());
     m_alpha->setChannel(m_color.alpha());
-    m_brightness->setEnds(Qt::black,
-                          QColor::fromHsvF(static_cast<float>(m_hue), static_cast<float>(m_saturation), 1));
+    m_brightness->setEnds(Qt::black, QColor::fromHsvF(static_cast<float>(m_hue), static_cast<float>(m_saturation), 1));
     QColor opaque = m_color;
     opaque.setAlpha(255);
     QColor clear = m_color;
@@ -171,16 +168,16 @@ void ColorPopup::showColor()
 
 void ColorPopup::showRecentColors()
 {
-    while (QLayoutItem *item = m_recentLayout->takeAt(0)) {
+    while (QLayoutItem* item = m_recentLayout->takeAt(0)) {
         delete item->widget();
         delete item;
     }
     int index = 0;
-    for (const QColor &color : RecentColors::shared().colors()) {
+    for (const QColor& color : RecentColors::shared().colors()) {
         if (m_transparency == OpaqueOnly && color.alpha() < 255) {
             continue;
         }
-        auto *swatch = new ColorSwatch(this);
+        auto* swatch = new ColorSwatch(this);
         swatch->setObjectName(QStringLiteral("recentColor"));
         swatch->setAccessibleName(LocalizationHelper::coreString(QStringLiteral("Recent color")));
         swatch->setColor(color);
@@ -191,7 +188,7 @@ void ColorPopup::showRecentColors()
     }
 }
 
-void ColorPopup::edit(const QColor &color)
+void ColorPopup::edit(const QColor& color)
 {
     if (color == m_color) {
         return;
@@ -232,7 +229,7 @@ void ColorPopup::pickFromScreen()
     QTimer::singleShot(hidingDelay, m_screenPicker, &ScreenColorPicker::start);
 }
 
-void ColorPopup::finishPicking(const QColor &color)
+void ColorPopup::finishPicking(const QColor& color)
 {
     m_pickingFromScreen = false;
     show();
@@ -241,4 +238,4 @@ void ColorPopup::finishPicking(const QColor &color)
         edit(color);
     }
 }
-}
+} // namespace Korvex::Meridane::Designer

@@ -9,8 +9,7 @@
 class QGridLayout;
 class QToolButton;
 
-namespace Korvex::Meridane::Designer
-{
+namespace Korvex::Meridane::Designer {
 class ColorChannelSlider;
 class ColorSwatch;
 class HexColorField;
@@ -27,15 +26,15 @@ class MERIDANE_CORE_EXPORT ColorPopup : public QFrame
     Q_OBJECT
 
 public:
-    explicit ColorPopup(TransparentOption transparency, QWidget *parent = nullptr);
+    explicit ColorPopup(TransparentOption transparency, QWidget* parent = nullptr);
     ~ColorPopup() override;
 
     /** Opens with @p color below @p anchor, or where there is room for it on the screen. */
-    void open(const QColor &color, const QWidget *anchor);
+    void open(const QColor& color, const QWidget* anchor);
 
-    [[nodiscard]] const QColor &color() const { return m_color; }
+    [[nodiscard]] const QColor& color() const { return m_color; }
 
-    [[nodiscard]] ScreenColorPicker *screenPicker() const { return m_screenPicker; }
+    [[nodiscard]] ScreenColorPicker* screenPicker() const { return m_screenPicker; }
 
 Q_SIGNALS:
     /** The user has changed the colour. */
@@ -46,17 +45,17 @@ Q_SIGNALS:
     void closed();
 
 protected:
-    void keyPressEvent(QKeyEvent *event) override;
-    void hideEvent(QHideEvent *event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
-    void placeBeside(const QWidget *anchor);
+    void placeBeside(const QWidget* anchor);
     void showColor();
     void showRecentColors();
-    void edit(const QColor &color);
+    void edit(const QColor& color);
     void editFromSliders();
     void pickFromScreen();
-    void finishPicking(const QColor &color);
+    void finishPicking(const QColor& color);
 
     TransparentOption m_transparency;
     QColor m_color = QColor(Qt::black);
@@ -66,13 +65,13 @@ private:
     double m_saturation = 0;
     bool m_pickingFromScreen = false;
 
-    HueSaturationField *m_field;
-    ColorChannelSlider *m_brightness;
-    ColorChannelSlider *m_alpha;
-    HexColorField *m_text;
-    ColorSwatch *m_preview;
-    QToolButton *m_pickButton;
-    QGridLayout *m_recentLayout;
-    ScreenColorPicker *m_screenPicker;
+    HueSaturationField* m_field;
+    ColorChannelSlider* m_brightness;
+    ColorChannelSlider* m_alpha;
+    HexColorField* m_text;
+    ColorSwatch* m_preview;
+    QToolButton* m_pickButton;
+    QGridLayout* m_recentLayout;
+    ScreenColorPicker* m_screenPicker;
 };
-}
+} // namespace Korvex::Meridane::Designer

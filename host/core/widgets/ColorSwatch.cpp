@@ -6,14 +6,12 @@
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPath>
 
-namespace Korvex::Meridane::Designer
-{
-namespace
-{
+namespace Korvex::Meridane::Designer {
+namespace {
 constexpr double cornerRadius = 2;
 }
 
-ColorSwatch::ColorSwatch(QWidget *parent)
+ColorSwatch::ColorSwatch(QWidget* parent)
     : QAbstractButton(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
@@ -21,7 +19,7 @@ ColorSwatch::ColorSwatch(QWidget *parent)
     describe();
 }
 
-void ColorSwatch::setColor(const QColor &color)
+void ColorSwatch::setColor(const QColor& color)
 {
     m_color = color;
     describe();
@@ -53,7 +51,7 @@ QSize ColorSwatch::minimumSizeHint() const
     return {16, 16};
 }
 
-void ColorSwatch::paintEvent(QPaintEvent *event)
+void ColorSwatch::paintEvent(QPaintEvent* event)
 {
     Q_UNUSED(event);
     QPainter painter(this);
@@ -88,15 +86,15 @@ void ColorSwatch::paintEvent(QPaintEvent *event)
     }
 }
 
-void ColorSwatch::enterEvent(QEnterEvent *event)
+void ColorSwatch::enterEvent(QEnterEvent* event)
 {
     QAbstractButton::enterEvent(event);
     update();
 }
 
-void ColorSwatch::leaveEvent(QEvent *event)
+void ColorSwatch::leaveEvent(QEvent* event)
 {
     QAbstractButton::leaveEvent(event);
     update();
 }
-}
+} // namespace Korvex::Meridane::Designer

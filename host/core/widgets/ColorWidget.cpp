@@ -9,15 +9,14 @@
 
 #include <QtWidgets/QHBoxLayout>
 
-namespace Korvex::Meridane::Designer
-{
-ColorWidget::ColorWidget(TransparentOption transparency, bool compact, QWidget *parent)
+namespace Korvex::Meridane::Designer {
+ColorWidget::ColorWidget(TransparentOption transparency, bool compact, QWidget* parent)
     : QWidget(parent)
     , m_transparency(transparency)
     , m_swatch(new ColorSwatch(this))
     , m_text(new HexColorField(transparency, this))
 {
-    auto *layout = new QHBoxLayout(this);
+    auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_swatch);
     layout->addWidget(m_text, 1);
@@ -30,13 +29,13 @@ ColorWidget::ColorWidget(TransparentOption transparency, bool compact, QWidget *
         RecentColors::shared().add(m_text->color());
         edit(m_text->color());
     });
-    auto *focus = new FocusTracker(this);
+    auto* focus = new FocusTracker(this);
     connect(focus, &FocusTracker::entered, this, &ColorWidget::focusedIn);
     connect(focus, &FocusTracker::left, this, &ColorWidget::focusedOut);
     setColor(m_color);
 }
 
-void ColorWidget::setColor(const QColor &color)
+void ColorWidget::setColor(const QColor& color)
 {
     m_color = color;
     m_mixed = false;
@@ -52,7 +51,7 @@ void ColorWidget::setMixed(bool mixed)
     m_text->setMixed(mixed);
 }
 
-void ColorWidget::setAccessibleLabel(const QString &label)
+void ColorWidget::setAccessibleLabel(const QString& label)
 {
     setAccessibleName(label);
     m_swatch->setAccessibleName(label);
@@ -69,7 +68,7 @@ void ColorWidget::openPopup()
     m_popup->open(m_color, m_swatch);
 }
 
-void ColorWidget::edit(const QColor &color)
+void ColorWidget::edit(const QColor& color)
 {
     if (color == m_color && !m_mixed) {
         return;
@@ -77,4 +76,4 @@ void ColorWidget::edit(const QColor &color)
     setColor(color);
     Q_EMIT userModified();
 }
-}
+} // namespace Korvex::Meridane::Designer

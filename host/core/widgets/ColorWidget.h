@@ -6,8 +6,7 @@
 #include <QtGui/QColor>
 #include <QtWidgets/QWidget>
 
-namespace Korvex::Meridane::Designer
-{
+namespace Korvex::Meridane::Designer {
 class ColorPopup;
 class ColorSwatch;
 class HexColorField;
@@ -22,23 +21,23 @@ public:
      * @param transparency whether the user may pick translucent colours; one that is set is shown in any case
      * @param compact true: the swatch alone, for narrow rows; false: with the text
      */
-    ColorWidget(TransparentOption transparency, bool compact, QWidget *parent = nullptr);
+    ColorWidget(TransparentOption transparency, bool compact, QWidget* parent = nullptr);
 
-    [[nodiscard]] const QColor &color() const { return m_color; }
+    [[nodiscard]] const QColor& color() const { return m_color; }
     /** Shows @p color, silently. */
-    void setColor(const QColor &color);
+    void setColor(const QColor& color);
 
     /** Shows "—" for several colours that differ, until setColor() or an edit. color() stays what was set. */
     void setMixed(bool mixed);
     [[nodiscard]] bool isMixed() const { return m_mixed; }
 
     /** Names the swatch for assistive programs, for example after the property that is edited. */
-    void setAccessibleLabel(const QString &label);
+    void setAccessibleLabel(const QString& label);
 
-    [[nodiscard]] ColorSwatch *swatch() const { return m_swatch; }
-    [[nodiscard]] HexColorField *textField() const { return m_text; }
+    [[nodiscard]] ColorSwatch* swatch() const { return m_swatch; }
+    [[nodiscard]] HexColorField* textField() const { return m_text; }
     /** Made when it is first opened; null before. */
-    [[nodiscard]] ColorPopup *popup() const { return m_popup; }
+    [[nodiscard]] ColorPopup* popup() const { return m_popup; }
 
 Q_SIGNALS:
     /** The user has changed the colour; during a drag in the popup once for every change. */
@@ -51,13 +50,13 @@ Q_SIGNALS:
 
 private:
     void openPopup();
-    void edit(const QColor &color);
+    void edit(const QColor& color);
 
     TransparentOption m_transparency;
     QColor m_color = QColor(Qt::black);
     bool m_mixed = false;
-    ColorSwatch *m_swatch;
-    HexColorField *m_text;
-    ColorPopup *m_popup = nullptr;
+    ColorSwatch* m_swatch;
+    HexColorField* m_text;
+    ColorPopup* m_popup = nullptr;
 };
-}
+} // namespace Korvex::Meridane::Designer

@@ -3,9 +3,8 @@
 #include <QtGui/QFocusEvent>
 #include <QtGui/QWheelEvent>
 
-namespace Korvex::Meridane::Designer
-{
-ComboBox::ComboBox(const QMap<QString, QString> &items, QWidget *parent)
+namespace Korvex::Meridane::Designer {
+ComboBox::ComboBox(const QMap<QString, QString>& items, QWidget* parent)
     : QComboBox(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
@@ -16,7 +15,7 @@ ComboBox::ComboBox(const QMap<QString, QString> &items, QWidget *parent)
     connect(this, &QComboBox::activated, this, &ComboBox::onActivated);
 }
 
-void ComboBox::addKeyedItem(const QString &key, const QString &text)
+void ComboBox::addKeyedItem(const QString& key, const QString& text)
 {
     addItem(text, key);
     if (count() == 1) {
@@ -30,7 +29,7 @@ QString ComboBox::currentItemKey() const
     return currentData().toString();
 }
 
-void ComboBox::setCurrentItemKey(const QString &key)
+void ComboBox::setCurrentItemKey(const QString& key)
 {
     m_mixed = false;
     setCurrentIndex(findData(key, Qt::UserRole, Qt::MatchExactly | Qt::MatchCaseSensitive));
@@ -57,7 +56,7 @@ void ComboBox::onActivated()
     Q_EMIT userModified();
 }
 
-void ComboBox::wheelEvent(QWheelEvent *event)
+void ComboBox::wheelEvent(QWheelEvent* event)
 {
     if (hasFocus()) {
         QComboBox::wheelEvent(event);
@@ -66,7 +65,7 @@ void ComboBox::wheelEvent(QWheelEvent *event)
     }
 }
 
-void ComboBox::focusInEvent(QFocusEvent *event)
+void ComboBox::focusInEvent(QFocusEvent* event)
 {
     QComboBox::focusInEvent(event);
     if (event->reason() != Qt::PopupFocusReason) {
@@ -74,11 +73,11 @@ void ComboBox::focusInEvent(QFocusEvent *event)
     }
 }
 
-void ComboBox::focusOutEvent(QFocusEvent *event)
+void ComboBox::focusOutEvent(QFocusEvent* event)
 {
     QComboBox::focusOutEvent(event);
     if (event->reason() != Qt::PopupFocusReason) {
         Q_EMIT focusedOut();
     }
 }
-}
+} // namespace Korvex::Meridane::Designer

@@ -3,16 +3,15 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QWidget>
 
-namespace Korvex::Meridane::Designer
-{
-FocusTracker::FocusTracker(QWidget *widget)
+namespace Korvex::Meridane::Designer {
+FocusTracker::FocusTracker(QWidget* widget)
     : QObject(widget)
     , m_widget(widget)
 {
     connect(qApp, &QApplication::focusChanged, this, &FocusTracker::onFocusChanged);
 }
 
-void FocusTracker::onFocusChanged(QWidget *old, QWidget *now)
+void FocusTracker::onFocusChanged(QWidget* old, QWidget* now)
 {
     Q_UNUSED(old);
     const bool inside = isInside(now);
@@ -27,7 +26,7 @@ void FocusTracker::onFocusChanged(QWidget *old, QWidget *now)
     }
 }
 
-bool FocusTracker::isInside(const QWidget *widget) const
+bool FocusTracker::isInside(const QWidget* widget) const
 {
     // Unlike QWidget::isAncestorOf(), this goes on beyond the border of a window.
     while (widget && widget != m_widget) {
@@ -35,4 +34,4 @@ bool FocusTracker::isInside(const QWidget *widget) const
     }
     return widget != nullptr;
 }
-}
+} // namespace Korvex::Meridane::Designer

@@ -6,8 +6,7 @@
 
 class QWidget;
 
-namespace Korvex::Meridane::Designer
-{
+namespace Korvex::Meridane::Designer {
 /**
  * Tells when the keyboard focus enters and leaves a widget as a whole: its children and the popups that belong to it
  * count as inside.
@@ -18,17 +17,17 @@ class MERIDANE_CORE_EXPORT FocusTracker : public QObject
 
 public:
     /** Watches @p widget, which becomes the parent. */
-    explicit FocusTracker(QWidget *widget);
+    explicit FocusTracker(QWidget* widget);
 
 Q_SIGNALS:
     void entered();
     void left();
 
 private:
-    void onFocusChanged(QWidget *old, QWidget *now);
-    [[nodiscard]] bool isInside(const QWidget *widget) const;
+    void onFocusChanged(QWidget* old, QWidget* now);
+    [[nodiscard]] bool isInside(const QWidget* widget) const;
 
-    const QWidget *m_widget;
+    const QWidget* m_widget;
     bool m_inside = false;
 };
-}
+} // namespace Korvex::Meridane::Designer

@@ -7,11 +7,10 @@
 #include <QtGui/QWheelEvent>
 #include <QtWidgets/QLineEdit>
 
-namespace Korvex::Meridane::Designer
-{
+namespace Korvex::Meridane::Designer {
 using Common::LocalizationHelper;
 
-FontFamilyBox::FontFamilyBox(QWidget *parent)
+FontFamilyBox::FontFamilyBox(QWidget* parent)
     : QFontComboBox(parent)
     , m_family(currentFont().family())
 {
@@ -22,7 +21,7 @@ FontFamilyBox::FontFamilyBox(QWidget *parent)
     showFamily();
 }
 
-void FontFamilyBox::setFamily(const QString &family)
+void FontFamilyBox::setFamily(const QString& family)
 {
     if (family == m_family && !m_mixed) {
         return;
@@ -78,12 +77,13 @@ void FontFamilyBox::showFamily()
     QFont font = lineEdit()->font();
     font.setItalic(missing);
     lineEdit()->setFont(font);
-    setToolTip(missing ? LocalizationHelper::coreString(QStringLiteral("The font \"%1\" is not installed.")).arg(m_family)
-                       : QString());
+    setToolTip(missing
+                   ? LocalizationHelper::coreString(QStringLiteral("The font \"%1\" is not installed.")).arg(m_family)
+                   : QString());
     setAccessibleDescription(toolTip());
 }
 
-void FontFamilyBox::keyPressEvent(QKeyEvent *event)
+void FontFamilyBox::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Enter || event->key() == Qt::Key_Return) {
         commit();
@@ -95,7 +95,7 @@ void FontFamilyBox::keyPressEvent(QKeyEvent *event)
     QFontComboBox::keyPressEvent(event);
 }
 
-void FontFamilyBox::wheelEvent(QWheelEvent *event)
+void FontFamilyBox::wheelEvent(QWheelEvent* event)
 {
     if (hasFocus()) {
         QFontComboBox::wheelEvent(event);
@@ -104,11 +104,11 @@ void FontFamilyBox::wheelEvent(QWheelEvent *event)
     }
 }
 
-void FontFamilyBox::focusOutEvent(QFocusEvent *event)
+void FontFamilyBox::focusOutEvent(QFocusEvent* event)
 {
     if (event->reason() != Qt::PopupFocusReason) {
         commit();
     }
     QFontComboBox::focusOutEvent(event);
 }
-}
+} // namespace Korvex::Meridane::Designer

@@ -2,11 +2,9 @@
 
 #include "host/common/LocalizationHelper.h"
 
-namespace Korvex::Meridane::Designer
-{
-namespace
-{
-bool hasStyle(const QFont &font, FontStyleButton::Style style)
+namespace Korvex::Meridane::Designer {
+namespace {
+bool hasStyle(const QFont& font, FontStyleButton::Style style)
 {
     switch (style) {
     case FontStyleButton::Style::Bold:
@@ -61,9 +59,9 @@ QString styleName(FontStyleButton::Style style)
     }
     return QString();
 }
-}
+} // namespace
 
-FontStyleButton::FontStyleButton(Style style, QWidget *parent)
+FontStyleButton::FontStyleButton(Style style, QWidget* parent)
     : QToolButton(parent)
     , m_style(style)
 {
@@ -78,13 +76,13 @@ FontStyleButton::FontStyleButton(Style style, QWidget *parent)
     connect(this, &QToolButton::clicked, this, &FontStyleButton::userModified);
 }
 
-void FontStyleButton::showFont(const QFont &font)
+void FontStyleButton::showFont(const QFont& font)
 {
     setChecked(hasStyle(font, m_style));
 }
 
-QFont FontStyleButton::appliedTo(const QFont &font) const
+QFont FontStyleButton::appliedTo(const QFont& font) const
 {
     return withStyle(font, m_style, isChecked());
 }
-}
+} // namespace Korvex::Meridane::Designer

@@ -5,8 +5,7 @@
 #include <QtGui/QFont>
 #include <QtWidgets/QToolButton>
 
-namespace Korvex::Meridane::Designer
-{
+namespace Korvex::Meridane::Designer {
 /** A checkable button for one attribute of a font; its letter is drawn with that attribute. */
 class MERIDANE_CORE_EXPORT FontStyleButton : public QToolButton
 {
@@ -22,12 +21,12 @@ public:
         StrikeOut
     };
 
-    explicit FontStyleButton(Style style, QWidget *parent = nullptr);
+    explicit FontStyleButton(Style style, QWidget* parent = nullptr);
 
     /** Checks the button, silently, if @p font has the attribute. */
-    void showFont(const QFont &font);
+    void showFont(const QFont& font);
     /** @p font with the attribute as the button says. */
-    [[nodiscard]] QFont appliedTo(const QFont &font) const;
+    [[nodiscard]] QFont appliedTo(const QFont& font) const;
 
 Q_SIGNALS:
     /** The user has pressed the button. */
@@ -36,4 +35,4 @@ Q_SIGNALS:
 private:
     Style m_style;
 };
-}
+} // namespace Korvex::Meridane::Designer

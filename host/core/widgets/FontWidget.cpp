@@ -17,10 +17,8 @@
 #include <algorithm>
 #include <array>
 
-namespace Korvex::Meridane::Designer
-{
-namespace
-{
+namespace Korvex::Meridane::Designer {
+namespace {
 using Common::LocalizationHelper;
 
 constexpr double pointsInAPixel = 72.0 / 96.0;
@@ -39,7 +37,7 @@ QString pixelSizeKey()
 struct NamedWeight
 {
     QFont::Weight weight;
-    const char *name;
+    const char* name;
 };
 constexpr std::array<NamedWeight, 9> namedWeights{{
     {QFont::Thin, "Thin"},
@@ -53,9 +51,9 @@ constexpr std::array<NamedWeight, 9> namedWeights{{
     {QFont::Black, "Black"},
 }};
 
-SpinBox *createSpacingField(const QString &label, QWidget *parent)
+SpinBox* createSpacingField(const QString& label, QWidget* parent)
 {
-    auto *field = new SpinBox(false, parent);
+    auto* field = new SpinBox(false, parent);
     field->setRange(-largestSpacing, largestSpacing);
     field->setSuffix(LocalizationHelper::coreString(QStringLiteral(" px")));
     field->setSingleStep(0.5);
@@ -63,9 +61,9 @@ SpinBox *createSpacingField(const QString &label, QWidget *parent)
     field->setToolTip(label);
     return field;
 }
-}
+} // namespace
 
-FontWidget::FontWidget(QWidget *parent)
+FontWidget::FontWidget(QWidget* parent)
     : QWidget(parent)
     , m_family(new FontFamilyBox(this))
     , m_size(new SpinBox(false, this))
@@ -85,30 +83,30 @@ FontWidget::FontWidget(QWidget *parent)
     m_family->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // long names do not widen the sheet
     setFocusProxy(m_family);
 
-    auto *styleRow = new QHBoxLayout;
+    auto* styleRow = new QHBoxLayout;
     using Style = FontStyleButton::Style;
     for (const Style style : {Style::Bold, Style::Italic, Style::Underline, Style::Overline, Style::StrikeOut}) {
-        auto *button = new FontStyleButton(style, this);
+        auto* button = new FontStyleButton(style, this);
         connect(button, &FontStyleButton::userModified, this, [this, button] { edit(button->appliedTo(m_font)); });
         m_styles.append(button);
         styleRow->addWidget(button);
     }
     styleRow->addStretch();
 
-    auto *sizeRow = new QHBoxLayout;
+    auto* sizeRow = new QHBoxLayout;
     sizeRow->addWidget(m_size, 1);
     sizeRow->addWidget(m_unit);
-    auto *letterLabel = new QLabel(LocalizationHelper::coreString(QStringLiteral("Letters")), this);
-    auto *wordLabel = new QLabel(LocalizationHelper::coreString(QStringLiteral("Words")), this);
+    auto* letterLabel = new QLabel(LocalizationHelper::coreString(QStringLiteral("Letters")), this);
+    auto* wordLabel = new QLabel(LocalizationHelper::coreString(QStringLiteral("Words")), this);
     letterLabel->setBuddy(m_letterSpacing);
     wordLabel->setBuddy(m_wordSpacing);
-    auto *letterRow = new QHBoxLayout;
+    auto* letterRow = new QHBoxLayout;
     letterRow->addWidget(letterLabel);
     letterRow->addWidget(m_letterSpacing, 1);
-    auto *wordRow = new QHBoxLayout;
+    auto* wordRow = new QHBoxLayout;
     wordRow->addWidget(wordLabel);
     wordRow->addWidget(m_wordSpacing, 1);
-    auto *layout = new QGridLayout(this);
+    auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_family, 0, 0, 1, 2);
     layout->addLayout(sizeRow, 1, 0);
@@ -137,13 +135,13 @@ FontWidget::FontWidget(QWidget *parent)
         font.setWordSpacing(m_wordSpacing->value());
         edit(font);
     });
-    auto *focus = new FocusTracker(this);
+    auto* focus = new FocusTracker(this);
     connect(focus, &FocusTracker::entered, this, &FontWidget::focusedIn);
     connect(focus, &FocusTracker::left, this, &FontWidget::focusedOut);
     showFont();
 }
 
-void FontWidget::setValue(const QFont &font)
+void FontWidget::setValue(const QFont& font)
 {
     m_font = font;
     showFont();
@@ -157,7 +155,7 @@ void FontWidget::showFont()
     m_size->setDecimals(inPixels ? 0 : 2);
     m_size->setValue(inPixels ? m_font.pixelSize() : m_font.pointSizeF());
     showWeight();
-    for (FontStyleButton *button : m_styles) {
+    for (FontStyleButton* button : m_styles) {
         button->showFont(m_font);
     }
     const bool absolute = m_font.letterSpacingType() == QFont::AbsoluteSpacing;
@@ -170,12 +168,12 @@ void FontWidget::showWeight()
 {
     const int weight = m_font.weight();
     const bool named = std::any_of(namedWeights.cbegin(), namedWeights.cend(),
-                                   [weight](const NamedWeight &known) { return known.weight == weight; });
+                                   [weight](const NamedWeight& known) { return known.weight == weight; });
     const int items = static_cast<int>(namedWeights.size()) + (named ? 0 : 1);
     if (m_weight->count() != items || m_weight->findData(QString::number(weight)) < 0) {
         m_weight->clear();
         bool ownListed = named;
-        for (const NamedWeight &known : namedWeights) {
+        for (const NamedWeight& known : namedWeights) {
             if (!ownListed && known.weight > weight) {
                 m_weight->addKeyedItem(QString::number(weight), QString::number(weight));
                 ownListed = true;
@@ -190,7 +188,7 @@ void FontWidget::showWeight()
     m_weight->setCurrentItemKey(QString::number(weight));
 }
 
-void FontWidget::edit(const QFont &font)
+void FontWidget::edit(const QFont& font)
 {
     m_font = font;
     showFont();
@@ -230,4 +228,4 @@ void FontWidget::editLetterSpacing()
     }
     edit(font);
 }
-}
+} // namespace Korvex::Meridane::Designer

@@ -6,8 +6,7 @@
 #include <QtGui/QFont>
 #include <QtWidgets/QWidget>
 
-namespace Korvex::Meridane::Designer
-{
+namespace Korvex::Meridane::Designer {
 class ComboBox;
 class FontFamilyBox;
 class FontStyleButton;
@@ -22,21 +21,21 @@ class MERIDANE_CORE_EXPORT FontWidget : public QWidget
     Q_OBJECT
 
 public:
-    explicit FontWidget(QWidget *parent = nullptr);
+    explicit FontWidget(QWidget* parent = nullptr);
 
-    [[nodiscard]] const QFont &value() const { return m_font; }
+    [[nodiscard]] const QFont& value() const { return m_font; }
     /** Shows @p font, silently. */
-    void setValue(const QFont &font);
+    void setValue(const QFont& font);
 
-    [[nodiscard]] FontFamilyBox *familyBox() const { return m_family; }
-    [[nodiscard]] SpinBox *sizeField() const { return m_size; }
+    [[nodiscard]] FontFamilyBox* familyBox() const { return m_family; }
+    [[nodiscard]] SpinBox* sizeField() const { return m_size; }
     /** Keys "pointSize" and "pixelSize". A change of the unit keeps the size on the screen, rounded to whole pixels. */
-    [[nodiscard]] ComboBox *unitBox() const { return m_unit; }
+    [[nodiscard]] ComboBox* unitBox() const { return m_unit; }
     /** The keys are the numbers from "100" to "900", and that of a font between them. */
-    [[nodiscard]] ComboBox *weightBox() const { return m_weight; }
-    [[nodiscard]] SpinBox *letterSpacingField() const { return m_letterSpacing; }
-    [[nodiscard]] SpinBox *wordSpacingField() const { return m_wordSpacing; }
-    [[nodiscard]] const QList<FontStyleButton *> &styleButtons() const { return m_styles; }
+    [[nodiscard]] ComboBox* weightBox() const { return m_weight; }
+    [[nodiscard]] SpinBox* letterSpacingField() const { return m_letterSpacing; }
+    [[nodiscard]] SpinBox* wordSpacingField() const { return m_wordSpacing; }
+    [[nodiscard]] const QList<FontStyleButton*>& styleButtons() const { return m_styles; }
 
 Q_SIGNALS:
     /** The user has changed the font. */
@@ -47,18 +46,18 @@ Q_SIGNALS:
 private:
     void showFont();
     void showWeight();
-    void edit(const QFont &font);
+    void edit(const QFont& font);
     void editSize();
     void editUnit();
     void editLetterSpacing();
 
     QFont m_font;
-    FontFamilyBox *m_family;
-    SpinBox *m_size;
-    ComboBox *m_unit;
-    ComboBox *m_weight;
-    SpinBox *m_letterSpacing;
-    SpinBox *m_wordSpacing;
-    QList<FontStyleButton *> m_styles;
+    FontFamilyBox* m_family;
+    SpinBox* m_size;
+    ComboBox* m_unit;
+    ComboBox* m_weight;
+    SpinBox* m_letterSpacing;
+    SpinBox* m_wordSpacing;
+    QList<FontStyleButton*> m_styles;
 };
-}
+} // namespace Korvex::Meridane::Designer

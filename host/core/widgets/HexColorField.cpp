@@ -5,9 +5,8 @@
 
 #include <QtGui/QKeyEvent>
 
-namespace Korvex::Meridane::Designer
-{
-HexColorField::HexColorField(TransparentOption transparency, QWidget *parent)
+namespace Korvex::Meridane::Designer {
+HexColorField::HexColorField(TransparentOption transparency, QWidget* parent)
     : QLineEdit(parent)
     , m_transparency(transparency)
 {
@@ -17,7 +16,7 @@ HexColorField::HexColorField(TransparentOption transparency, QWidget *parent)
     showColor();
 }
 
-void HexColorField::setColor(const QColor &color)
+void HexColorField::setColor(const QColor& color)
 {
     if (color == m_color && !m_mixed) {
         return;
@@ -52,10 +51,10 @@ void HexColorField::commit()
     }
 }
 
-bool HexColorField::event(QEvent *event)
+bool HexColorField::event(QEvent* event)
 {
     if (event->type() == QEvent::ShortcutOverride) {
-        auto *key = static_cast<QKeyEvent *>(event);
+        auto* key = static_cast<QKeyEvent*>(event);
         const bool edited = text() != shownText();
         if (key->key() == Qt::Key_Escape && edited) {
             key->accept();
@@ -69,7 +68,7 @@ bool HexColorField::event(QEvent *event)
     return QLineEdit::event(event);
 }
 
-void HexColorField::keyPressEvent(QKeyEvent *event)
+void HexColorField::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Escape && text() != shownText()) {
         showColor();
@@ -89,7 +88,7 @@ void HexColorField::keyPressEvent(QKeyEvent *event)
     QLineEdit::keyPressEvent(event);
 }
 
-void HexColorField::focusOutEvent(QFocusEvent *event)
+void HexColorField::focusOutEvent(QFocusEvent* event)
 {
     if (event->reason() != Qt::PopupFocusReason) {
         commit();
@@ -122,4 +121,4 @@ QColor HexColorField::typedColor() const
     }
     return color;
 }
-}
+} // namespace Korvex::Meridane::Designer

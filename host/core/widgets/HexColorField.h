@@ -6,8 +6,7 @@
 #include <QtGui/QColor>
 #include <QtWidgets/QLineEdit>
 
-namespace Korvex::Meridane::Designer
-{
+namespace Korvex::Meridane::Designer {
 /**
  * A line for a colour as text: `#rrggbb`, `#aarrggbb`, `#rgb`, the same without `#`, or a colour name. What is typed
  * counts on Enter and when the focus leaves; Escape, and a text that is no colour, bring the colour back.
@@ -18,11 +17,11 @@ class MERIDANE_CORE_EXPORT HexColorField : public QLineEdit
 
 public:
     /** Where only opaque colours are allowed, the alpha channel of a typed colour is dropped. */
-    explicit HexColorField(TransparentOption transparency, QWidget *parent = nullptr);
+    explicit HexColorField(TransparentOption transparency, QWidget* parent = nullptr);
 
-    [[nodiscard]] const QColor &color() const { return m_color; }
+    [[nodiscard]] const QColor& color() const { return m_color; }
     /** Shows @p color, silently. */
-    void setColor(const QColor &color);
+    void setColor(const QColor& color);
     /** Shows "—" until setColor() or an edit. */
     void setMixed(bool mixed);
     void commit();
@@ -31,9 +30,9 @@ Q_SIGNALS:
     void userModified();
 
 protected:
-    bool event(QEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
-    void focusOutEvent(QFocusEvent *event) override;
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     void showColor();
@@ -44,4 +43,4 @@ private:
     QColor m_color = QColor(Qt::black);
     bool m_mixed = false;
 };
-}
+} // namespace Korvex::Meridane::Designer

@@ -8,29 +8,27 @@
 
 #include <algorithm>
 
-namespace Korvex::Meridane::Designer
-{
-namespace
-{
+namespace Korvex::Meridane::Designer {
+namespace {
 constexpr double ringRadius = 5;
 
 /** Full brightness everywhere; hue runs along x, saturation falls along y. */
-QImage paintedField(const QSize &size)
+QImage paintedField(const QSize& size)
 {
     QImage image(size, QImage::Format_RGB32);
     const double right = std::max(size.width() - 1, 1);
     const double bottom = std::max(size.height() - 1, 1);
     for (int y = 0; y < size.height(); ++y) {
-        auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
+        auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
         for (int x = 0; x < size.width(); ++x) {
             line[x] = QColor::fromHsvF(static_cast<float>(x / right), static_cast<float>(1 - y / bottom), 1).rgb();
         }
     }
     return image;
 }
-}
+} // namespace
 
-HueSaturationField::HueSaturationField(QWidget *parent)
+HueSaturationField::HueSaturationField(QWidget* parent)
     : QWidget(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
@@ -71,7 +69,7 @@ QRectF HueSaturationField::fieldRect() const
     return QRectF(rect()).adjusted(3, 3, -3, -3);
 }
 
-void HueSaturationField::paintEvent(QPaintEvent *event)
+void HueSaturationField::paintEvent(QPaintEvent* event)
 {
     Q_UNUSED(event);
     const QRectF field = fieldRect();
@@ -97,13 +95,13 @@ void HueSaturationField::paintEvent(QPaintEvent *event)
     painter.drawEllipse(center, ringRadius, ringRadius);
 }
 
-void HueSaturationField::resizeEvent(QResizeEvent *event)
+void HueSaturationField::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
     m_field = QImage();
 }
 
-void HueSaturationField::mousePressEvent(QMouseEvent *event)
+void HueSaturationField::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() != Qt::LeftButton) {
         event->ignore();
@@ -114,21 +112,21 @@ void HueSaturationField::mousePressEvent(QMouseEvent *event)
     editAt(event->position());
 }
 
-void HueSaturationField::mouseMoveEvent(QMouseEvent *event)
+void HueSaturationField::mouseMoveEvent(QMouseEvent* event)
 {
     if (m_gesture) {
         editAt(event->position());
     }
 }
 
-void HueSaturationField::mouseReleaseEvent(QMouseEvent *event)
+void HueSaturationField::mouseReleaseEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton) {
         finishGesture();
     }
 }
 
-void HueSaturationField::hideEvent(QHideEvent *event)
+void HueSaturationField::hideEvent(QHideEvent* event)
 {
     finishGesture();
     QWidget::hideEvent(event);
@@ -142,7 +140,7 @@ void HueSaturationField::finishGesture()
     }
 }
 
-void HueSaturationField::keyPressEvent(QKeyEvent *event)
+void HueSaturationField::keyPressEvent(QKeyEvent* event)
 {
     const double step = event->modifiers().testFlag(Qt::ShiftModifier) ? 0.1 : 0.01;
     switch (event->key()) {
@@ -164,7 +162,7 @@ void HueSaturationField::keyPressEvent(QKeyEvent *event)
     }
 }
 
-void HueSaturationField::editAt(const QPointF &point)
+void HueSaturationField::editAt(const QPointF& point)
 {
     const QRectF field = fieldRect();
     if (!field.isEmpty()) {
@@ -181,4 +179,4 @@ void HueSaturationField::edit(double hue, double saturation)
         Q_EMIT userModified();
     }
 }
-}
+} // namespace Korvex::Meridane::Designer

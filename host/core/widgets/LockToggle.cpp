@@ -6,15 +6,13 @@
 #include <QtWidgets/QStyleOptionToolButton>
 #include <QtWidgets/QStylePainter>
 
-namespace Korvex::Meridane::Designer
-{
-namespace
-{
+namespace Korvex::Meridane::Designer {
+namespace {
 /** The side of the square in which the padlock is drawn below. */
 constexpr double drawingSize = 16;
 
 /** The padlock with round shackle; an open one stands beside the body on its left leg only. */
-void paintPadlock(QPainter &painter, bool closed, const QColor &color)
+void paintPadlock(QPainter& painter, bool closed, const QColor& color)
 {
     QPainterPath shackle;
     const QRectF arc(closed ? 5 : 1.5, 2, 6, 6);
@@ -33,9 +31,9 @@ void paintPadlock(QPainter &painter, bool closed, const QColor &color)
     keyhole.addRect(QRectF(7.5, 10.2, 1, 2.2));
     painter.fillPath(body.subtracted(keyhole), color);
 }
-}
+} // namespace
 
-LockToggle::LockToggle(QWidget *parent)
+LockToggle::LockToggle(QWidget* parent)
     : QToolButton(parent)
 {
     setCheckable(true);
@@ -57,7 +55,7 @@ QSize LockToggle::sizeHint() const
     return {side, side};
 }
 
-void LockToggle::paintEvent(QPaintEvent *event)
+void LockToggle::paintEvent(QPaintEvent* event)
 {
     Q_UNUSED(event);
     QStylePainter painter(this);
@@ -65,14 +63,15 @@ void LockToggle::paintEvent(QPaintEvent *event)
     initStyleOption(&option);
     painter.drawComplexControl(QStyle::CC_ToolButton, option);
 
-    const double side = qMin(qMin(width(), height()) - 4, style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this));
+    const double side =
+        qMin(qMin(width(), height()) - 4, style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this));
     if (side <= 0) {
         return;
     }
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate((width() - side) / 2, (height() - side) / 2);
     painter.scale(side / drawingSize, side / drawingSize);
-    paintPadlock(painter, isChecked(), palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled,
-                                                       QPalette::ButtonText));
+    paintPadlock(painter, isChecked(),
+                 palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
 }
-}
+} // namespace Korvex::Meridane::Designer

@@ -4,15 +4,14 @@
 
 #include <QtWidgets/QToolButton>
 
-namespace Korvex::Meridane::Designer
-{
+namespace Korvex::Meridane::Designer {
 /** A button with a padlock, closed while it is checked, drawn in the colours of the palette. */
 class MERIDANE_CORE_EXPORT LockToggle : public QToolButton
 {
     Q_OBJECT
 
 public:
-    explicit LockToggle(QWidget *parent = nullptr);
+    explicit LockToggle(QWidget* parent = nullptr);
 
     [[nodiscard]] bool isLocked() const { return isChecked(); }
     /** Shows the state, silently. */
@@ -25,6 +24,6 @@ Q_SIGNALS:
     void userModified();
 
 protected:
-    void paintEvent(QPaintEvent *event) override;
+    void paintEvent(QPaintEvent* event) override;
 };
-}
+} // namespace Korvex::Meridane::Designer

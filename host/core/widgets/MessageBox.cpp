@@ -6,11 +6,9 @@
 
 #include <utility>
 
-namespace Korvex::Meridane::Designer
-{
-namespace
-{
-MessageBox::Presenter &installedPresenter()
+namespace Korvex::Meridane::Designer {
+namespace {
+MessageBox::Presenter& installedPresenter()
 {
     static MessageBox::Presenter presenter;
     return presenter;
@@ -19,13 +17,13 @@ MessageBox::Presenter &installedPresenter()
 /** Whether somebody sits before the windows of this program. */
 bool hasScreen()
 {
-    return qobject_cast<QApplication *>(QCoreApplication::instance())
-        && QGuiApplication::platformName() != QLatin1String("offscreen")
-        && !QGuiApplication::platformName().startsWith(QLatin1String("minimal"));
+    return qobject_cast<QApplication*>(QCoreApplication::instance())
+           && QGuiApplication::platformName() != QLatin1String("offscreen")
+           && !QGuiApplication::platformName().startsWith(QLatin1String("minimal"));
 }
-}
+} // namespace
 
-void MessageBox::warning(QWidget *parent, const QString &title, const QString &text)
+void MessageBox::warning(QWidget* parent, const QString& title, const QString& text)
 {
     if (const Presenter presenter = installedPresenter()) {
         presenter(parent, title, text);
@@ -40,4 +38,4 @@ MessageBox::Presenter MessageBox::setPresenter(Presenter presenter)
 {
     return std::exchange(installedPresenter(), std::move(presenter));
 }
-}
+} // namespace Korvex::Meridane::Designer

@@ -13,10 +13,8 @@
 #include <algorithm>
 #include <array>
 
-namespace Korvex::Meridane::Designer
-{
-namespace
-{
+namespace Korvex::Meridane::Designer {
+namespace {
 using Common::LocalizationHelper;
 
 constexpr int side = 54;
@@ -35,9 +33,9 @@ QString pointLabel(int index)
     };
     return LocalizationHelper::coreString(labels.at(static_cast<std::size_t>(index)));
 }
-}
+} // namespace
 
-NineGrid::NineGrid(QWidget *parent)
+NineGrid::NineGrid(QWidget* parent)
     : QWidget(parent)
     , m_chosen(Common::Center)
 {
@@ -53,7 +51,7 @@ QString NineGrid::fixedPoint() const
     return RotationInfo::fixedPointNames().at(m_chosen);
 }
 
-void NineGrid::setFixedPoint(const QString &name)
+void NineGrid::setFixedPoint(const QString& name)
 {
     const qsizetype index = RotationInfo::fixedPointNames().indexOf(name);
     if (index < 0) {
@@ -98,7 +96,7 @@ QPointF NineGrid::pointPosition(int index) const
     return frame().topLeft() + QPointF(fractions.x() * frame().width(), fractions.y() * frame().height());
 }
 
-int NineGrid::pointAt(const QPointF &position) const
+int NineGrid::pointAt(const QPointF& position) const
 {
     const auto third = [](double x, double extent) {
         return extent > 0 ? std::clamp(static_cast<int>(x / extent * columns), 0, columns - 1) : 0;
@@ -106,17 +104,17 @@ int NineGrid::pointAt(const QPointF &position) const
     return third(position.y(), height()) * columns + third(position.x(), width());
 }
 
-bool NineGrid::event(QEvent *event)
+bool NineGrid::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip) {
-        const auto *help = static_cast<QHelpEvent *>(event);
+        const auto* help = static_cast<QHelpEvent*>(event);
         QToolTip::showText(help->globalPos(), pointLabel(pointAt(help->pos())), this);
         return true;
     }
     return QWidget::event(event);
 }
 
-void NineGrid::paintEvent(QPaintEvent *event)
+void NineGrid::paintEvent(QPaintEvent* event)
 {
     Q_UNUSED(event);
     QPainter painter(this);
@@ -139,7 +137,7 @@ void NineGrid::paintEvent(QPaintEvent *event)
     }
 }
 
-void NineGrid::mousePressEvent(QMouseEvent *event)
+void NineGrid::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton) {
         choose(pointAt(event->position()));
@@ -148,18 +146,18 @@ void NineGrid::mousePressEvent(QMouseEvent *event)
     }
 }
 
-void NineGrid::mouseMoveEvent(QMouseEvent *event)
+void NineGrid::mouseMoveEvent(QMouseEvent* event)
 {
     setHovered(pointAt(event->position()));
 }
 
-void NineGrid::leaveEvent(QEvent *event)
+void NineGrid::leaveEvent(QEvent* event)
 {
     setHovered(-1);
     QWidget::leaveEvent(event);
 }
 
-void NineGrid::keyPressEvent(QKeyEvent *event)
+void NineGrid::keyPressEvent(QKeyEvent* event)
 {
     const int row = m_chosen / columns;
     const int column = m_chosen % columns;
@@ -191,13 +189,13 @@ void NineGrid::keyPressEvent(QKeyEvent *event)
     }
 }
 
-void NineGrid::focusInEvent(QFocusEvent *event)
+void NineGrid::focusInEvent(QFocusEvent* event)
 {
     QWidget::focusInEvent(event);
     Q_EMIT focusedIn();
 }
 
-void NineGrid::focusOutEvent(QFocusEvent *event)
+void NineGrid::focusOutEvent(QFocusEvent* event)
 {
     QWidget::focusOutEvent(event);
     Q_EMIT focusedOut();
@@ -222,4 +220,4 @@ void NineGrid::setHovered(int index)
         update();
     }
 }
-}
+} // namespace Korvex::Meridane::Designer

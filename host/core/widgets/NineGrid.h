@@ -5,8 +5,7 @@
 #include <QtCore/QString>
 #include <QtWidgets/QWidget>
 
-namespace Korvex::Meridane::Designer
-{
+namespace Korvex::Meridane::Designer {
 /**
  * A rectangle with nine points of which one is chosen: the fixed point of a rotation. A click chooses the nearest
  * point, the arrow keys go to the neighbour, Home to the top left, End to the bottom right.
@@ -17,12 +16,12 @@ class MERIDANE_CORE_EXPORT NineGrid : public QWidget
 
 public:
     /** The centre is chosen. */
-    explicit NineGrid(QWidget *parent = nullptr);
+    explicit NineGrid(QWidget* parent = nullptr);
 
     /** The name of the chosen point, "TopLeft" … "BottomRight"; while the state is mixed, the one set before. */
     [[nodiscard]] QString fixedPoint() const;
     /** Chooses the point called @p name, silently; another text changes nothing. */
-    void setFixedPoint(const QString &name);
+    void setFixedPoint(const QString& name);
 
     /** Shows no point as chosen, for several values that differ, until setFixedPoint() or an edit. */
     void setMixed(bool mixed);
@@ -38,19 +37,19 @@ Q_SIGNALS:
     void focusedOut();
 
 protected:
-    bool event(QEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
-    void mousePressEvent(QMouseEvent *event) override;
-    void mouseMoveEvent(QMouseEvent *event) override;
-    void leaveEvent(QEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
-    void focusOutEvent(QFocusEvent *event) override;
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     [[nodiscard]] QRectF frame() const;
     [[nodiscard]] QPointF pointPosition(int index) const;
-    [[nodiscard]] int pointAt(const QPointF &position) const;
+    [[nodiscard]] int pointAt(const QPointF& position) const;
     void choose(int index);
     void setHovered(int index);
     void describe();
@@ -59,4 +58,4 @@ private:
     int m_hovered = -1;
     bool m_mixed = false;
 };
-}
+} // namespace Korvex::Meridane::Designer

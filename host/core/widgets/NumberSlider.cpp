@@ -9,15 +9,13 @@
 #include <algorithm>
 #include <cmath>
 
-namespace Korvex::Meridane::Designer
-{
-namespace
-{
+namespace Korvex::Meridane::Designer {
+namespace {
 /** More positions than any screen has pixels. */
 constexpr double mostPositions = 100000;
-}
+} // namespace
 
-NumberSlider::NumberSlider(QWidget *parent)
+NumberSlider::NumberSlider(QWidget* parent)
     : QSlider(Qt::Horizontal, parent)
 {
     setFocusPolicy(Qt::StrongFocus);
@@ -72,7 +70,7 @@ int NumberSlider::positionAt(double x) const
     return QStyle::sliderValueFromPosition(minimum(), maximum(), pixel, span, option.upsideDown);
 }
 
-void NumberSlider::mousePressEvent(QMouseEvent *event)
+void NumberSlider::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() != Qt::LeftButton || m_gesture) {
         QSlider::mousePressEvent(event);
@@ -91,7 +89,7 @@ void NumberSlider::mousePressEvent(QMouseEvent *event)
     event->accept();
 }
 
-void NumberSlider::mouseMoveEvent(QMouseEvent *event)
+void NumberSlider::mouseMoveEvent(QMouseEvent* event)
 {
     if (m_gesture) {
         setValue(positionAt(event->position().x()));
@@ -101,7 +99,7 @@ void NumberSlider::mouseMoveEvent(QMouseEvent *event)
     }
 }
 
-void NumberSlider::mouseReleaseEvent(QMouseEvent *event)
+void NumberSlider::mouseReleaseEvent(QMouseEvent* event)
 {
     if (m_gesture && event->button() == Qt::LeftButton) {
         finishGesture();
@@ -111,7 +109,7 @@ void NumberSlider::mouseReleaseEvent(QMouseEvent *event)
     }
 }
 
-void NumberSlider::keyPressEvent(QKeyEvent *event)
+void NumberSlider::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Escape && m_gesture) {
         setValue(m_positionBefore);
@@ -122,7 +120,7 @@ void NumberSlider::keyPressEvent(QKeyEvent *event)
     QSlider::keyPressEvent(event);
 }
 
-void NumberSlider::wheelEvent(QWheelEvent *event)
+void NumberSlider::wheelEvent(QWheelEvent* event)
 {
     if (hasFocus()) {
         QSlider::wheelEvent(event);
@@ -131,14 +129,14 @@ void NumberSlider::wheelEvent(QWheelEvent *event)
     }
 }
 
-bool NumberSlider::event(QEvent *event)
+bool NumberSlider::event(QEvent* event)
 {
     // A gesture does not outlive the mouse grab.
     if (m_gesture && (event->type() == QEvent::UngrabMouse || event->type() == QEvent::Hide)) {
         finishGesture();
     }
     if (m_gesture && event->type() == QEvent::ShortcutOverride
-        && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
+        && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
         event->accept();
         return true;
     }
@@ -151,4 +149,4 @@ void NumberSlider::finishGesture()
     setSliderDown(false);
     Q_EMIT gestureFinished();
 }
-}
+} // namespace Korvex::Meridane::Designer

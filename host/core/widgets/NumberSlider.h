@@ -4,8 +4,7 @@
 
 #include <QtWidgets/QSlider>
 
-namespace Korvex::Meridane::Designer
-{
+namespace Korvex::Meridane::Designer {
 /**
  * A horizontal slider over real numbers. A click beside the handle moves the handle there. A drag is one gesture;
  * Escape during the drag goes back to where it began. The wheel acts only on the focused slider.
@@ -15,7 +14,7 @@ class MERIDANE_CORE_EXPORT NumberSlider : public QSlider
     Q_OBJECT
 
 public:
-    explicit NumberSlider(QWidget *parent = nullptr);
+    explicit NumberSlider(QWidget* parent = nullptr);
 
     /**
      * The ends of the slider, the distance of an arrow key, and how finely it divides the range. Silent. A range that
@@ -36,12 +35,12 @@ Q_SIGNALS:
     void gestureFinished();
 
 protected:
-    void mousePressEvent(QMouseEvent *event) override;
-    void mouseMoveEvent(QMouseEvent *event) override;
-    void mouseReleaseEvent(QMouseEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
-    void wheelEvent(QWheelEvent *event) override;
-    bool event(QEvent *event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    bool event(QEvent* event) override;
 
 private:
     [[nodiscard]] int positionAt(double x) const;
@@ -52,4 +51,4 @@ private:
     int m_positionBefore = 0;
     bool m_gesture = false;
 };
-}
+} // namespace Korvex::Meridane::Designer

@@ -6,14 +6,13 @@
 
 #include <QtWidgets/QHBoxLayout>
 
-namespace Korvex::Meridane::Designer
-{
-NumberWidget::NumberWidget(bool wholeNumbers, QWidget *parent)
+namespace Korvex::Meridane::Designer {
+NumberWidget::NumberWidget(bool wholeNumbers, QWidget* parent)
     : QWidget(parent)
     , m_spinBox(new SpinBox(wholeNumbers, this))
     , m_slider(new NumberSlider(this))
 {
-    auto *layout = new QHBoxLayout(this);
+    auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_slider, 1);
     layout->addWidget(m_spinBox, 1);
@@ -27,7 +26,7 @@ NumberWidget::NumberWidget(bool wholeNumbers, QWidget *parent)
         m_slider->setNumber(m_spinBox->value()); // the value may have been rounded
         Q_EMIT sliderReleased();
     });
-    auto *focus = new FocusTracker(this);
+    auto* focus = new FocusTracker(this);
     connect(focus, &FocusTracker::entered, this, &NumberWidget::focusedIn);
     connect(focus, &FocusTracker::left, this, &NumberWidget::focusedOut);
     updateSliderRange();
@@ -57,7 +56,7 @@ void NumberWidget::setSingleStep(double step)
     updateSliderRange();
 }
 
-void NumberWidget::setSuffix(const QString &suffix)
+void NumberWidget::setSuffix(const QString& suffix)
 {
     m_spinBox->setSuffix(suffix);
 }
@@ -111,7 +110,7 @@ void NumberWidget::commit()
     m_spinBox->commit();
 }
 
-void NumberWidget::setAccessibleLabel(const QString &label)
+void NumberWidget::setAccessibleLabel(const QString& label)
 {
     setAccessibleName(label);
     m_spinBox->setAccessibleName(label);
@@ -131,4 +130,4 @@ void NumberWidget::onSpinBoxModified()
     }
     Q_EMIT userModified();
 }
-}
+} // namespace Korvex::Meridane::Designer

@@ -5,8 +5,7 @@
 
 #include <QtWidgets/QWidget>
 
-namespace Korvex::Meridane::Designer
-{
+namespace Korvex::Meridane::Designer {
 class NumberSlider;
 class SpinBox;
 
@@ -17,13 +16,13 @@ class MERIDANE_CORE_EXPORT NumberWidget : public QWidget
 
 public:
     /** @param wholeNumbers true: shows no decimals; false: two. setDecimals() changes that. No slider at first. */
-    explicit NumberWidget(bool wholeNumbers, QWidget *parent = nullptr);
+    explicit NumberWidget(bool wholeNumbers, QWidget* parent = nullptr);
 
     void setDecimals(int decimals);
     void setMinimum(double minimum);
     void setMaximum(double maximum);
     void setSingleStep(double step);
-    void setSuffix(const QString &suffix);
+    void setSuffix(const QString& suffix);
     /** The slider spans the range from minimum to maximum. */
     void showSlider(bool show);
 
@@ -41,10 +40,10 @@ public:
     void commit();
 
     /** Names field and slider for assistive programs, for example after the property that is edited. */
-    void setAccessibleLabel(const QString &label);
+    void setAccessibleLabel(const QString& label);
 
-    [[nodiscard]] SpinBox *spinBox() const { return m_spinBox; }
-    [[nodiscard]] NumberSlider *slider() const { return m_slider; }
+    [[nodiscard]] SpinBox* spinBox() const { return m_spinBox; }
+    [[nodiscard]] NumberSlider* slider() const { return m_slider; }
 
 Q_SIGNALS:
     /** The user has changed the value; during a drag of the slider once for every change. */
@@ -60,7 +59,7 @@ private:
     void updateSliderRange();
     void onSpinBoxModified();
 
-    SpinBox *m_spinBox;
-    NumberSlider *m_slider;
+    SpinBox* m_spinBox;
+    NumberSlider* m_slider;
 };
-}
+} // namespace Korvex::Meridane::Designer

@@ -10,10 +10,8 @@
 #include <algorithm>
 #include <array>
 
-namespace Korvex::Meridane::Designer
-{
-namespace
-{
+namespace Korvex::Meridane::Designer {
+namespace {
 /** Marks the signs that stand for another character. */
 constexpr int standsForAnother = QTextFormat::UserProperty + 1;
 
@@ -24,8 +22,8 @@ struct Substitute
     char16_t sign;
 };
 constexpr std::array<Substitute, 6> substitutes{{
-    {u'\0', u'\u2205'},     // an empty set
-    {u'\r', u'\u21b5'},     // the arrow of the return key
+    {u'\0', u'\u2205'}, // an empty set
+    {u'\r', u'\u21b5'}, // the arrow of the return key
     {u'\u2029', u'\u00b6'}, // a pilcrow for the paragraph separator
     {u'\ufdd0', u'\u00ab'}, // beginning and end of a text frame inside documents
     {u'\ufdd1', u'\u00bb'},
@@ -35,14 +33,14 @@ constexpr std::array<Substitute, 6> substitutes{{
 QChar signFor(QChar original)
 {
     const auto found = std::find_if(substitutes.cbegin(), substitutes.cend(),
-                                    [original](const Substitute &s) { return s.original == original.unicode(); });
+                                    [original](const Substitute& s) { return s.original == original.unicode(); });
     return found == substitutes.cend() ? QChar() : QChar(found->sign);
 }
 
 QChar originalOf(QChar sign)
 {
     const auto found = std::find_if(substitutes.cbegin(), substitutes.cend(),
-                                    [sign](const Substitute &s) { return s.sign == sign.unicode(); });
+                                    [sign](const Substitute& s) { return s.sign == sign.unicode(); });
     return found == substitutes.cend() ? sign : QChar(found->original);
 }
 
@@ -53,9 +51,9 @@ QTextCharFormat substituteFormat()
     format.setForeground(QColor(128, 128, 128)); // stands back from the text on light and on dark ground
     return format;
 }
-}
+} // namespace
 
-PlainTextEdit::PlainTextEdit(QWidget *parent)
+PlainTextEdit::PlainTextEdit(QWidget* parent)
     : QTextEdit(parent)
 {
     setAcceptRichText(false);
@@ -71,7 +69,7 @@ PlainTextEdit::PlainTextEdit(QWidget *parent)
     });
 }
 
-void PlainTextEdit::setText(const QString &text)
+void PlainTextEdit::setText(const QString& text)
 {
     if (text == plainText()) {
         return;
@@ -103,7 +101,7 @@ void PlainTextEdit::setMixed(bool mixed)
 }
 
 /** Inserts @p text at @p cursor: line feeds as new blocks, substitutes with their mark, all else as it stands. */
-void PlainTextEdit::insertEncoded(QTextCursor &cursor, const QString &text) const
+void PlainTextEdit::insertEncoded(QTextCursor& cursor, const QString& text) const
 {
     const QTextCharFormat plain;
     const QTextCharFormat marked = substituteFormat();
@@ -158,10 +156,10 @@ QString PlainTextEdit::decoded(int start, int end) const
     return text;
 }
 
-bool PlainTextEdit::event(QEvent *event)
+bool PlainTextEdit::event(QEvent* event)
 {
     if (event->type() == QEvent::ShortcutOverride) {
-        auto *key = static_cast<QKeyEvent *>(event);
+        auto* key = static_cast<QKeyEvent*>(event);
         if (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo)) {
             key->ignore();
             return true;
@@ -170,7 +168,7 @@ bool PlainTextEdit::event(QEvent *event)
     return QTextEdit::event(event);
 }
 
-void PlainTextEdit::wheelEvent(QWheelEvent *event)
+void PlainTextEdit::wheelEvent(QWheelEvent* event)
 {
     if (hasFocus()) {
         QTextEdit::wheelEvent(event);
@@ -179,7 +177,7 @@ void PlainTextEdit::wheelEvent(QWheelEvent *event)
     }
 }
 
-void PlainTextEdit::focusInEvent(QFocusEvent *event)
+void PlainTextEdit::focusInEvent(QFocusEvent* event)
 {
     QTextEdit::focusInEvent(event);
     if (event->reason() != Qt::PopupFocusReason) {
@@ -187,7 +185,7 @@ void PlainTextEdit::focusInEvent(QFocusEvent *event)
     }
 }
 
-void PlainTextEdit::focusOutEvent(QFocusEvent *event)
+void PlainTextEdit::focusOutEvent(QFocusEvent* event)
 {
     QTextEdit::focusOutEvent(event);
     if (event->reason() != Qt::PopupFocusReason) {
@@ -195,19 +193,19 @@ void PlainTextEdit::focusOutEvent(QFocusEvent *event)
     }
 }
 
-QMimeData *PlainTextEdit::createMimeDataFromSelection() const
+QMimeData* PlainTextEdit::createMimeDataFromSelection() const
 {
-    auto *data = new QMimeData;
+    auto* data = new QMimeData;
     data->setText(decoded(textCursor().selectionStart(), textCursor().selectionEnd()));
     return data;
 }
 
-bool PlainTextEdit::canInsertFromMimeData(const QMimeData *source) const
+bool PlainTextEdit::canInsertFromMimeData(const QMimeData* source) const
 {
     return source->hasText();
 }
 
-void PlainTextEdit::insertFromMimeData(const QMimeData *source)
+void PlainTextEdit::insertFromMimeData(const QMimeData* source)
 {
     // Other programs end lines in ways of their own.
     QString text = source->text();
@@ -222,4 +220,4 @@ void PlainTextEdit::insertFromMimeData(const QMimeData *source)
     setTextCursor(cursor);
     ensureCursorVisible();
 }
-}
+} // namespace Korvex::Meridane::Designer

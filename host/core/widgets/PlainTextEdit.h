@@ -4,8 +4,7 @@
 
 #include <QtWidgets/QTextEdit>
 
-namespace Korvex::Meridane::Designer
-{
+namespace Korvex::Meridane::Designer {
 /**
  * A multi-line field for plain text. setText() and plainText() are exact inverses for every string: markup is shown as
  * it stands, and characters that a text document would turn into something else (carriage returns, NUL, paragraph
@@ -18,10 +17,10 @@ class MERIDANE_CORE_EXPORT PlainTextEdit : public QTextEdit
     Q_OBJECT
 
 public:
-    explicit PlainTextEdit(QWidget *parent = nullptr);
+    explicit PlainTextEdit(QWidget* parent = nullptr);
 
     /** Shows @p text; textChanged() is sent if it differs from plainText(), userModified() never. */
-    void setText(const QString &text);
+    void setText(const QString& text);
 
     [[nodiscard]] QString plainText() const;
 
@@ -36,19 +35,19 @@ Q_SIGNALS:
     void focusedOut();
 
 protected:
-    bool event(QEvent *event) override;
-    void wheelEvent(QWheelEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
-    void focusOutEvent(QFocusEvent *event) override;
-    [[nodiscard]] QMimeData *createMimeDataFromSelection() const override;
-    [[nodiscard]] bool canInsertFromMimeData(const QMimeData *source) const override;
-    void insertFromMimeData(const QMimeData *source) override;
+    bool event(QEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
+    [[nodiscard]] bool canInsertFromMimeData(const QMimeData* source) const override;
+    void insertFromMimeData(const QMimeData* source) override;
 
 private:
-    void insertEncoded(QTextCursor &cursor, const QString &text) const;
+    void insertEncoded(QTextCursor& cursor, const QString& text) const;
     [[nodiscard]] QString decoded(int start, int end) const;
 
     bool m_loading = false;
     bool m_mixed = false;
 };
-}
+} // namespace Korvex::Meridane::Designer

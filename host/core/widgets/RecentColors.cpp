@@ -5,28 +5,25 @@
 #include <QtCore/QSettings>
 #include <QtCore/QStringList>
 
-namespace Korvex::Meridane::Designer
-{
-namespace
-{
+namespace Korvex::Meridane::Designer {
+namespace {
 QString settingsKey()
 {
     return QStringLiteral("recentColors");
 }
-}
+} // namespace
 
-RecentColors::RecentColors(QObject *parent)
+RecentColors::RecentColors(QObject* parent)
     : QObject(parent)
-{
-}
+{}
 
-RecentColors &RecentColors::shared()
+RecentColors& RecentColors::shared()
 {
     static RecentColors colors;
     return colors;
 }
 
-void RecentColors::add(const QColor &color)
+void RecentColors::add(const QColor& color)
 {
     if (!color.isValid() || (!m_colors.isEmpty() && m_colors.first() == color)) {
         return;
@@ -39,11 +36,11 @@ void RecentColors::add(const QColor &color)
     Q_EMIT changed();
 }
 
-void RecentColors::load(const QSettings &settings)
+void RecentColors::load(const QSettings& settings)
 {
     m_colors.clear();
     const QStringList texts = settings.value(settingsKey()).toStringList();
-    for (const QString &text : texts) {
+    for (const QString& text : texts) {
         bool ok = false;
         const QColor color = ValueConversion::toColor(text, &ok);
         if (ok && !m_colors.contains(color) && m_colors.size() < capacity) {
@@ -53,12 +50,12 @@ void RecentColors::load(const QSettings &settings)
     Q_EMIT changed();
 }
 
-void RecentColors::save(QSettings &settings) const
+void RecentColors::save(QSettings& settings) const
 {
     QStringList texts;
-    for (const QColor &color : m_colors) {
+    for (const QColor& color : m_colors) {
         texts.append(ValueConversion::toString(color));
     }
     settings.setValue(settingsKey(), texts);
 }
-}
+} // namespace Korvex::Meridane::Designer

@@ -12,19 +12,17 @@
 
 #include <cmath>
 
-namespace Korvex::Meridane::Designer
-{
-namespace
-{
+namespace Korvex::Meridane::Designer {
+namespace {
 /** Picture pixels along a side of the magnifier (odd, so that one lies in the middle), and how large each is shown. */
 constexpr int magnifiedPixels = 15;
 constexpr int magnification = 8;
 constexpr int magnifierSide = magnifiedPixels * magnification;
 constexpr int labelHeight = 22;
 constexpr int pointerDistance = 20;
-}
+} // namespace
 
-ScreenColorOverlay::ScreenColorOverlay(QScreen *screen, const QPixmap &picture)
+ScreenColorOverlay::ScreenColorOverlay(QScreen* screen, const QPixmap& picture)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint)
     , m_picture(picture.toImage().convertToFormat(QImage::Format_RGB32))
     , m_ratio(picture.devicePixelRatio())
@@ -38,12 +36,12 @@ ScreenColorOverlay::ScreenColorOverlay(QScreen *screen, const QPixmap &picture)
     m_pointer = mapFromGlobal(QCursor::pos());
 }
 
-QPoint ScreenColorOverlay::pixelAt(const QPointF &point) const
+QPoint ScreenColorOverlay::pixelAt(const QPointF& point) const
 {
     return {static_cast<int>(std::floor(point.x() * m_ratio)), static_cast<int>(std::floor(point.y() * m_ratio))};
 }
 
-QColor ScreenColorOverlay::colorAt(const QPointF &point) const
+QColor ScreenColorOverlay::colorAt(const QPointF& point) const
 {
     const QPoint pixel = pixelAt(point);
     return m_picture.valid(pixel) ? m_picture.pixelColor(pixel) : QColor();
@@ -52,7 +50,8 @@ QColor ScreenColorOverlay::colorAt(const QPointF &point) const
 /** Beside the pointer, on the side where there is room. */
 QRectF ScreenColorOverlay::magnifierRect() const
 {
-    QRectF area(m_pointer + QPointF(pointerDistance, pointerDistance), QSizeF(magnifierSide, magnifierSide + labelHeight));
+    QRectF area(m_pointer + QPointF(pointerDistance, pointerDistance),
+                QSizeF(magnifierSide, magnifierSide + labelHeight));
     if (area.right() > width()) {
         area.moveRight(m_pointer.x() - pointerDistance);
     }
@@ -62,7 +61,7 @@ QRectF ScreenColorOverlay::magnifierRect() const
     return area;
 }
 
-void ScreenColorOverlay::paintEvent(QPaintEvent *event)
+void ScreenColorOverlay::paintEvent(QPaintEvent* event)
 {
     Q_UNUSED(event);
     QPainter painter(this);
@@ -96,13 +95,13 @@ void ScreenColorOverlay::paintEvent(QPaintEvent *event)
                      ValueConversion::toString(color));
 }
 
-void ScreenColorOverlay::mouseMoveEvent(QMouseEvent *event)
+void ScreenColorOverlay::mouseMoveEvent(QMouseEvent* event)
 {
     m_pointer = event->position();
     update();
 }
 
-void ScreenColorOverlay::mouseReleaseEvent(QMouseEvent *event)
+void ScreenColorOverlay::mouseReleaseEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton) {
         pick(event->position());
@@ -111,7 +110,7 @@ void ScreenColorOverlay::mouseReleaseEvent(QMouseEvent *event)
     }
 }
 
-void ScreenColorOverlay::keyPressEvent(QKeyEvent *event)
+void ScreenColorOverlay::keyPressEvent(QKeyEvent* event)
 {
     switch (event->key()) {
     case Qt::Key_Escape:
@@ -140,7 +139,7 @@ void ScreenColorOverlay::keyPressEvent(QKeyEvent *event)
     }
 }
 
-void ScreenColorOverlay::closeEvent(QCloseEvent *event)
+void ScreenColorOverlay::closeEvent(QCloseEvent* event)
 {
     event->accept();
     Q_EMIT cancelled();
@@ -156,11 +155,11 @@ void ScreenColorOverlay::movePointer(int dx, int dy)
     }
 }
 
-void ScreenColorOverlay::pick(const QPointF &point)
+void ScreenColorOverlay::pick(const QPointF& point)
 {
     const QColor color = colorAt(point);
     if (color.isValid()) {
         Q_EMIT picked(color);
     }
 }
-}
+} // namespace Korvex::Meridane::Designer

@@ -8,26 +8,22 @@
 
 #include <utility>
 
-namespace Korvex::Meridane::Designer
-{
-namespace
-{
-QPixmap grabScreen(QScreen *screen)
+namespace Korvex::Meridane::Designer {
+namespace {
+QPixmap grabScreen(QScreen* screen)
 {
     return screen->grabWindow(0);
 }
-}
+} // namespace
 
-ScreenColorPicker::ScreenColorPicker(QObject *parent)
+ScreenColorPicker::ScreenColorPicker(QObject* parent)
     : ScreenColorPicker(grabScreen, parent)
-{
-}
+{}
 
-ScreenColorPicker::ScreenColorPicker(Grabber grabber, QObject *parent)
+ScreenColorPicker::ScreenColorPicker(Grabber grabber, QObject* parent)
     : QObject(parent)
     , m_grabber(std::move(grabber))
-{
-}
+{}
 
 ScreenColorPicker::~ScreenColorPicker()
 {
@@ -36,7 +32,7 @@ ScreenColorPicker::~ScreenColorPicker()
 
 bool ScreenColorPicker::isAvailable()
 {
-    QScreen *screen = QGuiApplication::primaryScreen();
+    QScreen* screen = QGuiApplication::primaryScreen();
     return screen && !screen->grabWindow(0, 0, 0, 1, 1).isNull();
 }
 
@@ -45,15 +41,15 @@ void ScreenColorPicker::start()
     if (isActive()) {
         return;
     }
-    const QList<QScreen *> screens = QGuiApplication::screens();
-    for (QScreen *screen : screens) {
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    for (QScreen* screen : screens) {
         const QPixmap picture = m_grabber(screen);
         if (picture.isNull()) {
             continue;
         }
-        auto *overlay = new ScreenColorOverlay(screen, picture);
+        auto* overlay = new ScreenColorOverlay(screen, picture);
         m_overlays.append(overlay);
-        connect(overlay, &ScreenColorOverlay::picked, this, [this](const QColor &color) {
+        connect(overlay, &ScreenColorOverlay::picked, this, [this](const QColor& color) {
             close();
             Q_EMIT picked(color);
         });
@@ -64,7 +60,7 @@ void ScreenColorPicker::start()
         return;
     }
     const QList<QPointer<ScreenColorOverlay>> overlays = m_overlays;
-    for (ScreenColorOverlay *overlay : overlays) {
+    for (ScreenColorOverlay* overlay : overlays) {
         overlay->showFullScreen();
         if (overlay->geometry().contains(QCursor::pos())) {
             overlay->activateWindow();
@@ -83,7 +79,7 @@ void ScreenColorPicker::cancel()
 void ScreenColorPicker::close()
 {
     const QList<QPointer<ScreenColorOverlay>> overlays = std::exchange(m_overlays, {});
-    for (ScreenColorOverlay *overlay : overlays) {
+    for (ScreenColorOverlay* overlay : overlays) {
         if (overlay) {
             overlay->disconnect(this);
             overlay->hide();
@@ -91,4 +87,4 @@ void ScreenColorPicker::close()
         }
     }
 }
-}
+} // namespace Korvex::Meridane::Designer

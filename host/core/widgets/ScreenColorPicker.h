@@ -12,8 +12,7 @@
 
 class QScreen;
 
-namespace Korvex::Meridane::Designer
-{
+namespace Korvex::Meridane::Designer {
 class ScreenColorOverlay;
 
 /**
@@ -28,11 +27,11 @@ class MERIDANE_CORE_EXPORT ScreenColorPicker : public QObject
 
 public:
     /** Gives the picture of a screen, or a null one when that is not allowed. */
-    using Grabber = std::function<QPixmap(QScreen *screen)>;
+    using Grabber = std::function<QPixmap(QScreen* screen)>;
 
-    explicit ScreenColorPicker(QObject *parent = nullptr);
+    explicit ScreenColorPicker(QObject* parent = nullptr);
     /** With another source of pictures than the window system. */
-    explicit ScreenColorPicker(Grabber grabber, QObject *parent = nullptr);
+    explicit ScreenColorPicker(Grabber grabber, QObject* parent = nullptr);
     ~ScreenColorPicker() override;
 
     /** Whether the window system gives out pictures of the screen. */
@@ -45,7 +44,7 @@ public:
 
 Q_SIGNALS:
     /** Always an opaque colour. */
-    void picked(const QColor &color);
+    void picked(const QColor& color);
     void cancelled();
 
 private:
@@ -54,4 +53,4 @@ private:
     Grabber m_grabber;
     QList<QPointer<ScreenColorOverlay>> m_overlays;
 };
-}
+} // namespace Korvex::Meridane::Designer

@@ -8,33 +8,31 @@
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 
-namespace Korvex::Meridane::Designer
-{
-namespace
-{
+namespace Korvex::Meridane::Designer {
+namespace {
 using Common::LocalizationHelper;
 
 constexpr double largestDimension = 99999;
-}
+} // namespace
 
-SizeWidget::SizeWidget(QWidget *parent)
+SizeWidget::SizeWidget(QWidget* parent)
     : QWidget(parent)
     , m_width(new SpinBox(false, this))
     , m_height(new SpinBox(false, this))
     , m_lock(new LockToggle(this))
 {
-    auto *widthLabel = new QLabel(LocalizationHelper::coreString(QStringLiteral("W")), this);
-    auto *heightLabel = new QLabel(LocalizationHelper::coreString(QStringLiteral("H")), this);
+    auto* widthLabel = new QLabel(LocalizationHelper::coreString(QStringLiteral("W")), this);
+    auto* heightLabel = new QLabel(LocalizationHelper::coreString(QStringLiteral("H")), this);
     widthLabel->setBuddy(m_width);
     heightLabel->setBuddy(m_height);
     m_width->setAccessibleName(LocalizationHelper::coreString(QStringLiteral("Width")));
     m_height->setAccessibleName(LocalizationHelper::coreString(QStringLiteral("Height")));
-    for (SpinBox *field : {m_width, m_height}) {
+    for (SpinBox* field : {m_width, m_height}) {
         field->setRange(0, largestDimension);
         field->setSuffix(LocalizationHelper::coreString(QStringLiteral(" px")));
     }
 
-    auto *layout = new QHBoxLayout(this);
+    auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(widthLabel);
     layout->addWidget(m_width, 1);
@@ -49,7 +47,7 @@ SizeWidget::SizeWidget(QWidget *parent)
     connect(this, &SizeWidget::userModifiedWidth, this, &SizeWidget::userModified);
     connect(this, &SizeWidget::userModifiedHeight, this, &SizeWidget::userModified);
     connect(m_lock, &LockToggle::userModified, this, &SizeWidget::userModifiedLock);
-    auto *focus = new FocusTracker(this);
+    auto* focus = new FocusTracker(this);
     connect(focus, &FocusTracker::entered, this, &SizeWidget::focusedIn);
     connect(focus, &FocusTracker::left, this, &SizeWidget::focusedOut);
 }
@@ -60,19 +58,19 @@ void SizeWidget::setDecimals(int decimals)
     m_height->setDecimals(decimals);
 }
 
-void SizeWidget::setMinimum(const QSizeF &minimum)
+void SizeWidget::setMinimum(const QSizeF& minimum)
 {
     m_width->setMinimum(minimum.width());
     m_height->setMinimum(minimum.height());
 }
 
-void SizeWidget::setMaximum(const QSizeF &maximum)
+void SizeWidget::setMaximum(const QSizeF& maximum)
 {
     m_width->setMaximum(maximum.width());
     m_height->setMaximum(maximum.height());
 }
 
-void SizeWidget::setSuffix(const QString &suffix)
+void SizeWidget::setSuffix(const QString& suffix)
 {
     m_width->setSuffix(suffix);
     m_height->setSuffix(suffix);
@@ -83,7 +81,7 @@ QSizeF SizeWidget::value() const
     return {m_width->value(), m_height->value()};
 }
 
-void SizeWidget::setValue(const QSizeF &size)
+void SizeWidget::setValue(const QSizeF& size)
 {
     m_width->setValue(size.width());
     m_height->setValue(size.height());
@@ -125,4 +123,4 @@ void SizeWidget::setLocked(bool locked)
 {
     m_lock->setLocked(locked);
 }
-}
+} // namespace Korvex::Meridane::Designer

@@ -6,8 +6,7 @@
 #include <QtCore/QSizeF>
 #include <QtWidgets/QWidget>
 
-namespace Korvex::Meridane::Designer
-{
+namespace Korvex::Meridane::Designer {
 class LockToggle;
 class SpinBox;
 
@@ -18,17 +17,17 @@ class MERIDANE_CORE_EXPORT SizeWidget : public QWidget
 
 public:
     /** Two decimals, from 0 to 99999, the suffix " px", no lock. */
-    explicit SizeWidget(QWidget *parent = nullptr);
+    explicit SizeWidget(QWidget* parent = nullptr);
 
     void setDecimals(int decimals);
     /** Limits what the user can enter; a size outside is shown as it is. */
-    void setMinimum(const QSizeF &minimum);
-    void setMaximum(const QSizeF &maximum);
-    void setSuffix(const QString &suffix);
+    void setMinimum(const QSizeF& minimum);
+    void setMaximum(const QSizeF& maximum);
+    void setSuffix(const QString& suffix);
 
     [[nodiscard]] QSizeF value() const;
     /** Shows @p size, silently. */
-    void setValue(const QSizeF &size);
+    void setValue(const QSizeF& size);
 
     /** See SpinBox; each dimension has an operation and a mixed state of its own. */
     void setRelativeInputAllowed(bool allowed);
@@ -42,9 +41,9 @@ public:
     /** Shows the state, silently. */
     void setLocked(bool locked);
 
-    [[nodiscard]] SpinBox *widthField() const { return m_width; }
-    [[nodiscard]] SpinBox *heightField() const { return m_height; }
-    [[nodiscard]] LockToggle *lockToggle() const { return m_lock; }
+    [[nodiscard]] SpinBox* widthField() const { return m_width; }
+    [[nodiscard]] SpinBox* heightField() const { return m_height; }
+    [[nodiscard]] LockToggle* lockToggle() const { return m_lock; }
 
 Q_SIGNALS:
     /** The user has changed one dimension; each is followed by userModified(). */
@@ -57,8 +56,8 @@ Q_SIGNALS:
     void focusedOut();
 
 private:
-    SpinBox *m_width;
-    SpinBox *m_height;
-    LockToggle *m_lock;
+    SpinBox* m_width;
+    SpinBox* m_height;
+    LockToggle* m_lock;
 };
-}
+} // namespace Korvex::Meridane::Designer

@@ -11,18 +11,16 @@
 #include <algorithm>
 #include <cmath>
 
-namespace Korvex::Meridane::Designer
-{
-namespace
-{
+namespace Korvex::Meridane::Designer {
+namespace {
 constexpr double defaultLimit = 1e9;
 constexpr int maximumDecimals = 15;
 constexpr char16_t mixedSign = u'\u2014';
 /** From here on doubles have no decimals. */
 constexpr double wholeNumbersOnly = 1e15;
-}
+} // namespace
 
-SpinBox::SpinBox(bool wholeNumbers, QWidget *parent)
+SpinBox::SpinBox(bool wholeNumbers, QWidget* parent)
     : QDoubleSpinBox(parent)
     , m_minimum(-defaultLimit)
     , m_maximum(defaultLimit)
@@ -80,7 +78,7 @@ void SpinBox::setRange(double minimum, double maximum)
     showValue();
 }
 
-void SpinBox::setSuffix(const QString &suffix)
+void SpinBox::setSuffix(const QString& suffix)
 {
     m_suffix = suffix;
     showValue();
@@ -142,7 +140,7 @@ void SpinBox::commit()
 }
 
 /** The one way by which the user's edits reach the value. */
-void SpinBox::applyOperation(const NumberOperation &operation)
+void SpinBox::applyOperation(const NumberOperation& operation)
 {
     const double before = m_value;
     const bool wasMixed = m_mixed;
@@ -209,7 +207,7 @@ QString SpinBox::textFromValue(double value) const
     return ValueConversion::toQmlString(value, m_decimals);
 }
 
-double SpinBox::valueFromText(const QString &text) const
+double SpinBox::valueFromText(const QString& text) const
 {
     if (text != shownText()) {
         if (const std::optional<NumberOperation> operation = read(text)) {
@@ -219,11 +217,11 @@ double SpinBox::valueFromText(const QString &text) const
     return QDoubleSpinBox::value();
 }
 
-QValidator::State SpinBox::validate(QString &text, int &position) const
+QValidator::State SpinBox::validate(QString& text, int& position) const
 {
     Q_UNUSED(position);
-    const auto relative = m_relativeInputAllowed ? NumberExpression::RelativeInput::Allowed
-                                                 : NumberExpression::RelativeInput::Refused;
+    const auto relative =
+        m_relativeInputAllowed ? NumberExpression::RelativeInput::Allowed : NumberExpression::RelativeInput::Refused;
     const QStringView expression = withoutSuffix(text);
     if (!NumberExpression::mayBecomeExpression(expression, relative)) {
         return QValidator::Invalid;
@@ -231,15 +229,15 @@ QValidator::State SpinBox::validate(QString &text, int &position) const
     return NumberExpression::parse(expression, relative) ? QValidator::Acceptable : QValidator::Intermediate;
 }
 
-void SpinBox::fixup(QString &text) const
+void SpinBox::fixup(QString& text) const
 {
     Q_UNUSED(text); // commit() decides about incomplete text
 }
 
-bool SpinBox::event(QEvent *event)
+bool SpinBox::event(QEvent* event)
 {
     if (event->type() == QEvent::ShortcutOverride) {
-        auto *key = static_cast<QKeyEvent *>(event);
+        auto* key = static_cast<QKeyEvent*>(event);
         if (key->key() == Qt::Key_Escape && isEdited()) {
             key->accept();
             return true;
@@ -253,7 +251,7 @@ bool SpinBox::event(QEvent *event)
     return QDoubleSpinBox::event(event);
 }
 
-void SpinBox::keyPressEvent(QKeyEvent *event)
+void SpinBox::keyPressEvent(QKeyEvent* event)
 {
     switch (event->key()) {
     case Qt::Key_Escape:
@@ -274,7 +272,7 @@ void SpinBox::keyPressEvent(QKeyEvent *event)
     QDoubleSpinBox::keyPressEvent(event);
 }
 
-void SpinBox::wheelEvent(QWheelEvent *event)
+void SpinBox::wheelEvent(QWheelEvent* event)
 {
     if (hasFocus()) {
         QDoubleSpinBox::wheelEvent(event);
@@ -283,7 +281,7 @@ void SpinBox::wheelEvent(QWheelEvent *event)
     }
 }
 
-void SpinBox::focusInEvent(QFocusEvent *event)
+void SpinBox::focusInEvent(QFocusEvent* event)
 {
     QDoubleSpinBox::focusInEvent(event);
     if (event->reason() != Qt::PopupFocusReason) {
@@ -291,7 +289,7 @@ void SpinBox::focusInEvent(QFocusEvent *event)
     }
 }
 
-void SpinBox::focusOutEvent(QFocusEvent *event)
+void SpinBox::focusOutEvent(QFocusEvent* event)
 {
     // A menu over the field takes the focus for a moment only.
     const bool leaving = event->reason() != Qt::PopupFocusReason;
@@ -304,7 +302,7 @@ void SpinBox::focusOutEvent(QFocusEvent *event)
     }
 }
 
-void SpinBox::hideEvent(QHideEvent *event)
+void SpinBox::hideEvent(QHideEvent* event)
 {
     commit();
     QDoubleSpinBox::hideEvent(event);
@@ -341,10 +339,10 @@ QStringView SpinBox::withoutSuffix(QStringView text) const
     return text;
 }
 
-std::optional<NumberOperation> SpinBox::read(QStringView text, QString *error) const
+std::optional<NumberOperation> SpinBox::read(QStringView text, QString* error) const
 {
-    const auto relative = m_relativeInputAllowed ? NumberExpression::RelativeInput::Allowed
-                                                 : NumberExpression::RelativeInput::Refused;
+    const auto relative =
+        m_relativeInputAllowed ? NumberExpression::RelativeInput::Allowed : NumberExpression::RelativeInput::Refused;
     QStringView expression = withoutSuffix(text).trimmed();
     // An operator that nothing follows yet does not take back the number before it.
     while (expression.size() > 1 && QStringView(u"+-*/").contains(expression.back())) {
@@ -352,4 +350,4 @@ std::optional<NumberOperation> SpinBox::read(QStringView text, QString *error) c
     }
     return NumberExpression::parse(expression, relative, error);
 }
-}
+} // namespace Korvex::Meridane::Designer

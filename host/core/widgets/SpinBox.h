@@ -7,8 +7,7 @@
 
 #include <optional>
 
-namespace Korvex::Meridane::Designer
-{
+namespace Korvex::Meridane::Designer {
 /**
  * A number field that never loses precision by being looked at.
  *
@@ -32,7 +31,7 @@ class MERIDANE_CORE_EXPORT SpinBox : public QDoubleSpinBox
 
 public:
     /** @param wholeNumbers true: shows no decimals; false: two. setDecimals() changes that. The range is ±10^9. */
-    explicit SpinBox(bool wholeNumbers, QWidget *parent = nullptr);
+    explicit SpinBox(bool wholeNumbers, QWidget* parent = nullptr);
 
     /** The exact value; while the user types, the value that the typed text would commit. */
     [[nodiscard]] double value() const;
@@ -46,7 +45,7 @@ public:
     /** Limits what the user can enter. A value that was set before stays. */
     void setRange(double minimum, double maximum);
     [[nodiscard]] QString suffix() const { return m_suffix; }
-    void setSuffix(const QString &suffix);
+    void setSuffix(const QString& suffix);
 
     /** @p value as an edit would leave it: within the range and rounded to decimals(). */
     [[nodiscard]] double adjusted(double value) const;
@@ -73,9 +72,9 @@ public:
 
     void stepBy(int steps) override;
     [[nodiscard]] QString textFromValue(double value) const override;
-    [[nodiscard]] double valueFromText(const QString &text) const override;
-    QValidator::State validate(QString &text, int &position) const override;
-    void fixup(QString &text) const override;
+    [[nodiscard]] double valueFromText(const QString& text) const override;
+    QValidator::State validate(QString& text, int& position) const override;
+    void fixup(QString& text) const override;
 
 public Q_SLOTS:
     /** Shows @p value, silently; typed text survives when it is the present value. Not-a-number is ignored. */
@@ -89,21 +88,21 @@ Q_SIGNALS:
 
 protected:
     [[nodiscard]] StepEnabled stepEnabled() const override;
-    bool event(QEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
-    void wheelEvent(QWheelEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
-    void focusOutEvent(QFocusEvent *event) override;
-    void hideEvent(QHideEvent *event) override;
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
     void showValue();
-    void applyOperation(const NumberOperation &operation);
+    void applyOperation(const NumberOperation& operation);
     void onBaseValueChanged(double value);
     [[nodiscard]] QString shownText() const;
     [[nodiscard]] bool isEdited() const;
     [[nodiscard]] QStringView withoutSuffix(QStringView text) const;
-    [[nodiscard]] std::optional<NumberOperation> read(QStringView text, QString *error = nullptr) const;
+    [[nodiscard]] std::optional<NumberOperation> read(QStringView text, QString* error = nullptr) const;
 
     double m_value = 0;
     double m_minimum;
@@ -116,4 +115,4 @@ private:
     bool m_relativeInputAllowed = false;
     bool m_synchronising = false;
 };
-}
+} // namespace Korvex::Meridane::Designer

@@ -1,7 +1,6 @@
 #pragma once
 
-namespace Korvex::Meridane::Designer
-{
+namespace Korvex::Meridane::Designer {
 /** Whether a colour may let shine through what lies behind it. */
 enum TransparentOption
 {
@@ -10,4 +9,4 @@ enum TransparentOption
     /** The user also picks the alpha channel. */
     TransparencyAllowed = 1
 };
-}
+} // namespace Korvex::Meridane::Designer
