@@ -33,7 +33,8 @@ double heapBytes()
 }
 
 /// An open project of \a count rectangles, shown.
-struct Shown {
+struct Shown
+{
     explicit Shown(int count)
     {
         const QTemporaryDir folder;
@@ -72,7 +73,8 @@ void change(benchmark::State& state)
     qint64 step = 0;
     for (auto _ : state) {
         DesignerObject* element = elements.at(scattered(step, count));
-        if (!shown.session->setProperty(element, QStringLiteral("size"), QStringLiteral("%1,30").arg(width(step++))).changed)
+        if (!shown.session->setProperty(element, QStringLiteral("size"), QStringLiteral("%1,30").arg(width(step++)))
+                 .changed)
             state.SkipWithError("nothing changed");
         QCoreApplication::processEvents();
     }

@@ -40,8 +40,8 @@ std::unique_ptr<Project> loadAll(int count)
 void countElements(benchmark::State& state)
 {
     using benchmark::Counter;
-    state.counters["us/element"]
-        = Counter(double(state.range(0)), Counter::kIsIterationInvariantRate | Counter::kInvert);
+    state.counters["us/element"] =
+        Counter(double(state.range(0)), Counter::kIsIterationInvariantRate | Counter::kInvert);
 }
 
 void load(benchmark::State& state)
@@ -89,8 +89,8 @@ int main(int argc, char** argv)
     benchmark::Initialize(&argc, argv);
     Benchmarks::RatioReporter reporter;
     for (const std::string name : {"load", "exportQml", "save"}) {
-        reporter.addRatio({name + ": cost per element at 10 000 to that at 1 000", name + "/10000", 10000,
-                           name + "/1000", 1000});
+        reporter.addRatio(
+            {name + ": cost per element at 10 000 to that at 1 000", name + "/10000", 10000, name + "/1000", 1000});
     }
     benchmark::RunSpecifiedBenchmarks(&reporter);
     return 0;

@@ -14,7 +14,8 @@ class RatioReporter : public benchmark::ConsoleReporter
 {
 public:
     /// The ratio of the times of two benchmarks, by their full names ("load/1000"), each divided by its \a per.
-    struct Ratio {
+    struct Ratio
+    {
         std::string title;
         std::string numerator;
         double numeratorPer;

@@ -29,8 +29,7 @@ void writeRectangleProject(const QString& folder, int count)
     const auto project = ProjectStore::create(QStringLiteral("rectangles"), QSizeF(800, 480));
     Screen* screen = project->screens().first();
     for (int i = 0; i < count; ++i) {
-        DesignerObject* element
-            = DesignerFactory::instance()->createDataObject(QStringLiteral("Rectangle"), nullptr);
+        DesignerObject* element = DesignerFactory::instance()->createDataObject(QStringLiteral("Rectangle"), nullptr);
         fill(*element, "position", ValueConversion::toString(QPointF(i * 37 % 780, i * 53 % 460)));
         fill(*element, "size", ValueConversion::toString(QSizeF(12 + i % 40, 9 + i % 31 * 0.5)));
         fill(*element, "color", ValueConversion::toString(QColor::fromHsv(i * 7 % 360, 160, 220)));

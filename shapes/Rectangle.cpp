@@ -69,8 +69,7 @@ QString cornerRadiusQml(const DesignerProperty* property, int indent)
 
 Rectangle::Rectangle(QObject* parent)
     : VisualElement(parent)
-{
-}
+{}
 
 Rectangle::~Rectangle() = default;
 
@@ -119,38 +118,37 @@ bool Rectangle::initializeProperties()
         return false;
 
     // Shared by all rectangles.
-    static const QMap<QString, QVariant> atLeastOnePixel {{QStringLiteral("minimumValue"), QSizeF(1, 1)}};
-    static const QMap<QString, QVariant> keepRatioTip {
+    static const QMap<QString, QVariant> atLeastOnePixel{{QStringLiteral("minimumValue"), QSizeF(1, 1)}};
+    static const QMap<QString, QVariant> keepRatioTip{
         {QStringLiteral("tooltip"), text("Maintain aspect ratio when resizing by mouse or through the editor")}};
-    static const QMap<QString, QVariant> radiusRange {{QStringLiteral("suffix"), text(" px")},
-                                                      {QStringLiteral("minimum"), 0},
-                                                      {QStringLiteral("maximum"), int(LargestCornerRadius)},
-                                                      {QStringLiteral("showSlider"), true}};
+    static const QMap<QString, QVariant> radiusRange{{QStringLiteral("suffix"), text(" px")},
+                                                     {QStringLiteral("minimum"), 0},
+                                                     {QStringLiteral("maximum"), int(LargestCornerRadius)},
+                                                     {QStringLiteral("showSlider"), true}};
     m_size = PropertyDeclaration<SizeProperty>(this, QLatin1String("size"), text("Size"), QSizeF(100, 75))
                  .rank(10)
                  .flags(Stored | Exported)
                  .allowInvalid()
                  .editor(QLatin1String("SizeEditor"), atLeastOnePixel);
-    m_boundingSize
-        = PropertyDeclaration<SizeProperty>(this, QLatin1String("boundingSize"), text("Size"), QSizeF(100, 75))
-              .rank(11)
-              .flags(Shown | Editable)
-              .allowInvalid()
-              .editor(QLatin1String("SizeEditor"), atLeastOnePixel);
-    m_keepRatio
-        = PropertyDeclaration<RealProperty>(this, QLatin1String("keepRatio"), text("Maintain Aspect Ratio"), 0.0)
-              .rank(12)
-              .flags(Shown | Editable)
-              .allowInvalid()
-              .editor(QLatin1String("KeepRatioEditor"), keepRatioTip);
-    m_color
-        = PropertyDeclaration<ColorProperty>(this, QLatin1String("color"), text("Color"), QColor(248, 151, 29, 255))
-              .rank(13)
-              .allowInvalid();
-    m_border = PropertyDeclaration<BorderProperty>(this, QLatin1String("border"), text("Border"),
-                                                   BorderInfo(0, Qt::black))
-                   .rank(14)
-                   .allowInvalid();
+    m_boundingSize =
+        PropertyDeclaration<SizeProperty>(this, QLatin1String("boundingSize"), text("Size"), QSizeF(100, 75))
+            .rank(11)
+            .flags(Shown | Editable)
+            .allowInvalid()
+            .editor(QLatin1String("SizeEditor"), atLeastOnePixel);
+    m_keepRatio =
+        PropertyDeclaration<RealProperty>(this, QLatin1String("keepRatio"), text("Maintain Aspect Ratio"), 0.0)
+            .rank(12)
+            .flags(Shown | Editable)
+            .allowInvalid()
+            .editor(QLatin1String("KeepRatioEditor"), keepRatioTip);
+    m_color = PropertyDeclaration<ColorProperty>(this, QLatin1String("color"), text("Color"), QColor(248, 151, 29, 255))
+                  .rank(13)
+                  .allowInvalid();
+    m_border =
+        PropertyDeclaration<BorderProperty>(this, QLatin1String("border"), text("Border"), BorderInfo(0, Qt::black))
+            .rank(14)
+            .allowInvalid();
     m_cornerRadius = PropertyDeclaration<IntegerProperty>(this, QLatin1String("cornerRadius"), text("Corner Radius"), 0)
                          .rank(15)
                          .flags(Stored | Exported | Shown | Editable)
@@ -175,9 +173,9 @@ void Rectangle::afterPropertyChanged(const DesignerProperty* property, const QSt
     bool ratioOk = false;
     const double ratio = ValueConversion::toReal(m_keepRatio->valueString(), &ratioOk);
     const double border = ValueConversion::toBorderInfo(m_border->valueString()).width();
-    const auto outer = reactToBoundingSize(ValueConversion::toSize(oldValue),
-                                           ValueConversion::toSize(property->valueString()), border + 1,
-                                           ratioOk ? ratio : 0);
+    const auto outer =
+        reactToBoundingSize(ValueConversion::toSize(oldValue), ValueConversion::toSize(property->valueString()),
+                            border + 1, ratioOk ? ratio : 0);
     if (!outer) {
         qDebug("Should not reach here");
         return;
@@ -188,12 +186,12 @@ void Rectangle::afterPropertyChanged(const DesignerProperty* property, const QSt
 QList<RuntimeProperty> Rectangle::runtimeProperties() const
 {
     return VisualElement::runtimeProperties()
-        << RuntimeProperty(QStringLiteral("color"), text("Color"), EnumHelper::Color, true)
-        << RuntimeProperty(QStringLiteral("width"), text("Width"), EnumHelper::Real, true)
-        << RuntimeProperty(QStringLiteral("height"), text("Height"), EnumHelper::Real, true)
-        << RuntimeProperty(QStringLiteral("cornerRadius"), text("Corner Radius"), EnumHelper::Integer, true)
-        << RuntimeProperty(QStringLiteral("borderWidth"), text("Border Width"), EnumHelper::Integer, true)
-        << RuntimeProperty(QStringLiteral("borderColor"), text("Border Color"), EnumHelper::Color, true);
+           << RuntimeProperty(QStringLiteral("color"), text("Color"), EnumHelper::Color, true)
+           << RuntimeProperty(QStringLiteral("width"), text("Width"), EnumHelper::Real, true)
+           << RuntimeProperty(QStringLiteral("height"), text("Height"), EnumHelper::Real, true)
+           << RuntimeProperty(QStringLiteral("cornerRadius"), text("Corner Radius"), EnumHelper::Integer, true)
+           << RuntimeProperty(QStringLiteral("borderWidth"), text("Border Width"), EnumHelper::Integer, true)
+           << RuntimeProperty(QStringLiteral("borderColor"), text("Border Color"), EnumHelper::Color, true);
 }
 
 QRectF Rectangle::getBoundingRect() const

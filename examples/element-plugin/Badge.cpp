@@ -39,8 +39,7 @@ bool diameterValidator(const DesignerProperty* property, QString& message)
 
 Badge::Badge(QObject* parent)
     : VisualElement(parent)
-{
-}
+{}
 
 QString Badge::className() const
 {
@@ -88,16 +87,16 @@ bool Badge::initializeProperties()
                                   {QStringLiteral("suffix"), QStringLiteral(" px")}})
                      .validator(diameterValidator)
                      .qmlCreator(diameterQml);
-    m_color
-        = PropertyDeclaration<ColorProperty>(this, QLatin1String("color"), QStringLiteral("Color"), QColor(200, 30, 30))
-              .rank(11);
+    m_color =
+        PropertyDeclaration<ColorProperty>(this, QLatin1String("color"), QStringLiteral("Color"), QColor(200, 30, 30))
+            .rank(11);
     return true;
 }
 
 QList<RuntimeProperty> Badge::runtimeProperties() const
 {
     return VisualElement::runtimeProperties()
-        << RuntimeProperty(QStringLiteral("color"), QStringLiteral("Color"), EnumHelper::Color, true);
+           << RuntimeProperty(QStringLiteral("color"), QStringLiteral("Color"), EnumHelper::Color, true);
 }
 
 QRectF Badge::getBoundingRect() const

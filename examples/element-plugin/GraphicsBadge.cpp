@@ -13,8 +13,7 @@ using Korvex::Meridane::Common::PaintHelper;
 
 GraphicsBadge::GraphicsBadge(DesignerObject* dataObject)
     : GraphicsItem(dataObject, this)
-{
-}
+{}
 
 QRectF GraphicsBadge::boundingRect() const
 {

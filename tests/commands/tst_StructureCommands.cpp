@@ -32,7 +32,7 @@ private Q_SLOTS:
     void anAddedElementLeavesAndComesBackAsTheSameObject()
     {
         DesignerObject* element = add();
-        QCOMPARE(ids(), QStringList {QStringLiteral("test1")});
+        QCOMPARE(ids(), QStringList{QStringLiteral("test1")});
         m_project->undoStack()->undo();
         QVERIFY(ids().isEmpty());
         QVERIFY(!m_screen->element(QStringLiteral("test1")));
@@ -46,9 +46,9 @@ private Q_SLOTS:
         DesignerObject* middle = add();
         add();
         QVERIFY(execute(std::make_unique<RemoveObject>(middle, nullptr)).changed);
-        QCOMPARE(ids(), (QStringList {QStringLiteral("test1"), QStringLiteral("test3")}));
+        QCOMPARE(ids(), (QStringList{QStringLiteral("test1"), QStringLiteral("test3")}));
         m_project->undoStack()->undo();
-        QCOMPARE(ids(), (QStringList {QStringLiteral("test1"), QStringLiteral("test2"), QStringLiteral("test3")}));
+        QCOMPARE(ids(), (QStringList{QStringLiteral("test1"), QStringLiteral("test2"), QStringLiteral("test3")}));
         QCOMPARE(m_screen->element(QStringLiteral("test2")), middle);
         QCOMPARE(m_project->undoStack()->redoCommand()->deletionCandidate(), middle);
     }
@@ -80,9 +80,9 @@ private Q_SLOTS:
         add();
         QVERIFY(!execute(std::make_unique<MoveObject>(first, 0, nullptr)).changed);
         QVERIFY(execute(std::make_unique<MoveObject>(first, 99, nullptr)).changed);
-        QCOMPARE(ids(), (QStringList {QStringLiteral("test2"), QStringLiteral("test1")}));
+        QCOMPARE(ids(), (QStringList{QStringLiteral("test2"), QStringLiteral("test1")}));
         m_project->undoStack()->undo();
-        QCOMPARE(ids(), (QStringList {QStringLiteral("test1"), QStringLiteral("test2")}));
+        QCOMPARE(ids(), (QStringList{QStringLiteral("test1"), QStringLiteral("test2")}));
     }
 
     void aRemovedScreenComesBackWithItsElements()
@@ -91,7 +91,7 @@ private Q_SLOTS:
         QVERIFY(execute(std::make_unique<RemoveObject>(m_screen, nullptr)).changed);
         QVERIFY(m_project->screens().isEmpty());
         m_project->undoStack()->undo();
-        QCOMPARE(m_project->screens(), QVector<Screen*> {m_screen});
+        QCOMPARE(m_project->screens(), QVector<Screen*>{m_screen});
         QCOMPARE(m_screen->element(QStringLiteral("test1")), element);
     }
 
@@ -119,7 +119,7 @@ private Q_SLOTS:
     {
         QVERIFY(rc::check("structure", [this] {
             init();
-            QVector<QStringList> states {ids()};
+            QVector<QStringList> states{ids()};
             const auto steps = *rc::gen::container<std::vector<std::pair<int, int>>>(
                 rc::gen::pair(rc::gen::inRange(0, 5), rc::gen::inRange(0, 8)));
             for (const auto& [kind, number] : steps) {

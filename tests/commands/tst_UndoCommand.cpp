@@ -145,7 +145,7 @@ private Q_SLOTS:
     void theSelectionOfTheTimeComesWithTheStep()
     {
         m_stack->execute(std::make_unique<ChangeProperty>(m_element->number, QStringLiteral("5"), true, nullptr));
-        QCOMPARE(m_stack->undoCommand()->selectedItems(), QList<DesignerObject*> {m_element.get()});
+        QCOMPARE(m_stack->undoCommand()->selectedItems(), QList<DesignerObject*>{m_element.get()});
         m_stack->execute(std::make_unique<ChangeProperty>(m_element->number, QStringLiteral("6"), false, nullptr));
         QVERIFY(m_stack->undoCommand()->selectedItems().isEmpty());
         QCOMPARE(m_stack->undoCommand()->activeItem(), m_element.get());
@@ -154,8 +154,9 @@ private Q_SLOTS:
     void aCommandWithoutAPropertyIsInvalid()
     {
         QVERIFY(!ChangeProperty({}, QStringLiteral("1"), false, nullptr).isValid());
-        QVERIFY(!m_stack->execute(std::make_unique<ChangeProperty>(QSharedPointer<DesignerProperty>(),
-                                                                   QStringLiteral("1"), false, nullptr))
+        QVERIFY(!m_stack
+                     ->execute(std::make_unique<ChangeProperty>(QSharedPointer<DesignerProperty>(), QStringLiteral("1"),
+                                                                false, nullptr))
                      .accepted);
     }
 
@@ -167,12 +168,12 @@ private Q_SLOTS:
                 if (property->id() == QLatin1String("number"))
                     m_element->set(m_element->derived, qPrintable(property->valueString() + QLatin1Char('0')));
             };
-            QVector<QStringList> states {state()};
+            QVector<QStringList> states{state()};
             const auto edits = *rc::gen::container<std::vector<std::pair<int, int>>>(
                 rc::gen::pair(rc::gen::inRange(0, 4), rc::gen::inRange(-2, 14)));
             for (const auto& [which, number] : edits) {
-                const QSharedPointer<DesignerProperty> properties[] {m_element->number, m_element->text,
-                                                                     m_element->strict, m_element->derived};
+                const QSharedPointer<DesignerProperty> properties[]{m_element->number, m_element->text,
+                                                                    m_element->strict, m_element->derived};
                 const QString text = number == 13 ? QStringLiteral("none") : QString::number(number);
                 if (m_stack->execute(std::make_unique<ChangeProperty>(properties[which], text, false, nullptr)).changed)
                     states.append(state());

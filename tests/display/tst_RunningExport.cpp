@@ -75,16 +75,18 @@ private Q_SLOTS:
         QFETCH(QString, project);
         const QString first = fresh(QStringLiteral("lint-a"));
         const QString second = fresh(QStringLiteral("lint-b"));
-        QVERIFY(run(QStringLiteral(MERIDANE_PROGRAM), {QStringLiteral("export"), project, QStringLiteral("--output"), first}));
-        QVERIFY(run(QStringLiteral(MERIDANE_PROGRAM), {QStringLiteral("export"), project, QStringLiteral("--output"), second}));
+        QVERIFY(run(QStringLiteral(MERIDANE_PROGRAM),
+                    {QStringLiteral("export"), project, QStringLiteral("--output"), first}));
+        QVERIFY(run(QStringLiteral(MERIDANE_PROGRAM),
+                    {QStringLiteral("export"), project, QStringLiteral("--output"), second}));
         const QStringList files = filesBelow(first);
         QVERIFY(files.contains(QLatin1String("Main.qml")));
         QCOMPARE(filesBelow(second), files);
         for (const QString& file : files) {
             QCOMPARE(bytes(second + QLatin1Char('/') + file), bytes(first + QLatin1Char('/') + file));
             if (file.endsWith(QLatin1String(".qml"))) {
-                QVERIFY(run(QStringLiteral(MERIDANE_QMLLINT), {QStringLiteral("-I"), QStringLiteral(MERIDANE_QML_DIR),
-                                                               first + QLatin1Char('/') + file}));
+                QVERIFY(run(QStringLiteral(MERIDANE_QMLLINT),
+                            {QStringLiteral("-I"), QStringLiteral(MERIDANE_QML_DIR), first + QLatin1Char('/') + file}));
             }
         }
     }
@@ -92,7 +94,8 @@ private Q_SLOTS:
 private:
     static constexpr int Tolerance = 8;
 
-    struct Pictures {
+    struct Pictures
+    {
         QImage canvas;
         QImage running;
     };
@@ -100,11 +103,11 @@ private:
     static QJsonObject rectangle(const QString& position, const QString& size, const QString& color,
                                  const QString& border, int radius, const QString& rotation = {})
     {
-        QJsonObject properties {{QStringLiteral("position"), position},
-                                {QStringLiteral("size"), size},
-                                {QStringLiteral("color"), color},
-                                {QStringLiteral("border"), border},
-                                {QStringLiteral("cornerRadius"), QString::number(radius)}};
+        QJsonObject properties{{QStringLiteral("position"), position},
+                               {QStringLiteral("size"), size},
+                               {QStringLiteral("color"), color},
+                               {QStringLiteral("border"), border},
+                               {QStringLiteral("cornerRadius"), QString::number(radius)}};
         if (!rotation.isEmpty())
             properties.insert(QStringLiteral("rotation"), rotation);
         return {{QStringLiteral("op"), QStringLiteral("add")},
@@ -123,19 +126,21 @@ private:
         for (int i = 0; i < 150; ++i) {
             const int width = 3 + int(random.bounded(90));
             const int height = 3 + int(random.bounded(60));
-            edits.append(rectangle(
-                QStringLiteral("%1,%2").arg(real(-20, 310), real(-20, 230)),
-                QStringLiteral("%1,%2").arg(real(width, width + 1), real(height, height + 1)),
-                QStringLiteral("#%1").arg(random.generate(), 8, 16, QLatin1Char('0')),
-                QStringLiteral("width: %1; color: #%2;").arg(random.bounded(7)).arg(random.generate(), 8, 16, QLatin1Char('0')),
-                int(random.bounded(std::min({width, height, 100}) / 2 + 1))));
+            edits.append(rectangle(QStringLiteral("%1,%2").arg(real(-20, 310), real(-20, 230)),
+                                   QStringLiteral("%1,%2").arg(real(width, width + 1), real(height, height + 1)),
+                                   QStringLiteral("#%1").arg(random.generate(), 8, 16, QLatin1Char('0')),
+                                   QStringLiteral("width: %1; color: #%2;")
+                                       .arg(random.bounded(7))
+                                       .arg(random.generate(), 8, 16, QLatin1Char('0')),
+                                   int(random.bounded(std::min({width, height, 100}) / 2 + 1))));
         }
         return edits;
     }
 
     static QJsonArray rotatedRectangles()
     {
-        const char* origins[] {"TopLeft", "Top", "TopRight", "Left", "Center", "Right", "BottomLeft", "Bottom", "BottomRight"};
+        const char* origins[]{"TopLeft", "Top",        "TopRight", "Left",       "Center",
+                              "Right",   "BottomLeft", "Bottom",   "BottomRight"};
         QJsonArray edits;
         for (int i = 0; i < 18; ++i) {
             edits.append(rectangle(QStringLiteral("%1,%2").arg(20 + i % 6 * 50).arg(25 + i / 6 * 75),
@@ -160,7 +165,8 @@ private:
         const QString project = fresh(name);
         const QString file = project + QStringLiteral(".json");
         QFile out(file);
-        if (!run(QStringLiteral(MERIDANE_PROGRAM), {QStringLiteral("new"), project, QStringLiteral("--size"), QStringLiteral("320x240")})
+        if (!run(QStringLiteral(MERIDANE_PROGRAM),
+                 {QStringLiteral("new"), project, QStringLiteral("--size"), QStringLiteral("320x240")})
             || !out.open(QIODevice::WriteOnly) || out.write(QJsonDocument(edits).toJson()) < 0)
             return {};
         out.close();
@@ -174,8 +180,10 @@ private:
         const QString rendered = fresh(QStringLiteral("render"));
         const QString grabbed = m_folder.filePath(QStringLiteral("grab.png"));
         QFile::remove(grabbed);
-        run(QStringLiteral(MERIDANE_PROGRAM), {QStringLiteral("export"), project, QStringLiteral("--output"), exported});
-        run(QStringLiteral(MERIDANE_PROGRAM), {QStringLiteral("render"), project, QStringLiteral("--output"), rendered});
+        run(QStringLiteral(MERIDANE_PROGRAM),
+            {QStringLiteral("export"), project, QStringLiteral("--output"), exported});
+        run(QStringLiteral(MERIDANE_PROGRAM),
+            {QStringLiteral("render"), project, QStringLiteral("--output"), rendered});
         run(QStringLiteral(MERIDANE_VIEWER), {exported, QStringLiteral("--grab"), grabbed});
         const auto rgb = [](const QString& file) { return QImage(file).convertToFormat(QImage::Format_RGB32); };
         return {rgb(rendered + QStringLiteral("/main.png")), rgb(grabbed)};

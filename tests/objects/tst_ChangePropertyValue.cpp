@@ -30,7 +30,7 @@ private Q_SLOTS:
             steps << QStringLiteral("after %1 %2").arg(oldValue, property->valueString());
         };
         QVERIFY(m_element->set(m_element->number, "5"));
-        QCOMPARE(steps, (QStringList {QStringLiteral("before 1 5"), QStringLiteral("after 1 5")}));
+        QCOMPARE(steps, (QStringList{QStringLiteral("before 1 5"), QStringLiteral("after 1 5")}));
     }
 
     void aBeforeHookThatSaysNoRefuses()
@@ -92,7 +92,7 @@ private Q_SLOTS:
             }
         };
         QVERIFY(m_element->set(m_element->number, "5"));
-        QCOMPARE(steps, (QStringList {QStringLiteral("number"), QStringLiteral("derived"), QStringLiteral("end")}));
+        QCOMPARE(steps, (QStringList{QStringLiteral("number"), QStringLiteral("derived"), QStringLiteral("end")}));
     }
 
     void aReactionThatWritesItsOwnPropertyIsStoredButDoesNotRunAgain()
@@ -134,7 +134,7 @@ private Q_SLOTS:
                     heard << property->id() + QLatin1Char('=') + property->valueString();
                 });
         QVERIFY(m_element->set(m_element->number, "5"));
-        QCOMPARE(heard, (QStringList {QStringLiteral("number=9"), QStringLiteral("derived=8")}));
+        QCOMPARE(heard, (QStringList{QStringLiteral("number=9"), QStringLiteral("derived=8")}));
     }
 
     void whileValuesAreRestoredWritesAreIgnored()
@@ -198,8 +198,8 @@ private Q_SLOTS:
         QStringList ids;
         for (const auto& property : m_element->properties())
             ids << property->id();
-        QCOMPARE(ids, (QStringList {QStringLiteral("position"), QStringLiteral("rotation"), QStringLiteral("number"),
-                                    QStringLiteral("text"), QStringLiteral("strict"), QStringLiteral("derived")}));
+        QCOMPARE(ids, (QStringList{QStringLiteral("position"), QStringLiteral("rotation"), QStringLiteral("number"),
+                                   QStringLiteral("text"), QStringLiteral("strict"), QStringLiteral("derived")}));
         QVERIFY(!m_element->getProperty(QStringLiteral("none")));
         QCOMPARE(m_element->position()->rank(), 1);
         QCOMPARE(m_element->rotation()->rank(), 2);

@@ -71,7 +71,7 @@ private Q_SLOTS:
         TestElement* c = add(m_screen);
         QSignalSpy reordered(m_project.get(), &Project::objectReordered);
         m_screen->moveListItem(m_screen->childList(), 0, 2);
-        QCOMPARE(m_screen->childList()->items(), (QVector<DesignerObject*> {b, c, a}));
+        QCOMPARE(m_screen->childList()->items(), (QVector<DesignerObject*>{b, c, a}));
         QCOMPARE(reordered.size(), 1);
         m_screen->moveListItem(m_screen->childList(), 1, 1);
         m_screen->moveListItem(m_screen->childList(), 5, 0);

@@ -27,8 +27,9 @@ private Q_SLOTS:
     void otherNamesAreRefusedWithAReason_data()
     {
         QTest::addColumn<QString>("id");
-        for (const char* id : {"", "A", "1a", "a b", "a-b", "a.b", "a/b", "ä", "a\"b", "a\n", "if", "class", "parent",
-                               "undefined", "yield", "with", "print", "a\\b", "../a", " a", "a "})
+        for (const char* id :
+             {"",      "A",      "1a",        "a b",   "a-b",  "a.b",   "a/b",  "ä",    "a\"b", "a\n", "if",
+              "class", "parent", "undefined", "yield", "with", "print", "a\\b", "../a", " a",   "a "})
             QTest::newRow(id) << QString::fromUtf8(id);
         QTest::newRow("too long") << QString(101, QLatin1Char('a'));
     }

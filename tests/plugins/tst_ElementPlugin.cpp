@@ -28,7 +28,8 @@ private Q_SLOTS:
     void aBadgeIsAddedEditedAndUndone()
     {
         DesignerObject* badge = nullptr;
-        QVERIFY(m_session->addElement(QStringLiteral("Badge"), m_session->currentScreen(), QString(), {}, &badge).changed);
+        QVERIFY(
+            m_session->addElement(QStringLiteral("Badge"), m_session->currentScreen(), QString(), {}, &badge).changed);
         QCOMPARE(badge->getIdName(), QStringLiteral("badge1"));
         QCOMPARE(badge->graphicsItem()->graphic()->boundingRect(), QRectF(0, 0, 24, 24));
         QVERIFY(m_session->setProperty(badge, QStringLiteral("diameter"), QStringLiteral("40")).changed);
@@ -42,8 +43,10 @@ private Q_SLOTS:
     void itsQmlIsThatOfADisplayType()
     {
         DesignerObject* badge = nullptr;
-        QVERIFY(m_session->addElement(QStringLiteral("Badge"), m_session->currentScreen(), QStringLiteral("dot"),
-                                      {{QStringLiteral("diameter"), QStringLiteral("30")}}, &badge).changed);
+        QVERIFY(m_session
+                    ->addElement(QStringLiteral("Badge"), m_session->currentScreen(), QStringLiteral("dot"),
+                                 {{QStringLiteral("diameter"), QStringLiteral("30")}}, &badge)
+                    .changed);
         QVERIFY(badge->toQml(0).startsWith(QLatin1String("Rectangle2 {\n\tid: dot\n")));
         QVERIFY(badge->toQml(0).contains(QLatin1String("\twidth: 30\n\theight: 30\n\tcornerRadius: 15\n")));
     }

@@ -20,21 +20,24 @@ private Q_SLOTS:
         QTest::addColumn<QString>("file");
         QTest::addColumn<QStringList>("named");
         const PluginVerification host = PluginVerification::ofHost();
-        const QString otherDebug = host.debug == QLatin1String("true") ? QStringLiteral("false") : QStringLiteral("true");
+        const QString otherDebug =
+            host.debug == QLatin1String("true") ? QStringLiteral("false") : QStringLiteral("true");
         QTest::newRow("another Qt version")
-            << sample("OtherVersionPlugin") << QStringList {QStringLiteral("Qt 4.8.1"), QStringLiteral("Qt ") + host.version};
-        QTest::newRow("another build key") << sample("OtherBuildKeyPlugin")
-                                           << QStringList {QStringLiteral("Windows msvc release full-config"), host.buildKey};
-        QTest::newRow("debug and release") << sample("OtherDebugPlugin")
-                                           << QStringList {QStringLiteral("debug=") + otherDebug,
-                                                           QStringLiteral("debug=") + host.debug};
+            << sample("OtherVersionPlugin")
+            << QStringList{QStringLiteral("Qt 4.8.1"), QStringLiteral("Qt ") + host.version};
+        QTest::newRow("another build key")
+            << sample("OtherBuildKeyPlugin")
+            << QStringList{QStringLiteral("Windows msvc release full-config"), host.buildKey};
+        QTest::newRow("debug and release")
+            << sample("OtherDebugPlugin")
+            << QStringList{QStringLiteral("debug=") + otherDebug, QStringLiteral("debug=") + host.debug};
         QTest::newRow("no verification function")
-            << sample("UnverifiedPlugin") << QStringList {QStringLiteral("qt_plugin_query_verification_data")};
+            << sample("UnverifiedPlugin") << QStringList{QStringLiteral("qt_plugin_query_verification_data")};
         QTest::newRow("verification data that cannot be read")
-            << sample("GarbledPlugin") << QStringList {QStringLiteral("verification data cannot be read")};
-        QTest::newRow("no factory") << sample("FactorylessPlugin") << QStringList {QStringLiteral("no element factory")};
-        QTest::newRow("no library") << notALibrary() << QStringList {QStringLiteral("not a library")};
-        QTest::newRow("no file") << sample("MissingPlugin") << QStringList {QStringLiteral("not a library")};
+            << sample("GarbledPlugin") << QStringList{QStringLiteral("verification data cannot be read")};
+        QTest::newRow("no factory") << sample("FactorylessPlugin") << QStringList{QStringLiteral("no element factory")};
+        QTest::newRow("no library") << notALibrary() << QStringList{QStringLiteral("not a library")};
+        QTest::newRow("no file") << sample("MissingPlugin") << QStringList{QStringLiteral("not a library")};
     }
 
     void aPluginThatDoesNotFitIsRefusedWithItsOwnMessage()
@@ -53,8 +56,9 @@ private Q_SLOTS:
     void everyRefusalHasAMessageOfItsOwn()
     {
         QSet<QString> reasons;
-        const QStringList files {sample("OtherVersionPlugin"), sample("OtherBuildKeyPlugin"), sample("OtherDebugPlugin"),
-                                 sample("UnverifiedPlugin"), sample("GarbledPlugin"), sample("FactorylessPlugin")};
+        const QStringList files{sample("OtherVersionPlugin"), sample("OtherBuildKeyPlugin"),
+                                sample("OtherDebugPlugin"),   sample("UnverifiedPlugin"),
+                                sample("GarbledPlugin"),      sample("FactorylessPlugin")};
         for (const QString& file : files) {
             QString message;
             QVERIFY(!PluginLoader::load(file, &message));
@@ -73,7 +77,8 @@ private Q_SLOTS:
             DesignerFactory::instance()->createDataObject(QStringLiteral("Rectangle"), nullptr));
         QVERIFY(rectangle);
         QVERIFY(rectangle->getProperty(QStringLiteral("cornerRadius")));
-        QCOMPARE(DesignerFactory::instance()->pluginName(QStringLiteral("Rectangle")), QStringLiteral("VisualElements"));
+        QCOMPARE(DesignerFactory::instance()->pluginName(QStringLiteral("Rectangle")),
+                 QStringLiteral("VisualElements"));
     }
 
     void aClassThatExistsAlreadyIsRefused()

@@ -38,8 +38,7 @@ private Q_SLOTS:
 
     void theVerificationTextHasItsFourLines()
     {
-        const auto query
-            = reinterpret_cast<const char* (*)()>(m_library.resolve("qt_plugin_query_verification_data"));
+        const auto query = reinterpret_cast<const char* (*)()>(m_library.resolve("qt_plugin_query_verification_data"));
         QVERIFY(query);
         const QStringList lines = QString::fromLatin1(query()).split(QLatin1Char('\n'));
         QCOMPARE(lines.size(), 4);
@@ -146,7 +145,7 @@ private:
         return QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     }
 
-    QLibrary m_library {QStringLiteral(MERIDANE_PLUGIN_FILE)};
+    QLibrary m_library{QStringLiteral(MERIDANE_PLUGIN_FILE)};
     QObject* (*m_instance)() = nullptr;
 };
 

@@ -91,7 +91,8 @@ private Q_SLOTS:
     void aRadiusOf12WritesTheIndentationAndTheLine()
     {
         QVERIFY(set("cornerRadius", "12"));
-        QCOMPARE(m_rectangle->getProperty(QStringLiteral("cornerRadius"))->toQml(2), QStringLiteral("\t\tcornerRadius: 12"));
+        QCOMPARE(m_rectangle->getProperty(QStringLiteral("cornerRadius"))->toQml(2),
+                 QStringLiteral("\t\tcornerRadius: 12"));
     }
 
     void theHeightFollowsTheWidthUnderAKeptRatio()
@@ -159,14 +160,16 @@ private Q_SLOTS:
         const QList<RuntimeProperty> base = m_rectangle->VisualElement::runtimeProperties();
         QStringList rows;
         for (const RuntimeProperty& property : all.mid(base.size())) {
-            rows << QStringLiteral("%1|%2|%3|%4").arg(property.name(), property.label())
+            rows << QStringLiteral("%1|%2|%3|%4")
+                        .arg(property.name(), property.label())
                         .arg(int(property.type()))
                         .arg(property.isWritable());
         }
-        QCOMPARE(rows, (QStringList {QStringLiteral("color|Color|6|1"), QStringLiteral("width|Width|3|1"),
-                                     QStringLiteral("height|Height|3|1"), QStringLiteral("cornerRadius|Corner Radius|2|1"),
-                                     QStringLiteral("borderWidth|Border Width|2|1"),
-                                     QStringLiteral("borderColor|Border Color|6|1")}));
+        QCOMPARE(rows,
+                 (QStringList{QStringLiteral("color|Color|6|1"), QStringLiteral("width|Width|3|1"),
+                              QStringLiteral("height|Height|3|1"), QStringLiteral("cornerRadius|Corner Radius|2|1"),
+                              QStringLiteral("borderWidth|Border Width|2|1"),
+                              QStringLiteral("borderColor|Border Color|6|1")}));
     }
 
     void theQmlHoldsEveryExportedPropertyInOrderOfRank()
@@ -174,19 +177,18 @@ private Q_SLOTS:
         QVERIFY(m_rectangle->setIdName(QStringLiteral("lamp")));
         QVERIFY(set("position", "10,20.5"));
         QVERIFY(set("cornerRadius", "5"));
-        QCOMPARE(m_rectangle->toQml(1),
-                 QStringLiteral("\tRectangle2 {\n"
-                                "\t\tid: lamp\n"
-                                "\t\tx: 10\n"
-                                "\t\ty: 20.5\n"
-                                "\t\trotation: 0\n"
-                                "\t\twidth: 100\n"
-                                "\t\theight: 75\n"
-                                "\t\tcolor: \"#f8971d\"\n"
-                                "\t\tborderWidth: 0\n"
-                                "\t\tborderColor: \"#000000\"\n"
-                                "\t\tcornerRadius: 5\n"
-                                "\t}"));
+        QCOMPARE(m_rectangle->toQml(1), QStringLiteral("\tRectangle2 {\n"
+                                                       "\t\tid: lamp\n"
+                                                       "\t\tx: 10\n"
+                                                       "\t\ty: 20.5\n"
+                                                       "\t\trotation: 0\n"
+                                                       "\t\twidth: 100\n"
+                                                       "\t\theight: 75\n"
+                                                       "\t\tcolor: \"#f8971d\"\n"
+                                                       "\t\tborderWidth: 0\n"
+                                                       "\t\tborderColor: \"#000000\"\n"
+                                                       "\t\tcornerRadius: 5\n"
+                                                       "\t}"));
     }
 
     void valuesThatDoNotConvertWriteNoLine()

@@ -20,8 +20,7 @@ class TestElement : public VisualElement
 public:
     explicit TestElement(QObject* parent = nullptr)
         : VisualElement(parent)
-    {
-    }
+    {}
 
     QString className() const override { return QStringLiteral("TestElement"); }
     QStringList classNames() const override { return VisualElement::classNames() << className(); }
@@ -46,9 +45,12 @@ public:
                              message = QStringLiteral("0 to 10 only.");
                          return message.isEmpty();
                      });
-        text = PropertyDeclaration<StringProperty>(this, QLatin1String("text"), QStringLiteral("Text"), QString()).rank(11);
-        strict = PropertyDeclaration<RealProperty>(this, QLatin1String("strict"), QStringLiteral("Strict"), 1.5).rank(12);
-        derived = PropertyDeclaration<IntegerProperty>(this, QLatin1String("derived"), QStringLiteral("Derived"), 2).rank(13);
+        text = PropertyDeclaration<StringProperty>(this, QLatin1String("text"), QStringLiteral("Text"), QString())
+                   .rank(11);
+        strict =
+            PropertyDeclaration<RealProperty>(this, QLatin1String("strict"), QStringLiteral("Strict"), 1.5).rank(12);
+        derived =
+            PropertyDeclaration<IntegerProperty>(this, QLatin1String("derived"), QStringLiteral("Derived"), 2).rank(13);
         return true;
     }
 

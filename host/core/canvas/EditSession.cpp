@@ -131,12 +131,10 @@ EditResult EditSession::addScreen(const QString& id, const QSizeF& size, Screen*
     screen->setIdName(id);
     const auto sizeProperty = screen->getProperty(QStringLiteral("size"));
     QString message;
-    if (!screen->changePropertyValue(sizeProperty,
-                                     ValueConversion::toString(size.isValid() ? size : m_project->displaySize()),
-                                     &message))
+    if (!screen->changePropertyValue(
+            sizeProperty, ValueConversion::toString(size.isValid() ? size : m_project->displaySize()), &message))
         return refused(message);
-    const EditResult result
-        = execute(std::make_unique<AddObject>(m_project.get(), std::move(object), -1, nullptr));
+    const EditResult result = execute(std::make_unique<AddObject>(m_project.get(), std::move(object), -1, nullptr));
     if (result.changed) {
         setCurrentScreen(screen);
         setSelection({});
@@ -243,7 +241,8 @@ EditResult EditSession::moveElements(const QList<DesignerObject*>& elements, con
     for (DesignerObject* object : elements) {
         const auto* element = qobject_cast<VisualElement*>(object);
         bool ok = false;
-        const QPointF position = element ? ValueConversion::toPoint(element->position()->valueString(), &ok) : QPointF();
+        const QPointF position =
+            element ? ValueConversion::toPoint(element->position()->valueString(), &ok) : QPointF();
         if (!ok)
             continue;
         scene(screenOf(object));

@@ -22,7 +22,7 @@ AddObject::~AddObject() = default;
 
 QList<DesignerObject*> AddObject::selectedItems() const
 {
-    return m_held ? QList<DesignerObject*>() : QList<DesignerObject*> {m_object};
+    return m_held ? QList<DesignerObject*>() : QList<DesignerObject*>{m_object};
 }
 
 DesignerObject* AddObject::activeItem() const

@@ -7,8 +7,8 @@
 
 namespace Korvex::Meridane::Designer {
 
-ChangeProperty::ChangeProperty(const QSharedPointer<DesignerProperty>& property, const QString& value,
-                               bool wasSelected, UndoCommand* parent)
+ChangeProperty::ChangeProperty(const QSharedPointer<DesignerProperty>& property, const QString& value, bool wasSelected,
+                               UndoCommand* parent)
     : UndoCommand(parent)
     , m_property(property)
     , m_value(value)

@@ -12,8 +12,7 @@ ChangeRecording* s_current = nullptr; // GUI thread only
 
 ChangeRecording::ChangeRecording()
     : m_outer(std::exchange(s_current, this))
-{
-}
+{}
 
 ChangeRecording::~ChangeRecording()
 {

@@ -11,7 +11,8 @@ namespace Korvex::Meridane::Designer {
 class DesignerProperty;
 
 /// One recorded change of a value: the value strings before and after.
-struct PropertyChange {
+struct PropertyChange
+{
     QSharedPointer<DesignerProperty> property;
     QString before;
     QString after;

@@ -12,7 +12,8 @@ namespace Korvex::Meridane::Designer {
 
 namespace {
 
-struct Announcement {
+struct Announcement
+{
     QPointer<DesignerObject> object;
     QSharedPointer<DesignerProperty> property;
 };

@@ -21,7 +21,7 @@ MoveObject::~MoveObject() = default;
 
 QList<DesignerObject*> MoveObject::selectedItems() const
 {
-    return m_object ? QList<DesignerObject*> {m_object} : QList<DesignerObject*>();
+    return m_object ? QList<DesignerObject*>{m_object} : QList<DesignerObject*>();
 }
 
 DesignerObject* MoveObject::activeItem() const

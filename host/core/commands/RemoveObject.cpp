@@ -20,7 +20,7 @@ RemoveObject::~RemoveObject() = default;
 
 QList<DesignerObject*> RemoveObject::selectedItems() const
 {
-    return m_held ? QList<DesignerObject*>() : QList<DesignerObject*> {m_object};
+    return m_held ? QList<DesignerObject*>() : QList<DesignerObject*>{m_object};
 }
 
 DesignerObject* RemoveObject::deletionCandidate() const

@@ -22,7 +22,7 @@ RenameObject::~RenameObject() = default;
 
 QList<DesignerObject*> RenameObject::selectedItems() const
 {
-    return m_object ? QList<DesignerObject*> {m_object} : QList<DesignerObject*>();
+    return m_object ? QList<DesignerObject*>{m_object} : QList<DesignerObject*>();
 }
 
 DesignerObject* RenameObject::activeItem() const

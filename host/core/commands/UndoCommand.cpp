@@ -28,8 +28,7 @@ UndoCommand::UndoCommand() = default;
 
 UndoCommand::UndoCommand(UndoCommand* parent)
     : QUndoCommand(parent)
-{
-}
+{}
 
 UndoCommand::~UndoCommand() = default;
 
@@ -146,11 +145,11 @@ const UndoCommand* UndoCommand::childCommand(int index) const
     return index < childCount() ? dynamic_cast<const UndoCommand*>(QUndoCommand::child(index)) : nullptr;
 }
 
-void UndoCommand::execute() { }
+void UndoCommand::execute() {}
 
-void UndoCommand::undoStructure() { }
+void UndoCommand::undoStructure() {}
 
-void UndoCommand::redoStructure() { }
+void UndoCommand::redoStructure() {}
 
 bool UndoCommand::structureChanged() const
 {

@@ -75,7 +75,13 @@ protected:
     void setRefusal(const QString& message) { m_refusal = message; }
 
 private:
-    enum class State { Fresh, JustExecuted, Done, Undone };
+    enum class State
+    {
+        Fresh,
+        JustExecuted,
+        Done,
+        Undone
+    };
 
     void executeTree();
     void undoStructureTree();

@@ -9,14 +9,14 @@ namespace Korvex::Meridane::Designer {
 
 UndoStack::UndoStack(QObject* parent)
     : QUndoStack(parent)
-{
-}
+{}
 
 EditResult UndoStack::execute(std::unique_ptr<UndoCommand> command)
 {
     if (m_blocked) {
-        return {false, false, Common::LocalizationHelper::coreString(
-                                  QStringLiteral("Finish what you are doing with the mouse first."))};
+        return {
+            false, false,
+            Common::LocalizationHelper::coreString(QStringLiteral("Finish what you are doing with the mouse first."))};
     }
     if (!command || !command->isValid())
         return {false, false, Common::LocalizationHelper::coreString(QStringLiteral("There is nothing to change."))};

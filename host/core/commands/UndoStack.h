@@ -11,7 +11,8 @@ namespace Korvex::Meridane::Designer {
 class UndoCommand;
 
 /// What became of an edit.
-struct EditResult {
+struct EditResult
+{
     bool accepted = false; ///< nothing was refused
     bool changed = false; ///< there is a new undo step
     QString message; ///< why something was refused, in the words of what refused it

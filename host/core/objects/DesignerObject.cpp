@@ -21,8 +21,7 @@ using Common::LocalizationHelper;
 
 DesignerObject::DesignerObject(QObject* parent)
     : QObject(parent)
-{
-}
+{}
 
 DesignerObject::~DesignerObject() = default;
 
@@ -79,7 +78,7 @@ QString DesignerObject::onCompletedQml(int) const
     return {};
 }
 
-void DesignerObject::afterListPropertyChanged() { }
+void DesignerObject::afterListPropertyChanged() {}
 
 bool DesignerObject::initializeProperties()
 {
@@ -106,13 +105,13 @@ bool DesignerObject::beforeListItemRemoved(const DesignerProperty*, const Design
     return true;
 }
 
-void DesignerObject::afterPropertyChanged(const DesignerProperty*, const QString&) { }
+void DesignerObject::afterPropertyChanged(const DesignerProperty*, const QString&) {}
 
-void DesignerObject::afterObjectPropertyChanged(const DesignerProperty*, const DesignerObject*) { }
+void DesignerObject::afterObjectPropertyChanged(const DesignerProperty*, const DesignerObject*) {}
 
-void DesignerObject::afterListItemAdded(const DesignerProperty*, const DesignerObject*) { }
+void DesignerObject::afterListItemAdded(const DesignerProperty*, const DesignerObject*) {}
 
-void DesignerObject::afterListItemRemoved(const DesignerProperty*, const DesignerObject*) { }
+void DesignerObject::afterListItemRemoved(const DesignerProperty*, const DesignerObject*) {}
 
 QList<QSharedPointer<DesignerProperty>> DesignerObject::getDependencyProperties() const
 {
@@ -257,9 +256,9 @@ DesignerObject* DesignerObject::parentObject() const
 
 void DesignerObject::addProperty(const QSharedPointer<DesignerProperty>& property)
 {
-    const auto place
-        = std::upper_bound(m_properties.begin(), m_properties.end(), property,
-                           [](const auto& left, const auto& right) { return left->rank() < right->rank(); });
+    const auto place =
+        std::upper_bound(m_properties.begin(), m_properties.end(), property,
+                         [](const auto& left, const auto& right) { return left->rank() < right->rank(); });
     m_properties.insert(place, property);
 }
 

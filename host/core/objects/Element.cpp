@@ -4,8 +4,7 @@ namespace Korvex::Meridane::Designer {
 
 Element::Element(QObject* parent)
     : DesignerObject(parent)
-{
-}
+{}
 
 Element::~Element() = default;
 

@@ -15,8 +15,7 @@ using Common::LocalizationHelper;
 
 Group::Group(QObject* parent)
     : VisualElement(parent)
-{
-}
+{}
 
 Group::~Group() = default;
 
@@ -46,8 +45,8 @@ bool Group::initializeProperties()
     info.setName(QStringLiteral("group"));
     if (!setIdInfo(info))
         return false;
-    m_elements = QSharedPointer<ObjectListProperty>::create(
-        this, QStringLiteral("elements"), LocalizationHelper::coreString(QStringLiteral("Elements")));
+    m_elements = QSharedPointer<ObjectListProperty>::create(this, QStringLiteral("elements"),
+                                                            LocalizationHelper::coreString(QStringLiteral("Elements")));
     m_elements->setRank(100);
     m_elements->setFlags(Stored | Exported);
     addProperty(m_elements);

@@ -36,8 +36,7 @@ bool screenSizeValidator(const DesignerProperty* property, QString& message)
 
 Screen::Screen(QObject* parent)
     : DesignerObject(parent)
-{
-}
+{}
 
 Screen::~Screen() = default;
 
@@ -72,16 +71,17 @@ bool Screen::initializeProperties()
     if (const Project* project = Project::parentProject(this))
         size = project->displaySize();
     const auto text = [](const char* label) { return LocalizationHelper::coreString(QString::fromLatin1(label)); };
-    const QSharedPointer<DesignerProperty> name
-        = PropertyDeclaration<StringProperty>(this, QLatin1String("name"), text("Name"), QString()).rank(1).flags(
-            Stored | Shown | Editable);
-    const QSharedPointer<DesignerProperty> sizeProperty
-        = PropertyDeclaration<SizeProperty>(this, QLatin1String("size"), text("Size"), size)
-              .rank(2)
-              .editor(QLatin1String("SizeEditor"), {{QStringLiteral("minimumValue"), QSizeF(1, 1)}})
-              .validator(screenSizeValidator);
-    const QSharedPointer<DesignerProperty> color
-        = PropertyDeclaration<ColorProperty>(this, QLatin1String("color"), text("Color"), QColor(Qt::white)).rank(3);
+    const QSharedPointer<DesignerProperty> name =
+        PropertyDeclaration<StringProperty>(this, QLatin1String("name"), text("Name"), QString())
+            .rank(1)
+            .flags(Stored | Shown | Editable);
+    const QSharedPointer<DesignerProperty> sizeProperty =
+        PropertyDeclaration<SizeProperty>(this, QLatin1String("size"), text("Size"), size)
+            .rank(2)
+            .editor(QLatin1String("SizeEditor"), {{QStringLiteral("minimumValue"), QSizeF(1, 1)}})
+            .validator(screenSizeValidator);
+    const QSharedPointer<DesignerProperty> color =
+        PropertyDeclaration<ColorProperty>(this, QLatin1String("color"), text("Color"), QColor(Qt::white)).rank(3);
     m_elements = QSharedPointer<ObjectListProperty>::create(this, QStringLiteral("elements"), text("Elements"));
     m_elements->setRank(100);
     m_elements->setFlags(Stored | Exported);

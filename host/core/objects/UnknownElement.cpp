@@ -6,8 +6,7 @@ namespace Korvex::Meridane::Designer {
 
 UnknownElement::UnknownElement(QObject* parent)
     : Element(parent)
-{
-}
+{}
 
 UnknownElement::~UnknownElement() = default;
 

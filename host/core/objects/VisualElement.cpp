@@ -14,8 +14,7 @@ using Common::LocalizationHelper;
 
 VisualElement::VisualElement(QObject* parent)
     : Element(parent)
-{
-}
+{}
 
 VisualElement::~VisualElement() = default;
 
@@ -34,15 +33,15 @@ bool VisualElement::initializeProperties()
     if (!Element::initializeProperties())
         return false;
     // Shared by all elements.
-    static const QMap<QString, QVariant> pixels {
+    static const QMap<QString, QVariant> pixels{
         {QStringLiteral("suffix"), LocalizationHelper::coreString(QStringLiteral(" px"))},
         {QStringLiteral("decimals"), 2}};
-    m_position = PropertyDeclaration<PointProperty>(this, QLatin1String("position"),
-                                                    LocalizationHelper::coreString(QStringLiteral("Position")),
-                                                    QPointF(0, 0))
-                     .rank(1)
-                     .allowInvalid()
-                     .parameters(pixels);
+    m_position =
+        PropertyDeclaration<PointProperty>(this, QLatin1String("position"),
+                                           LocalizationHelper::coreString(QStringLiteral("Position")), QPointF(0, 0))
+            .rank(1)
+            .allowInvalid()
+            .parameters(pixels);
     m_rotation = PropertyDeclaration<RotationProperty>(this, QLatin1String("rotation"),
                                                        LocalizationHelper::coreString(QStringLiteral("Rotation")),
                                                        RotationInfo())

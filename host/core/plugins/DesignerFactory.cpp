@@ -55,8 +55,8 @@ PropertyEditor* DesignerFactory::createPropertyEditor(const QString& className, 
 
 bool DesignerFactory::addFactory(IDesignerFactory* factory, const QString& pluginName, QString* message)
 {
-    const QStringList names = factory->dataObjectClassNames() + factory->graphicsItemClassNames()
-        + factory->propertyEditorClassNames();
+    const QStringList names =
+        factory->dataObjectClassNames() + factory->graphicsItemClassNames() + factory->propertyEditorClassNames();
     for (const QString& name : names) {
         if (!m_dataObjects.contains(name) && !m_graphicsItems.contains(name) && !m_editors.contains(name))
             continue;
@@ -105,7 +105,7 @@ QStringList DesignerFactory::loadPlugins(const QString& folder)
 
 QStringList DesignerFactory::loadInstalledPlugins()
 {
-    QStringList folders {QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("../plugins"))};
+    QStringList folders{QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("../plugins"))};
     folders += qEnvironmentVariable("MERIDANE_PLUGIN_PATH").split(QDir::listSeparator(), Qt::SkipEmptyParts);
     QStringList messages;
     for (const QString& folder : std::as_const(folders))

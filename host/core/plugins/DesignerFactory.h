@@ -58,7 +58,8 @@ private:
     DesignerFactory();
     ~DesignerFactory();
 
-    struct Entry {
+    struct Entry
+    {
         IDesignerFactory* factory;
         QString pluginName;
     };

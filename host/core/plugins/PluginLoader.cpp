@@ -28,8 +28,7 @@ QString verify(QLibrary& library)
     if (!library.load())
         return LocalizationHelper::coreString(QStringLiteral("it is not a library that can be loaded (%1)"))
             .arg(library.errorString());
-    const auto query
-        = reinterpret_cast<VerificationFunction>(library.resolve("qt_plugin_query_verification_data"));
+    const auto query = reinterpret_cast<VerificationFunction>(library.resolve("qt_plugin_query_verification_data"));
     if (!query)
         return LocalizationHelper::coreString(QStringLiteral("it has no function qt_plugin_query_verification_data"));
     const char* text = query();
@@ -60,9 +59,9 @@ IDesignerFactory* PluginLoader::load(const QString& file, QString* message)
 
     auto* factory = qobject_cast<IDesignerFactory*>(loader.instance());
     if (!factory) {
-        *message = refusal(
-            path, loader.isLoaded() ? LocalizationHelper::coreString(QStringLiteral("it offers no element factory"))
-                                    : loader.errorString());
+        *message = refusal(path, loader.isLoaded()
+                                     ? LocalizationHelper::coreString(QStringLiteral("it offers no element factory"))
+                                     : loader.errorString());
         loader.unload();
         library.unload();
     }

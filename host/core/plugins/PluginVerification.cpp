@@ -30,8 +30,8 @@ std::optional<PluginVerification> PluginVerification::parse(const QString& text)
         const QString& text = lines.at(line);
         return text.startsWith(key) ? text.mid(key.size()) : QString();
     };
-    PluginVerification verification {value(1, QLatin1String("version=")), value(2, QLatin1String("debug=")),
-                                     value(3, QLatin1String("buildkey="))};
+    PluginVerification verification{value(1, QLatin1String("version=")), value(2, QLatin1String("debug=")),
+                                    value(3, QLatin1String("buildkey="))};
     if (verification.version.isEmpty() || verification.debug.isEmpty() || verification.buildKey.isEmpty())
         return std::nullopt;
     return verification;

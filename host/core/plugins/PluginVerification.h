@@ -54,7 +54,8 @@
 namespace Korvex::Meridane::Designer {
 
 /// The verification text, taken apart.
-struct MERIDANE_CORE_EXPORT PluginVerification {
+struct MERIDANE_CORE_EXPORT PluginVerification
+{
     QString version;
     QString debug;
     QString buildKey;

@@ -63,19 +63,18 @@ bool Project::initializeProperties()
 {
     if (!DesignerObject::initializeProperties())
         return false;
-    m_name = PropertyDeclaration<StringProperty>(
-                 this, QLatin1String("name"), LocalizationHelper::coreString(QStringLiteral("Name")), QString())
+    m_name = PropertyDeclaration<StringProperty>(this, QLatin1String("name"),
+                                                 LocalizationHelper::coreString(QStringLiteral("Name")), QString())
                  .rank(1)
                  .flags(Stored | Shown | Editable);
-    m_displaySize
-        = PropertyDeclaration<SizeProperty>(this, QLatin1String("displaySize"),
-                                            LocalizationHelper::coreString(QStringLiteral("Display Size")),
-                                            QSizeF(800, 480))
-              .rank(2)
-              .flags(Stored | Shown | Editable)
-              .editor(QLatin1String("SizeEditor"), {{QStringLiteral("minimumValue"), QSizeF(1, 1)}});
-    m_screens = QSharedPointer<ObjectListProperty>::create(
-        this, QStringLiteral("screens"), LocalizationHelper::coreString(QStringLiteral("Screens")));
+    m_displaySize = PropertyDeclaration<SizeProperty>(this, QLatin1String("displaySize"),
+                                                      LocalizationHelper::coreString(QStringLiteral("Display Size")),
+                                                      QSizeF(800, 480))
+                        .rank(2)
+                        .flags(Stored | Shown | Editable)
+                        .editor(QLatin1String("SizeEditor"), {{QStringLiteral("minimumValue"), QSizeF(1, 1)}});
+    m_screens = QSharedPointer<ObjectListProperty>::create(this, QStringLiteral("screens"),
+                                                           LocalizationHelper::coreString(QStringLiteral("Screens")));
     m_screens->setRank(100);
     m_screens->setFlags(Stored);
     addProperty(m_screens);

@@ -7,8 +7,7 @@ namespace Korvex::Meridane::Designer {
 
 BorderProperty::BorderProperty(DesignerObject* parent, const QString& id, const QString& name, const BorderInfo& value)
     : TypedProperty(parent, id, name, value)
-{
-}
+{}
 
 BorderProperty::~BorderProperty() = default;
 

@@ -7,8 +7,7 @@ namespace Korvex::Meridane::Designer {
 
 ColorProperty::ColorProperty(DesignerObject* parent, const QString& id, const QString& name, const QColor& value)
     : TypedProperty(parent, id, name, value)
-{
-}
+{}
 
 ColorProperty::~ColorProperty() = default;
 

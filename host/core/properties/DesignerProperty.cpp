@@ -8,8 +8,7 @@ DesignerProperty::DesignerProperty(DesignerObject* parent, const QString& id, co
     : m_parentObject(parent)
     , m_id(sharedText(id))
     , m_name(sharedText(name))
-{
-}
+{}
 
 DesignerProperty::~DesignerProperty() = default;
 

@@ -6,8 +6,7 @@ namespace Korvex::Meridane::Designer {
 
 EnumProperty::EnumProperty(DesignerObject* parent, const QString& id, const QString& name, const EnumInfo& value)
     : TypedProperty(parent, id, name, value)
-{
-}
+{}
 
 EnumProperty::~EnumProperty() = default;
 

@@ -12,8 +12,7 @@ using Common::TextHelper;
 
 FontProperty::FontProperty(DesignerObject* parent, const QString& id, const QString& name, const QFont& value)
     : TypedProperty(parent, id, name, value)
-{
-}
+{}
 
 FontProperty::~FontProperty() = default;
 
@@ -32,7 +31,7 @@ QString FontProperty::convertToQml(int indent) const
     const QFont& font = value();
     const auto boolean = [](bool on) { return on ? QStringLiteral("true") : QStringLiteral("false"); };
     const QString tabs = DesignerObject::getTabs(indent);
-    const QStringList lines {
+    const QStringList lines{
         QStringLiteral("family: \"%1\"").arg(TextHelper::toQmlValueString(font.family())),
         QStringLiteral("fontSize: %1").arg(QString::number(Common::fontPixelSize(font))),
         QStringLiteral("bold: ") + boolean(font.bold()),

@@ -7,8 +7,7 @@ namespace Korvex::Meridane::Designer {
 
 IntegerProperty::IntegerProperty(DesignerObject* parent, const QString& id, const QString& name, int value)
     : TypedProperty(parent, id, name, value)
-{
-}
+{}
 
 IntegerProperty::~IntegerProperty() = default;
 

@@ -52,8 +52,9 @@ bool LinkProperty::validateObjectValue(QString& message) const
     const DesignerObject* object = linkedObject();
     if (object && (filter.isEmpty() || filter.contains(object->idInfo().filterType())))
         return true;
-    message = object ? LocalizationHelper::coreString(QStringLiteral("\"%1\" cannot be linked here.")).arg(target)
-                     : LocalizationHelper::coreString(QStringLiteral("\"%1\" does not exist in this project.")).arg(target);
+    message =
+        object ? LocalizationHelper::coreString(QStringLiteral("\"%1\" cannot be linked here.")).arg(target)
+               : LocalizationHelper::coreString(QStringLiteral("\"%1\" does not exist in this project.")).arg(target);
     return false;
 }
 

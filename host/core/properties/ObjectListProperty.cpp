@@ -10,8 +10,7 @@ namespace Korvex::Meridane::Designer {
 
 ObjectListProperty::ObjectListProperty(DesignerObject* parent, const QString& id, const QString& name)
     : DesignerProperty(parent, id, name)
-{
-}
+{}
 
 ObjectListProperty::~ObjectListProperty() = default;
 

@@ -5,10 +5,10 @@
 
 namespace Korvex::Meridane::Designer {
 
-PointListProperty::PointListProperty(DesignerObject* parent, const QString& id, const QString& name, const QPolygonF& value)
+PointListProperty::PointListProperty(DesignerObject* parent, const QString& id, const QString& name,
+                                     const QPolygonF& value)
     : TypedProperty(parent, id, name, value)
-{
-}
+{}
 
 PointListProperty::~PointListProperty() = default;
 
@@ -27,8 +27,8 @@ QString PointListProperty::convertToQml(int indent) const
     QStringList points;
     points.reserve(value().size());
     for (const QPointF& point : value()) {
-        points.append(QStringLiteral("[%1, %2]").arg(ValueConversion::toQmlString(point.x(), 4),
-                                                     ValueConversion::toQmlString(point.y(), 4)));
+        points.append(QStringLiteral("[%1, %2]")
+                          .arg(ValueConversion::toQmlString(point.x(), 4), ValueConversion::toQmlString(point.y(), 4)));
     }
     if (points.isEmpty())
         return DesignerObject::getTabs(indent) + QStringLiteral("points: []");

@@ -7,8 +7,7 @@ namespace Korvex::Meridane::Designer {
 
 PointProperty::PointProperty(DesignerObject* parent, const QString& id, const QString& name, const QPointF& value)
     : TypedProperty(parent, id, name, value)
-{
-}
+{}
 
 PointProperty::~PointProperty() = default;
 

@@ -28,8 +28,7 @@ public:
     PropertyDeclaration(DesignerObject* object, QLatin1String id, const QString& label, const Value& value)
         : m_object(object)
         , m_property(QSharedPointer<Property>::create(object, id, label, value))
-    {
-    }
+    {}
 
     PropertyDeclaration&& rank(int rank) &&
     {

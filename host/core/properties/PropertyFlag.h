@@ -5,7 +5,8 @@
 namespace Korvex::Meridane::Designer {
 
 /// What the host does with a property. The numbers are part of the plug-in contract.
-enum PropertyFlag {
+enum PropertyFlag
+{
     Stored = 1, ///< part of the object's saved state
     Exported = 2, ///< a QML line is written
     Shown = 4, ///< has a row in the property sheet

@@ -7,8 +7,7 @@ namespace Korvex::Meridane::Designer {
 
 RealProperty::RealProperty(DesignerObject* parent, const QString& id, const QString& name, double value)
     : TypedProperty(parent, id, name, value)
-{
-}
+{}
 
 RealProperty::~RealProperty() = default;
 

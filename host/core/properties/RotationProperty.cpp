@@ -5,10 +5,10 @@
 
 namespace Korvex::Meridane::Designer {
 
-RotationProperty::RotationProperty(DesignerObject* parent, const QString& id, const QString& name, const RotationInfo& value)
+RotationProperty::RotationProperty(DesignerObject* parent, const QString& id, const QString& name,
+                                   const RotationInfo& value)
     : TypedProperty(parent, id, name, value)
-{
-}
+{}
 
 RotationProperty::~RotationProperty() = default;
 

@@ -16,8 +16,7 @@ public:
         , m_label(label)
         , m_type(type)
         , m_writable(writable)
-    {
-    }
+    {}
 
     [[nodiscard]] const QString& name() const { return m_name; }
     [[nodiscard]] const QString& label() const { return m_label; }

@@ -7,8 +7,7 @@ namespace Korvex::Meridane::Designer {
 
 SizeProperty::SizeProperty(DesignerObject* parent, const QString& id, const QString& name, const QSizeF& value)
     : TypedProperty(parent, id, name, value)
-{
-}
+{}
 
 SizeProperty::~SizeProperty() = default;
 

@@ -10,8 +10,7 @@ using Common::TextHelper;
 
 StringProperty::StringProperty(DesignerObject* parent, const QString& id, const QString& name, const QString& value)
     : TypedProperty(parent, id, name, value)
-{
-}
+{}
 
 StringProperty::~StringProperty() = default;
 

@@ -12,8 +12,7 @@ public:
     TypedProperty(DesignerObject* parent, const QString& id, const QString& name, const Value& value)
         : DesignerProperty(parent, id, name)
         , m_value(value)
-    {
-    }
+    {}
 
     /// The converted value; the last one that converted while the property holds a text that does not.
     [[nodiscard]] const Value& value() const { return m_value; }

@@ -28,15 +28,45 @@ class SamplePlugin : public QObject
     Q_INTERFACES(Korvex::Meridane::Designer::IDesignerFactory)
 
 public:
-    QStringList dataObjectClassNames() const override { return {QStringLiteral(SAMPLE_CLASS)}; }
-    QStringList graphicsItemClassNames() const override { return {}; }
-    QStringList propertyEditorClassNames() const override { return {}; }
-    QStringList propertyClassNames() const override { return {}; }
-    QStringList otherClassNames() const override { return {}; }
-    DesignerObject* createDataObject(const QString&, QObject*) override { return nullptr; }
-    GraphicsItem* createGraphicsItem(const QString&, DesignerObject*) override { return nullptr; }
-    PropertyEditor* createPropertyEditor(const QString&, QWidget*) override { return nullptr; }
-    DesignerProperty* createProperty(const QString&, DesignerObject*) override { return nullptr; }
-    IDesignerObject* createOther(const QString&) override { return nullptr; }
+    QStringList dataObjectClassNames() const override
+    {
+        return {QStringLiteral(SAMPLE_CLASS)};
+    }
+    QStringList graphicsItemClassNames() const override
+    {
+        return {};
+    }
+    QStringList propertyEditorClassNames() const override
+    {
+        return {};
+    }
+    QStringList propertyClassNames() const override
+    {
+        return {};
+    }
+    QStringList otherClassNames() const override
+    {
+        return {};
+    }
+    DesignerObject* createDataObject(const QString&, QObject*) override
+    {
+        return nullptr;
+    }
+    GraphicsItem* createGraphicsItem(const QString&, DesignerObject*) override
+    {
+        return nullptr;
+    }
+    PropertyEditor* createPropertyEditor(const QString&, QWidget*) override
+    {
+        return nullptr;
+    }
+    DesignerProperty* createProperty(const QString&, DesignerObject*) override
+    {
+        return nullptr;
+    }
+    IDesignerObject* createOther(const QString&) override
+    {
+        return nullptr;
+    }
 #endif
 };
