@@ -1,0 +1,25 @@
+#pragma once
+
+#include "cli/Command.h"
+
+namespace Korvex::Meridane::Designer {
+
+/// Exports to a temporary folder and runs the export in the display's viewer.
+class PreviewCommand : public Command
+{
+public:
+    [[nodiscard]] QString name() const override;
+    [[nodiscard]] QString synopsis() const override;
+    [[nodiscard]] QString summary() const override;
+    [[nodiscard]] QList<QCommandLineOption> options() const override;
+    [[nodiscard]] ApplicationKind applicationKind() const override;
+    bool readArguments(const QCommandLineParser& parser, QString* message) override;
+    ExitStatus run(StandardOutput& output) override;
+
+private:
+    QString m_project;
+    QString m_screen;
+    QString m_grab;
+};
+
+} // namespace Korvex::Meridane::Designer

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "cli/apply/ApplyResult.h"
+
+/// The operations, by the file in which they stand. Each reads its arguments, refuses what does not fit, and does its
+/// work.
+namespace Korvex::Meridane::Designer {
+
+class ApplySession;
+class EditArguments;
+
+// ApplyScreens.cpp
+[[nodiscard]] ApplyResult applyAddScreen(ApplySession& session, EditArguments& arguments);
+[[nodiscard]] ApplyResult applyRemoveScreen(ApplySession& session, EditArguments& arguments);
+
+// ApplyElements.cpp
+[[nodiscard]] ApplyResult applyAdd(ApplySession& session, EditArguments& arguments);
+[[nodiscard]] ApplyResult applyRemove(ApplySession& session, EditArguments& arguments);
+[[nodiscard]] ApplyResult applySelect(ApplySession& session, EditArguments& arguments);
+[[nodiscard]] ApplyResult applyRotate(ApplySession& session, EditArguments& arguments);
+[[nodiscard]] ApplyResult applyImportImage(ApplySession& session, EditArguments& arguments);
+
+// ApplyValues.cpp
+[[nodiscard]] ApplyResult applySet(ApplySession& session, EditArguments& arguments);
+[[nodiscard]] ApplyResult applyGet(ApplySession& session, EditArguments& arguments);
+[[nodiscard]] ApplyResult applyQml(ApplySession& session, EditArguments& arguments);
+[[nodiscard]] ApplyResult applyBounds(ApplySession& session, EditArguments& arguments);
+
+// ApplyInput.cpp
+[[nodiscard]] ApplyResult applyHandle(ApplySession& session, EditArguments& arguments);
+[[nodiscard]] ApplyResult applyDrag(ApplySession& session, EditArguments& arguments);
+[[nodiscard]] ApplyResult applyKey(ApplySession& session, EditArguments& arguments);
+
+// ApplyHistory.cpp
+[[nodiscard]] ApplyResult applyUndo(ApplySession& session, EditArguments& arguments);
+[[nodiscard]] ApplyResult applyRedo(ApplySession& session, EditArguments& arguments);
+[[nodiscard]] ApplyResult applyUndoCount(ApplySession& session, EditArguments& arguments);
+
+} // namespace Korvex::Meridane::Designer
