@@ -4,6 +4,7 @@
 
 #include <QGraphicsScene>
 #include <QList>
+#include <QPointer>
 
 namespace Korvex::Meridane::Designer {
 
@@ -30,23 +31,46 @@ public:
 
     /// The selected elements, in z-order.
     [[nodiscard]] QList<DesignerObject*> selectedObjects() const;
+    /// The selected elements without those that stand in a selected group: what moves or is removed as a whole.
+    [[nodiscard]] QList<DesignerObject*> selectedRoots() const;
+    /// Selects those of \a objects that have a selectable item here, and nothing else; announced once.
     void setSelectedObjects(const QList<DesignerObject*>& objects);
-    /// The front-most element at \a scenePos that can be selected, or null.
+    /// The front-most element at \a scenePos that can be selected, or null. Of an element in groups that is the
+    /// outermost group, unless the element itself or a group between them is selected.
     [[nodiscard]] DesignerObject* elementAt(const QPointF& scenePos) const;
+    /// The elements whose shapes \a sceneRect touches, groups for what is in them, in z-order.
+    [[nodiscard]] QList<DesignerObject*> elementsIn(const QRectF& sceneRect) const;
+    /// The elements directly on the screen that can be selected, in z-order.
+    [[nodiscard]] QList<DesignerObject*> selectableElements() const;
 
     /// Screen pixels of the view for one scene pixel; 1 without a view. Handles and hit widths follow it.
     [[nodiscard]] double viewScale() const { return m_viewScale; }
     void setViewScale(double scale);
 
     /// Makes the canvas item of \a object and of its children, fills them and reports their outer sizes once. Nothing
-    /// is recorded and the project is not modified by it.
+    /// is recorded and the project is not modified by it. Does nothing for an object that is placed already, or that
+    /// has no item. \a parent null: the scene's top level.
     void placeObject(DesignerObject* object, QGraphicsItem* parent);
     /// Removes and deletes the item of \a object and of its children.
     void displaceObject(DesignerObject* object);
+    /// Stacks the item of \a object between its siblings as their list says, by its z-value alone. Constant time for the
+    /// last of the list.
+    void restack(DesignerObject* object);
 
 private:
+    [[nodiscard]] bool owns(const DesignerObject* object) const;
+    [[nodiscard]] DesignerObject* selectableElement(QGraphicsItem* graphic) const;
+    [[nodiscard]] QList<DesignerObject*> inZOrder(const QList<DesignerObject*>& objects) const;
+    void placeChildren(const DesignerObject* owner, QGraphicsItem* parent);
+    void fitIndex();
+    void onObjectAdded(DesignerObject* object);
+    void onObjectRemoved(DesignerObject* object, DesignerObject* parent);
+    void onSelectionChanged();
+
     Screen* m_screen;
+    QList<QPointer<DesignerObject>> m_selectedBefore;
     double m_viewScale = 1;
+    qsizetype m_itemCount = 0;
 };
 
 } // namespace Korvex::Meridane::Designer

@@ -3,14 +3,19 @@
 #include "host/core/CoreExport.h"
 
 #include <QGraphicsView>
+#include <QPointer>
 
 #include <memory>
 
 namespace Korvex::Meridane::Designer {
 
+class CanvasKeys;
 class CanvasScene;
+class DesignerObject;
 class EditSession;
 class Gesture;
+struct CanvasPointer;
+struct HandleHit;
 
 /**
  * The view of the canvas: owns the mouse and the keyboard on it.
@@ -24,6 +29,7 @@ class MERIDANE_CORE_EXPORT CanvasView : public QGraphicsView
     Q_OBJECT
 
 public:
+    /// \a session outlives the view.
     explicit CanvasView(EditSession* session, QWidget* parent = nullptr);
     ~CanvasView() override;
 
@@ -57,10 +63,52 @@ Q_SIGNALS:
     void readoutChanged(const QString& text);
     void placementFinished();
 
+protected:
+    bool event(QEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void drawBackground(QPainter* painter, const QRectF& rect) override;
+    void drawForeground(QPainter* painter, const QRectF& rect) override;
+
 private:
+    void showScreen();
+    void updateSceneRect();
+    void showSelection();
+    [[nodiscard]] CanvasPointer pointerAt(const QPointF& viewPos, Qt::KeyboardModifiers modifiers) const;
+    [[nodiscard]] std::unique_ptr<Gesture> gestureForPress(const CanvasPointer& pointer);
+    [[nodiscard]] std::unique_ptr<Gesture> selectingGesture(const CanvasPointer& pointer);
+    void startGesture(std::unique_ptr<Gesture> gesture, Qt::MouseButton button);
+    void followShift(const QKeyEvent* event, bool down);
+    void moveGesture(const CanvasPointer& pointer);
+    std::unique_ptr<Gesture> endGesture();
+    void hover(const QPointF& scenePos);
+    void leaveHandle();
+    void updateCursor(const HandleHit* hit);
+    void updateHandles();
+    [[nodiscard]] bool acceptsDrop(const QDropEvent* event) const;
+
     EditSession* m_session;
     QString m_placementClass;
     std::unique_ptr<Gesture> m_gesture;
+    std::unique_ptr<CanvasKeys> m_keys;
+    QPointer<DesignerObject> m_hovered; // whose handle is under the mouse
+    QRegion m_paintedHandles; // where handles and the gesture's own marks stand on the viewport
+    QPointF m_lastViewPos;
+    Qt::MouseButton m_gestureButton = Qt::NoButton;
+    bool m_spaceHeld = false;
 };
 
 } // namespace Korvex::Meridane::Designer

@@ -2,11 +2,14 @@
 
 #include "host/core/objects/IDesignerObject.h"
 
+#include "host/common/TransformOrigin.h"
+
 #include <QPainterPath>
 #include <QPointer>
 #include <QPointF>
 #include <QRectF>
 #include <QSharedPointer>
+#include <QVector>
 
 class QGraphicsItem;
 
@@ -67,6 +70,15 @@ public:
     [[nodiscard]] virtual QRectF contentRect() const;
     // End of the contract's order.
 
+    /// Whether the item offers its eight frame handles at present: it is resizable, not rotated, and large enough on the
+    /// screen. The canvas draws them then.
+    [[nodiscard]] virtual bool hasFrameHandles() const;
+    /// Where the point handles of getResizePointHandle() lie at present, in item coordinates, for the canvas to draw;
+    /// none unless overridden.
+    [[nodiscard]] virtual QVector<QPointF> pointHandles() const;
+    /// The outline or the place of a child item changed; nothing unless overridden.
+    virtual void childOutlineChanged();
+
     [[nodiscard]] DesignerObject* dataObject() const;
     [[nodiscard]] QGraphicsItem* graphic() const { return m_graphic; }
 
@@ -84,8 +96,19 @@ public:
     [[nodiscard]] bool isChangingSize() const { return m_changingSize; }
     void setChangingSize(bool changing) { m_changingSize = changing; }
 
-    /// Writes the outer size into the element's "boundingSize" where it differs, rounded to 6 decimals.
+    /// To be called after every change of the outline: puts the fixed point of the rotation where it belongs, tells the
+    /// parent item, and writes the outer size into the element's "boundingSize" where it differs, rounded to 6 decimals.
     void reportOuterSize();
+    /// The same for a freshly filled item: "boundingSize" is filled, without hooks, record or announcement.
+    void fillOuterSize();
+    /// Updates the item from every property of its data object that converts, by rank.
+    void updateFromDataObject();
+    /// The point about which the item turns, in item coordinates.
+    [[nodiscard]] QPointF fixedPoint() const;
+    /// Moves the item to \a position in its parent's coordinates and tells the parent item.
+    void setItemPosition(const QPointF& position);
+    /// Whether the outer rectangle is larger than 10 screen pixels in both directions; smaller ones have no handles.
+    [[nodiscard]] bool isLargeEnoughForHandles() const;
     /// The tooltip "type: id" of the element; shown unless a handle is under the mouse.
     [[nodiscard]] QString nameToolTip() const;
     /// Shows \a text (a handle's) as tooltip until the name's is asked for again.
@@ -103,6 +126,14 @@ public:
 protected:
     GraphicsItem(DesignerObject* dataObject, QGraphicsItem* graphic);
 
+    /// What a frame resize comes to: the new outer size and the item position that belongs to it.
+    struct FrameChange {
+        QSizeF outerSize;
+        QPointF position;
+    };
+    /// The frame resize that resizeGraphicsItem() is asked for, with the kept ratio and minSize() observed and the side
+    /// or corner opposite \a handle in place. For items whose outer rectangle keeps its offset from the item's origin.
+    [[nodiscard]] FrameChange frameChange(int handle, const QSizeF& outerSize) const;
     /// Puts the rotation's fixed point where it belongs on the present content; called after the geometry changed.
     void updateTransformOrigin();
     /// "keepRatio" when it converts and is above 0, else 0.
@@ -114,9 +145,14 @@ protected:
     [[nodiscard]] QPainterPath rotatedShape(const QPainterPath& outline) const;
 
 private:
+    [[nodiscard]] QString outerSizeText(const QSharedPointer<DesignerProperty>& boundingSize) const;
+    void setItemRotation(double angle);
+    void tellParent();
+
     QPointer<DesignerObject> m_dataObject;
     QGraphicsItem* m_graphic;
     mutable QString m_nameToolTip;
+    Common::TransformOrigin m_fixedPoint = Common::Center;
     bool m_handleToolTip = false;
     bool m_resizable = false;
     bool m_rotatable = false;

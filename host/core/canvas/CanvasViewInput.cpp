@@ -1,0 +1,366 @@
+// The part of CanvasView that takes the mouse and the keyboard: which gesture a press begins, and how it ends.
+
+#include "host/core/canvas/CanvasView.h"
+
+#include "host/core/canvas/CanvasKeys.h"
+#include "host/core/canvas/CanvasScene.h"
+#include "host/core/canvas/EditSession.h"
+#include "host/core/canvas/GraphicsItem.h"
+#include "host/core/canvas/MoveGesture.h"
+#include "host/core/canvas/PanGesture.h"
+#include "host/core/canvas/PlaceGesture.h"
+#include "host/core/canvas/PointGesture.h"
+#include "host/core/canvas/ResizeGesture.h"
+#include "host/core/canvas/RotateGesture.h"
+#include "host/core/canvas/RubberBandGesture.h"
+#include "host/core/canvas/SelectionHandles.h"
+#include "host/core/objects/DesignerObject.h"
+#include "host/core/plugins/DesignerFactory.h"
+
+#include <QDragEnterEvent>
+#include <QGraphicsItem>
+#include <QHelpEvent>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QToolTip>
+#include <QWheelEvent>
+
+#include <cmath>
+
+namespace Korvex::Meridane::Designer {
+
+void CanvasView::setPlacementClass(const QString& className)
+{
+    m_placementClass = className;
+    updateCursor(nullptr);
+}
+
+void CanvasView::cancelGesture()
+{
+    if (const auto gesture = endGesture())
+        gesture->cancel();
+    updateHandles();
+}
+
+bool CanvasView::event(QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::ShortcutOverride:
+        if (m_keys->overridesShortcut(static_cast<QKeyEvent*>(event))) {
+            event->accept();
+            return true;
+        }
+        break;
+    case QEvent::KeyRelease:
+        followShift(static_cast<QKeyEvent*>(event), false);
+        break;
+    case QEvent::KeyPress:
+        followShift(static_cast<QKeyEvent*>(event), true);
+        // Before Qt takes Tab for moving the focus.
+        if (m_keys->press(static_cast<QKeyEvent*>(event))) {
+            event->accept();
+            return true;
+        }
+        break;
+    case QEvent::WindowDeactivate:
+    case QEvent::UngrabMouse:
+        cancelGesture();
+        break;
+    default:
+        break;
+    }
+    return QGraphicsView::event(event);
+}
+
+bool CanvasView::viewportEvent(QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::UngrabMouse:
+        cancelGesture();
+        break;
+    case QEvent::Leave:
+        leaveHandle();
+        break;
+    case QEvent::ToolTip: {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        const DesignerObject* object = m_hovered;
+        if (!object && canvasScene() && !m_gesture)
+            object = canvasScene()->elementAt(mapToScene(help->pos()));
+        if (const GraphicsItem* item = object ? object->graphicsItem() : nullptr)
+            QToolTip::showText(help->globalPos(), m_hovered ? item->graphic()->toolTip() : item->nameToolTip(), viewport());
+        else
+            QToolTip::hideText();
+        return true;
+    }
+    default:
+        break;
+    }
+    return QGraphicsView::viewportEvent(event);
+}
+
+void CanvasView::mousePressEvent(QMouseEvent* event)
+{
+    event->accept();
+    if (m_gesture) {
+        // Another button while one is held down.
+        if (event->button() == Qt::RightButton)
+            cancelGesture();
+        return;
+    }
+    if (!canvasScene())
+        return;
+    const CanvasPointer pointer = pointerAt(event->position(), event->modifiers());
+    m_lastViewPos = event->position();
+    if (event->button() == Qt::MiddleButton || (event->button() == Qt::LeftButton && m_spaceHeld)) {
+        startGesture(std::make_unique<PanGesture>(this, pointer), event->button());
+    } else if (event->button() == Qt::LeftButton) {
+        startGesture(gestureForPress(pointer), event->button());
+    } else if (event->button() == Qt::RightButton) {
+        // What the context menu is about.
+        DesignerObject* element = canvasScene()->elementAt(pointer.scenePos);
+        if (!element)
+            canvasScene()->setSelectedObjects({});
+        else if (!element->graphicsItem()->graphic()->isSelected())
+            canvasScene()->setSelectedObjects({element});
+    }
+}
+
+void CanvasView::mouseMoveEvent(QMouseEvent* event)
+{
+    event->accept();
+    const CanvasPointer pointer = pointerAt(event->position(), event->modifiers());
+    m_lastViewPos = event->position();
+    Q_EMIT pointerMoved(pointer.scenePos);
+    if (m_gesture && !event->buttons().testFlag(m_gestureButton))
+        cancelGesture(); // the release went to somebody else
+    if (m_gesture)
+        moveGesture(pointer);
+    else
+        hover(pointer.scenePos);
+}
+
+void CanvasView::mouseReleaseEvent(QMouseEvent* event)
+{
+    event->accept();
+    if (!m_gesture || event->button() != m_gestureButton)
+        return;
+    const CanvasPointer pointer = pointerAt(event->position(), event->modifiers());
+    if (const auto gesture = endGesture())
+        gesture->finish(pointer);
+    updateSceneRect();
+    updateHandles();
+    hover(pointer.scenePos);
+}
+
+void CanvasView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    // The second press of two quick ones is a press like any other.
+    mousePressEvent(event);
+}
+
+void CanvasView::wheelEvent(QWheelEvent* event)
+{
+    if (!event->modifiers().testFlag(Qt::ControlModifier)) {
+        QGraphicsView::wheelEvent(event);
+        return;
+    }
+    event->accept();
+    if (m_gesture)
+        return;
+    constexpr double NotchesToDouble = 4;
+    constexpr double AnglePerNotch = 120;
+    const double notches = event->angleDelta().y() / AnglePerNotch;
+    double wanted = zoom() * std::exp2(notches / NotchesToDouble);
+    // Whole factors and whole fractions are met exactly in spite of rounding.
+    if (std::abs(wanted - std::round(wanted)) < 1e-6)
+        wanted = std::round(wanted);
+    zoomAt(wanted, event->position().toPoint());
+}
+
+void CanvasView::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier) {
+        m_spaceHeld = true;
+        updateCursor(nullptr);
+        event->accept();
+        return;
+    }
+    QGraphicsView::keyPressEvent(event);
+}
+
+/// What Shift means for a gesture holds from the moment it is pressed or let go, not from the next move of the mouse.
+void CanvasView::followShift(const QKeyEvent* event, bool down)
+{
+    if (!m_gesture || event->key() != Qt::Key_Shift || event->isAutoRepeat())
+        return;
+    Qt::KeyboardModifiers modifiers = event->modifiers();
+    modifiers.setFlag(Qt::ShiftModifier, down);
+    moveGesture(pointerAt(m_lastViewPos, modifiers));
+}
+
+void CanvasView::keyReleaseEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Space && !event->isAutoRepeat()) {
+        m_spaceHeld = false;
+        updateCursor(nullptr);
+        event->accept();
+        return;
+    }
+    QGraphicsView::keyReleaseEvent(event);
+}
+
+void CanvasView::focusOutEvent(QFocusEvent* event)
+{
+    m_spaceHeld = false;
+    cancelGesture();
+    QGraphicsView::focusOutEvent(event);
+}
+
+void CanvasView::hideEvent(QHideEvent* event)
+{
+    cancelGesture();
+    QGraphicsView::hideEvent(event);
+}
+
+void CanvasView::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        viewport()->update();
+    else if (event->type() == QEvent::EnabledChange || event->type() == QEvent::ActivationChange)
+        cancelGesture();
+    QGraphicsView::changeEvent(event);
+}
+
+void CanvasView::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (acceptsDrop(event))
+        event->acceptProposedAction();
+}
+
+void CanvasView::dragMoveEvent(QDragMoveEvent* event)
+{
+    if (acceptsDrop(event))
+        event->acceptProposedAction();
+}
+
+void CanvasView::dropEvent(QDropEvent* event)
+{
+    if (!acceptsDrop(event))
+        return;
+    const QPointF there = pointerAt(event->position(), Qt::NoModifier).scenePos;
+    event->acceptProposedAction();
+    setFocus(Qt::MouseFocusReason);
+    PlaceGesture::place(this, QString::fromUtf8(event->mimeData()->data(elementMimeType())),
+                        QPointF(std::round(there.x()), std::round(there.y())), {});
+}
+
+bool CanvasView::acceptsDrop(const QDropEvent* event) const
+{
+    return canvasScene() && !m_gesture && event->mimeData()->hasFormat(elementMimeType());
+}
+
+CanvasPointer CanvasView::pointerAt(const QPointF& viewPos, Qt::KeyboardModifiers modifiers) const
+{
+    return {viewportTransform().inverted().map(viewPos), viewPos, modifiers};
+}
+
+std::unique_ptr<Gesture> CanvasView::gestureForPress(const CanvasPointer& pointer)
+{
+    if (!m_placementClass.isEmpty())
+        return std::make_unique<PlaceGesture>(this, pointer, m_placementClass);
+    const HandleHit hit = SelectionHandles(this).hit(pointer.scenePos);
+    switch (hit.kind) {
+    case HandleHit::Kind::Point:
+        return std::make_unique<PointGesture>(this, pointer, hit.object, hit.number);
+    case HandleHit::Kind::Frame:
+        return std::make_unique<ResizeGesture>(this, pointer, hit.object, hit.number);
+    case HandleHit::Kind::Rotation:
+        return std::make_unique<RotateGesture>(this, pointer, hit.object);
+    case HandleHit::Kind::None:
+        break;
+    }
+    return selectingGesture(pointer);
+}
+
+/// A press beside all handles: it selects, and what is selected can be moved.
+std::unique_ptr<Gesture> CanvasView::selectingGesture(const CanvasPointer& pointer)
+{
+    CanvasScene* canvas = canvasScene();
+    DesignerObject* element = canvas->elementAt(pointer.scenePos);
+    if (!element)
+        return std::make_unique<RubberBandGesture>(this, pointer);
+    const bool selected = element->graphicsItem()->graphic()->isSelected();
+    const bool adds = pointer.modifiers & (Qt::ControlModifier | Qt::ShiftModifier);
+    auto click = MoveGesture::Click::Nothing;
+    if (selected) {
+        click = adds ? MoveGesture::Click::Deselect : MoveGesture::Click::SelectAlone;
+    } else {
+        QList<DesignerObject*> objects = adds ? canvas->selectedObjects() : QList<DesignerObject*>();
+        objects.append(element);
+        canvas->setSelectedObjects(objects);
+    }
+    return std::make_unique<MoveGesture>(this, pointer, element, click);
+}
+
+void CanvasView::startGesture(std::unique_ptr<Gesture> gesture, Qt::MouseButton button)
+{
+    m_gesture = std::move(gesture);
+    m_gestureButton = button;
+    if (m_gesture->editsProject())
+        m_session->undoStack()->setBlocked(true);
+    updateHandles();
+}
+
+void CanvasView::moveGesture(const CanvasPointer& pointer)
+{
+    m_gesture->move(pointer);
+    Q_EMIT readoutChanged(m_gesture->readout());
+    updateHandles();
+}
+
+/// Ends the running gesture in so far as the view and the undo history wait for it; the caller finishes or cancels it.
+std::unique_ptr<Gesture> CanvasView::endGesture()
+{
+    if (!m_gesture)
+        return nullptr;
+    if (m_gesture->editsProject())
+        m_session->undoStack()->setBlocked(false);
+    m_gestureButton = Qt::NoButton;
+    std::unique_ptr<Gesture> gesture = std::move(m_gesture);
+    updateCursor(nullptr);
+    Q_EMIT readoutChanged({});
+    return gesture;
+}
+
+void CanvasView::hover(const QPointF& scenePos)
+{
+    if (!m_placementClass.isEmpty() || m_spaceHeld)
+        return;
+    const HandleHit hit = SelectionHandles(this).hit(scenePos);
+    if (m_hovered != hit.object)
+        leaveHandle();
+    m_hovered = hit.object;
+    updateCursor(&hit);
+}
+
+void CanvasView::leaveHandle()
+{
+    if (m_hovered && m_hovered->graphicsItem())
+        m_hovered->graphicsItem()->showNameToolTip();
+    m_hovered.clear();
+}
+
+void CanvasView::updateCursor(const HandleHit* hit)
+{
+    QCursor wanted = Qt::ArrowCursor;
+    if (m_spaceHeld)
+        wanted = Qt::OpenHandCursor;
+    else if (!m_placementClass.isEmpty())
+        wanted = Qt::CrossCursor;
+    else if (hit)
+        wanted = SelectionHandles::cursor(*hit);
+    if (viewport()->cursor().shape() != wanted.shape())
+        viewport()->setCursor(wanted);
+}
+
+} // namespace Korvex::Meridane::Designer

@@ -1,0 +1,119 @@
+#include "tests/canvas/CanvasFixture.h"
+
+#include <QtTest>
+
+using namespace Korvex::Meridane::Designer;
+using Test::CanvasFixture;
+
+using Objects = QList<DesignerObject*>;
+
+/// Selecting with the mouse. Selecting is never an undo step.
+class tst_CanvasSelection : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_canvas = std::make_unique<CanvasFixture>();
+        m_first = m_canvas->addRectangle(QRectF(100, 100, 100, 80));
+        m_second = m_canvas->addRectangle(QRectF(300, 100, 100, 80));
+        m_third = m_canvas->addRectangle(QRectF(350, 140, 100, 80));
+    }
+
+    void cleanup()
+    {
+        QCOMPARE(m_canvas->steps(), 0);
+        m_canvas.reset();
+    }
+
+    void aClickSelectsTheFrontmost()
+    {
+        m_canvas->click({370, 160});
+        QCOMPARE(m_canvas->selected(), Objects{m_third});
+        m_canvas->click({320, 120});
+        QCOMPARE(m_canvas->selected(), Objects{m_second});
+    }
+
+    void aClickOnEmptyGroundClears()
+    {
+        m_canvas->select({m_first, m_second});
+        m_canvas->click({20, 20});
+        QVERIFY(m_canvas->selected().isEmpty());
+    }
+
+    void ctrlAndShiftToggle()
+    {
+        for (const Qt::KeyboardModifier modifier : {Qt::ControlModifier, Qt::ShiftModifier}) {
+            m_canvas->select({m_first});
+            m_canvas->click({320, 120}, modifier);
+            QCOMPARE(m_canvas->selected(), Objects({m_first, m_second}));
+            m_canvas->click({150, 140}, modifier);
+            QCOMPARE(m_canvas->selected(), Objects{m_second});
+            m_canvas->click({20, 20}, modifier);
+            QCOMPARE(m_canvas->selected(), Objects{m_second});
+        }
+    }
+
+    void aClickOnOneOfSeveralSelectedReducesToIt()
+    {
+        m_canvas->select({m_first, m_second});
+        m_canvas->press({150, 140});
+        QCOMPARE(m_canvas->selected(), Objects({m_first, m_second}));
+        m_canvas->release({150, 140});
+        QCOMPARE(m_canvas->selected(), Objects{m_first});
+    }
+
+    void aRubberBandSelectsWhatItTouches()
+    {
+        m_canvas->drag({90, 90}, {320, 130});
+        QCOMPARE(m_canvas->selected(), Objects({m_first, m_second}));
+        m_canvas->drag({440, 230}, {460, 200}, Qt::ShiftModifier);
+        QCOMPARE(m_canvas->selected(), Objects({m_first, m_second, m_third}));
+        m_canvas->drag({90, 90}, {95, 95});
+        QVERIFY(m_canvas->selected().isEmpty());
+    }
+
+    void aRubberBandThatIsTakenBackLeavesTheSelection()
+    {
+        m_canvas->select({m_third});
+        m_canvas->press({90, 90});
+        m_canvas->move({320, 130});
+        QCOMPARE(m_canvas->selected(), Objects({m_first, m_second}));
+        QVERIFY(m_canvas->view->isGestureRunning());
+        m_canvas->key(Qt::Key_Escape);
+        QVERIFY(!m_canvas->view->isGestureRunning());
+        QCOMPARE(m_canvas->selected(), Objects{m_third});
+        m_canvas->release({320, 130});
+        QCOMPARE(m_canvas->selected(), Objects{m_third});
+    }
+
+    void theRightButtonSelectsWhatTheMenuWillBeAbout()
+    {
+        m_canvas->press({150, 140}, {}, Qt::RightButton);
+        m_canvas->release({150, 140}, {}, Qt::RightButton);
+        QCOMPARE(m_canvas->selected(), Objects{m_first});
+        m_canvas->select({m_first, m_second});
+        m_canvas->press({150, 140}, {}, Qt::RightButton);
+        m_canvas->release({150, 140}, {}, Qt::RightButton);
+        QCOMPARE(m_canvas->selected(), Objects({m_first, m_second}));
+    }
+
+    void aTremblingHandClicks()
+    {
+        m_canvas->press({150, 140});
+        m_canvas->move({151, 141});
+        m_canvas->release({151, 141});
+        QCOMPARE(m_canvas->selected(), Objects{m_first});
+        QCOMPARE(m_canvas->value(m_first, "position"), QStringLiteral("100,100"));
+    }
+
+private:
+    std::unique_ptr<CanvasFixture> m_canvas;
+    DesignerObject* m_first = nullptr;
+    DesignerObject* m_second = nullptr;
+    DesignerObject* m_third = nullptr;
+};
+
+QTEST_MAIN(tst_CanvasSelection)
+#include "tst_CanvasSelection.moc"

@@ -1,0 +1,126 @@
+#include "tests/canvas/CanvasFixture.h"
+
+#include <QtTest>
+
+using namespace Korvex::Meridane::Designer;
+using Test::CanvasFixture;
+
+/// How handles look: judged by the pixels of the view.
+class tst_SelectionHandles : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void handlesHaveTheSameSizeAtEveryZoom_data()
+    {
+        QTest::addColumn<double>("zoom");
+        for (const double zoom : {0.25, 0.5, 1.0, 3.0, 8.0, 16.0})
+            QTest::addRow("%g", zoom) << zoom;
+    }
+
+    void handlesHaveTheSameSizeAtEveryZoom()
+    {
+        QFETCH(double, zoom);
+        CanvasFixture canvas;
+        // As large on the screen as ever, so that all handles are apart and in view.
+        DesignerObject* rectangle = canvas.addRectangle(QRectF(200, 150, 200 / zoom, 160 / zoom));
+        canvas.view->setZoom(zoom);
+        canvas.view->centerOn(canvas.graphic(rectangle));
+        const QImage without = canvas.view->grab().toImage();
+        canvas.select({rectangle});
+        const QImage with = canvas.view->grab().toImage();
+        const QRectF frame = canvas.view->viewportTransform().mapRect(canvas.outerRect(rectangle));
+        for (const QPointF& corner : {frame.topLeft(), frame.topRight(), frame.bottomLeft(), frame.bottomRight()}) {
+            const QRect changed = changedAbout(without, with, corner.toPoint());
+            QVERIFY2(changed.width() >= 9 && changed.width() <= 11, qPrintable(QString::number(changed.width())));
+            QVERIFY(changed.height() >= 9 && changed.height() <= 11);
+            QVERIFY((QRectF(changed).center() - corner).manhattanLength() <= 2);
+        }
+    }
+
+    void handlesShowOnAnyGround_data()
+    {
+        QTest::addColumn<QString>("color");
+        for (const char* color : {"#ffffff", "#000000", "#808080", "#ff0000", "#181818"})
+            QTest::newRow(color) << QString::fromLatin1(color);
+    }
+
+    void handlesShowOnAnyGround()
+    {
+        QFETCH(QString, color);
+        CanvasFixture canvas;
+        canvas.set(canvas.screen, "color", color);
+        DesignerObject* rectangle = canvas.addRectangle(QRectF(200, 150, 200, 160));
+        canvas.set(rectangle, "color", color);
+        canvas.select({rectangle});
+        const QImage image = canvas.view->grab().toImage();
+        const QPoint corner = canvas.view->viewportTransform().map(QPointF(200, 150)).toPoint();
+        int strongest = 0;
+        for (int dx = -6; dx <= 6; ++dx) {
+            const QColor pixel = image.pixelColor(corner + QPoint(dx, 0));
+            strongest = qMax(strongest, qAbs(qGray(pixel.rgb()) - qGray(QColor(color).rgb())));
+        }
+        QVERIFY(strongest > 90);
+    }
+
+    void handlesFollowUndoWithoutLeavingAnythingBehind()
+    {
+        CanvasFixture canvas;
+        DesignerObject* rectangle = canvas.addRectangle(QRectF(200, 150, 200, 160));
+        canvas.select({rectangle});
+        canvas.view->viewport()->update();
+        QApplication::processEvents();
+        canvas.drag({300, 230}, {360, 260});
+        canvas.session->undo();
+        // What has been painted bit by bit is what a fresh picture shows.
+        for (int i = 0; i < 5; ++i)
+            QApplication::processEvents();
+        QCOMPARE(canvas.view->screen()->grabWindow(canvas.view->winId()).toImage().convertToFormat(QImage::Format_RGB32),
+                 canvas.view->grab().toImage().convertToFormat(QImage::Format_RGB32));
+    }
+
+    void aTooSmallElementShowsOnlyTheKnob()
+    {
+        CanvasFixture canvas;
+        DesignerObject* rectangle = canvas.addRectangle(QRectF(200, 150, 8, 8));
+        const QImage without = canvas.view->grab().toImage();
+        canvas.select({rectangle});
+        const QImage with = canvas.view->grab().toImage();
+        const QPoint corner = canvas.view->viewportTransform().map(QPointF(208, 158)).toPoint();
+        QVERIFY(without.pixelColor(corner + QPoint(3, 3)) == with.pixelColor(corner + QPoint(3, 3)));
+        QCOMPARE(changedAbout(without, with, corner + QPoint(-4, -30)).isEmpty(), false);
+    }
+
+    void pointHandlesAreShown()
+    {
+        CanvasFixture canvas;
+        DesignerObject* points = canvas.add("PointElement", {{QStringLiteral("position"), QStringLiteral("200,150")},
+            {QStringLiteral("points"), QStringLiteral("0,0 100,0 130,60 0,80")}});
+        canvas.select({});
+        const QImage without = canvas.view->grab().toImage();
+        canvas.select({points});
+        const QImage with = canvas.view->grab().toImage();
+        const QPoint point = canvas.view->viewportTransform().map(QPointF(300, 150)).toPoint();
+        const QRect changed = changedAbout(without, with, point);
+        QVERIFY(changed.width() >= 10 && changed.width() <= 20);
+    }
+
+private:
+    /// The bounds of the pixels within 10 of \a center, off the frame's own lines, in which the images differ.
+    static QRect changedAbout(const QImage& a, const QImage& b, const QPoint& center)
+    {
+        QRect changed;
+        for (int y = center.y() - 9; y <= center.y() + 9; ++y) {
+            for (int x = center.x() - 9; x <= center.x() + 9; ++x) {
+                // The selection's frame runs along these lines.
+                const bool onFrame = std::abs(x - center.x()) <= 1 || std::abs(y - center.y()) <= 1;
+                if (!onFrame && a.rect().contains(x, y) && a.pixel(x, y) != b.pixel(x, y))
+                    changed |= QRect(x, y, 1, 1);
+            }
+        }
+        return changed;
+    }
+};
+
+QTEST_MAIN(tst_SelectionHandles)
+#include "tst_SelectionHandles.moc"
