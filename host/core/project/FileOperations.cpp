@@ -194,6 +194,8 @@ bool FileOperations::makePath(const QString& path, QStringList* made, QString* e
     const QFileInfo info(path);
     if (info.isDir())
         return true;
+    if (info.exists())
+        return report(path, std::make_error_code(std::errc::not_a_directory), error);
     const QString parent = QFileInfo(QDir::cleanPath(path)).path();
     if (parent != path && !makePath(parent, made, error))
         return false;

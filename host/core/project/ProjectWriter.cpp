@@ -115,11 +115,18 @@ bool ProjectWriter::rescueRemovedScreens(QString* message)
 
 bool ProjectWriter::planScreens(QString* message)
 {
-    for (Screen* screen : m_project->screens()) {
+    const auto screens = m_project->screens();
+    for (Screen* screen : screens) {
         const QString file = ProjectFolder::screenFile(screen->getIdName());
         m_screenFiles.insert(screen, file);
+        // A screen of another name is written anew, so all of these are read before any is looked at as a target.
         const ProjectFiles::ScreenFile* entry = m_files->screenFile(screen);
-        const bool asItStands = entry && entry->file == file && !screen->isContentRead();
+        if (!entry || entry->file != file)
+            screen->readContent();
+    }
+    for (Screen* screen : screens) {
+        const QString file = m_screenFiles.value(screen);
+        const bool asItStands = !screen->isContentRead();
         if (asItStands && m_own)
             continue;
         if (!(asItStands ? planCopy(file, message) : planScreen(screen, file, message)))

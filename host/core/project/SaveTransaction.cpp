@@ -22,6 +22,15 @@ QString subfolderOf(const QString& file)
     return slash < 0 ? QString() : file.left(slash);
 }
 
+/// For the case that a disk takes the new content, does not confirm it, and does not take the old one back either.
+void remainUncertain(QString* message)
+{
+    *message +=
+        QLatin1Char(' ')
+        + LocalizationHelper::coreString(QStringLiteral(
+            "The new content is in place and could not be taken back, but it is not certain that the disk keeps it."));
+}
+
 bool refuse(const QString& path, const QString& reason, QString* message)
 {
     *message = QDir::toNativeSeparators(path) + QLatin1String(": ") + reason;
@@ -178,12 +187,12 @@ bool SaveTransaction::replaceOne(QString* message)
         return end(true);
     // The new file stands there, but may not survive: what stood there before goes back.
     const QString copy = SaveRecovery::oldFile(root, write.file);
-    if (!write.exists) {
-        operations.removeFile(target, nullptr);
-    } else if (operations.makePath(QFileInfo(copy).path(), nullptr, nullptr)
-               && operations.createFile(copy, write.before, nullptr)) {
-        operations.rename(copy, target, nullptr);
-    }
+    const bool takenBack = write.exists ? operations.makePath(QFileInfo(copy).path(), nullptr, nullptr)
+                                              && operations.createFile(copy, write.before, nullptr)
+                                              && operations.rename(copy, target, nullptr)
+                                        : operations.removeFile(target, nullptr);
+    if (!takenBack)
+        remainUncertain(message);
     return end(false);
 }
 
@@ -206,7 +215,10 @@ bool SaveTransaction::replaceAll(QString* message)
                 qWarning("%s", qUtf8Printable(ignored));
             return true;
         }
-        operations.rename(completed, announced, nullptr);
+        if (!operations.rename(completed, announced, nullptr)) {
+            remainUncertain(message);
+            return false;
+        }
     }
     QString reason;
     if (!SaveRecovery(m_folder).run(&reason)) {
