@@ -22,7 +22,8 @@ void loadClasses()
     static CanvasTestFactory factory;
     static const bool loaded = [] {
         QString message;
-        if (!DesignerFactory::instance()->loadPlugin(QStringLiteral(MERIDANE_PLUGIN_DIR "/VisualElements.so"), &message))
+        if (!DesignerFactory::instance()->loadPlugin(QStringLiteral(MERIDANE_PLUGIN_DIR "/VisualElements.so"),
+                                                     &message))
             qFatal("%s", qPrintable(message));
         return DesignerFactory::instance()->addFactory(&factory, QStringLiteral("CanvasTest"));
     }();
@@ -65,8 +66,7 @@ CanvasFixture::~CanvasFixture()
 DesignerObject* CanvasFixture::add(const char* className, const QMap<QString, QString>& properties)
 {
     DesignerObject* added = nullptr;
-    const EditResult result
-        = session->addElement(QString::fromLatin1(className), screen, {}, properties, &added);
+    const EditResult result = session->addElement(QString::fromLatin1(className), screen, {}, properties, &added);
     if (!result.accepted)
         qFatal("%s", qPrintable(result.message));
     stack()->clear();
@@ -75,10 +75,10 @@ DesignerObject* CanvasFixture::add(const char* className, const QMap<QString, QS
 
 DesignerObject* CanvasFixture::addRectangle(const QRectF& content, int border)
 {
-    DesignerObject* rectangle
-        = add("Rectangle", {{QStringLiteral("position"), ValueConversion::toString(content.topLeft())},
-                            {QStringLiteral("size"), ValueConversion::toString(content.size())},
-                            {QStringLiteral("border"), ValueConversion::toString(BorderInfo(border, Qt::black))}});
+    DesignerObject* rectangle =
+        add("Rectangle", {{QStringLiteral("position"), ValueConversion::toString(content.topLeft())},
+                          {QStringLiteral("size"), ValueConversion::toString(content.size())},
+                          {QStringLiteral("border"), ValueConversion::toString(BorderInfo(border, Qt::black))}});
     select({});
     return rectangle;
 }

@@ -27,8 +27,7 @@ bool pointsValidator(const DesignerProperty* property, QString& message)
 
 PointElement::PointElement(QObject* parent)
     : VisualElement(parent)
-{
-}
+{}
 
 GraphicsItem* PointElement::createGraphicsItem()
 {
@@ -55,18 +54,17 @@ bool PointElement::initializeProperties()
                    .rank(10)
                    .allowInvalid()
                    .validator(pointsValidator);
-    m_boundingSize = PropertyDeclaration<SizeProperty>(this, QLatin1String("boundingSize"), QStringLiteral("Size"),
-                                                       QSizeF(1, 1))
-                         .rank(11)
-                         .flags(Shown | Editable)
-                         .allowInvalid();
+    m_boundingSize =
+        PropertyDeclaration<SizeProperty>(this, QLatin1String("boundingSize"), QStringLiteral("Size"), QSizeF(1, 1))
+            .rank(11)
+            .flags(Shown | Editable)
+            .allowInvalid();
     return true;
 }
 
 PointItem::PointItem(DesignerObject* dataObject)
     : GraphicsItem(dataObject, this)
-{
-}
+{}
 
 QRectF PointItem::boundingRect() const
 {
@@ -133,9 +131,9 @@ void PointItem::resizeGraphicsItem(int handle, const QSizeF& outerSize, const QP
     const FrameChange change = frameChange(handle, outerSize);
     const QSizeF before = outerRect().size();
     setItemPosition(change.position);
-    setPoints(QTransform::fromScale(change.outerSize.width() / before.width(),
-                                    change.outerSize.height() / before.height())
-                  .map(m_points));
+    setPoints(
+        QTransform::fromScale(change.outerSize.width() / before.width(), change.outerSize.height() / before.height())
+            .map(m_points));
 }
 
 void PointItem::updateResizedDataObjects(int handle, UndoCommand* parent)

@@ -125,9 +125,9 @@ private Q_SLOTS:
         canvas.set(canvas.screen, "size", QStringLiteral("320,240"));
         canvas.set(canvas.screen, "color", QStringLiteral("#102030"));
         QCOMPARE(canvas.scene()->sceneRect(), QRectF(0, 0, 320, 240));
-        QCOMPARE(canvas.view->grab().toImage().pixelColor(
-                     canvas.view->viewportTransform().map(QPointF(100, 100)).toPoint()),
-                 QColor(0x10, 0x20, 0x30));
+        QCOMPARE(
+            canvas.view->grab().toImage().pixelColor(canvas.view->viewportTransform().map(QPointF(100, 100)).toPoint()),
+            QColor(0x10, 0x20, 0x30));
         QVERIFY(!canvas.scene()->elementAt({100, 100}));
     }
 
@@ -186,7 +186,8 @@ private Q_SLOTS:
         canvas.view->grab();
         const int before = canvas.scene()->bspTreeDepth();
         for (int i = 0; i < 1000; ++i) {
-            DesignerObject* object = DesignerFactory::instance()->createDataObject(QStringLiteral("Rectangle"), nullptr);
+            DesignerObject* object =
+                DesignerFactory::instance()->createDataObject(QStringLiteral("Rectangle"), nullptr);
             QVERIFY(canvas.screen->addListItem(canvas.screen->childList(), object, -1));
         }
         QVERIFY(canvas.scene()->bspTreeDepth() > before);

@@ -163,8 +163,8 @@ private:
     void wheel(int angle, Qt::KeyboardModifiers modifiers)
     {
         const QPointF at(400, 300);
-        QWheelEvent event(at, m_canvas->view->viewport()->mapToGlobal(at), {}, QPoint(0, angle), Qt::NoButton, modifiers,
-                          Qt::NoScrollPhase, false);
+        QWheelEvent event(at, m_canvas->view->viewport()->mapToGlobal(at), {}, QPoint(0, angle), Qt::NoButton,
+                          modifiers, Qt::NoScrollPhase, false);
         QApplication::sendEvent(m_canvas->view->viewport(), &event);
     }
 

@@ -111,7 +111,8 @@ private Q_SLOTS:
     void longWaysDoNotDrift()
     {
         CanvasFixture canvas;
-        DesignerObject* rectangle = canvas.addRectangle(QRectF(200.0 + 1.0 / 3, 150.0 + 1.0 / 7, 100.0 / 3, 200.0 / 7), 3);
+        DesignerObject* rectangle =
+            canvas.addRectangle(QRectF(200.0 + 1.0 / 3, 150.0 + 1.0 / 7, 100.0 / 3, 200.0 / 7), 3);
         canvas.set(rectangle, "keepRatio", QStringLiteral("1.1"));
         canvas.select({rectangle});
         const QRectF before = canvas.outerRect(rectangle);

@@ -9,7 +9,8 @@ using Test::CanvasFixture;
 
 namespace {
 
-struct Action {
+struct Action
+{
     int kind;
     QPointF from;
     QPointF to;
@@ -65,8 +66,8 @@ private Q_SLOTS:
                 const QList<DesignerObject*> elements = canvas.scene()->selectableElements();
                 QPointF from = action.from;
                 if (!elements.isEmpty() && action.kind > 1) {
-                    const QRectF frame
-                        = canvas.graphic(elements.at(int(action.from.x()) % elements.size()))->sceneBoundingRect();
+                    const QRectF frame =
+                        canvas.graphic(elements.at(int(action.from.x()) % elements.size()))->sceneBoundingRect();
                     const int cell = int(action.from.y()) % 9;
                     from = frame.topLeft() + QPointF(frame.width() * (cell % 3), frame.height() * (cell / 3)) / 2;
                 }

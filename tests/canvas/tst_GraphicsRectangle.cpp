@@ -22,7 +22,8 @@ private Q_SLOTS:
         CanvasFixture canvas;
         const GraphicsItem* item = canvas.addRectangle(QRectF(0, 0, 10, 10))->graphicsItem();
         QCOMPARE(item->className(), QStringLiteral("GraphicsRectangle"));
-        QCOMPARE(item->classNames(), QStringList({QStringLiteral("GraphicsItem"), QStringLiteral("GraphicsRectangle")}));
+        QCOMPARE(item->classNames(),
+                 QStringList({QStringLiteral("GraphicsItem"), QStringLiteral("GraphicsRectangle")}));
     }
 
     void theBorderIsHalfOutside()

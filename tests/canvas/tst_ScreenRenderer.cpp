@@ -34,8 +34,7 @@ private Q_SLOTS:
         canvas.addGroup({10, 10}, {rounded});
         canvas.addRectangle(QRectF(-20, 180, 60, 60));
         canvas.view->setZoom(scale);
-        const QRect shown
-            = canvas.view->viewportTransform().mapRect(QRectF(0, 0, 300, 200)).toRect();
+        const QRect shown = canvas.view->viewportTransform().mapRect(QRectF(0, 0, 300, 200)).toRect();
         const QImage view = canvas.view->grab(shown).toImage().convertToFormat(QImage::Format_RGB32);
         const QImage picture = ScreenRenderer::render(canvas.scene(), scale).convertToFormat(QImage::Format_RGB32);
         QCOMPARE(picture.size(), shown.size());

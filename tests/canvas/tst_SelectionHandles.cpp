@@ -75,8 +75,9 @@ private Q_SLOTS:
         // What has been painted bit by bit is what a fresh picture shows.
         for (int i = 0; i < 5; ++i)
             QApplication::processEvents();
-        QCOMPARE(canvas.view->screen()->grabWindow(canvas.view->winId()).toImage().convertToFormat(QImage::Format_RGB32),
-                 canvas.view->grab().toImage().convertToFormat(QImage::Format_RGB32));
+        QCOMPARE(
+            canvas.view->screen()->grabWindow(canvas.view->winId()).toImage().convertToFormat(QImage::Format_RGB32),
+            canvas.view->grab().toImage().convertToFormat(QImage::Format_RGB32));
     }
 
     void aTooSmallElementShowsOnlyTheKnob()
@@ -94,8 +95,9 @@ private Q_SLOTS:
     void pointHandlesAreShown()
     {
         CanvasFixture canvas;
-        DesignerObject* points = canvas.add("PointElement", {{QStringLiteral("position"), QStringLiteral("200,150")},
-            {QStringLiteral("points"), QStringLiteral("0,0 100,0 130,60 0,80")}});
+        DesignerObject* points =
+            canvas.add("PointElement", {{QStringLiteral("position"), QStringLiteral("200,150")},
+                                        {QStringLiteral("points"), QStringLiteral("0,0 100,0 130,60 0,80")}});
         canvas.select({});
         const QImage without = canvas.view->grab().toImage();
         canvas.select({points});

@@ -34,8 +34,7 @@ QPixmap checkerboard()
 
 CanvasBackground::CanvasBackground(const CanvasView* view)
     : m_view(view)
-{
-}
+{}
 
 void CanvasBackground::paintBelow(QPainter* painter) const
 {

@@ -51,15 +51,14 @@ bool isItemKey(const QKeyEvent* event)
         }
     }
     return modifiers == (Qt::AltModifier | Qt::KeypadModifier)
-        && (event->key() == Qt::Key_Plus || event->key() == Qt::Key_Minus);
+           && (event->key() == Qt::Key_Plus || event->key() == Qt::Key_Minus);
 }
 
 } // namespace
 
 CanvasKeys::CanvasKeys(CanvasView* view)
     : m_view(view)
-{
-}
+{}
 
 bool CanvasKeys::overridesShortcut(const QKeyEvent* event) const
 {

@@ -9,6 +9,8 @@
 #include "host/core/canvas/SelectionHandles.h"
 #include "host/core/objects/Screen.h"
 
+#include "host/common/LocalizationHelper.h"
+
 #include <QGraphicsItem>
 #include <QPainter>
 #include <QScrollBar>
@@ -39,6 +41,7 @@ CanvasView::CanvasView(EditSession* session, QWidget* parent)
     setViewportUpdateMode(SmartViewportUpdate);
     setFocusPolicy(Qt::StrongFocus);
     setAcceptDrops(true);
+    setAccessibleName(Common::LocalizationHelper::coreString(QStringLiteral("Canvas")));
     viewport()->setMouseTracking(true);
     viewport()->setAcceptDrops(true);
     connect(m_session, &EditSession::currentScreenChanged, this, &CanvasView::showScreen);

@@ -87,7 +87,8 @@ bool CanvasView::viewportEvent(QEvent* event)
         if (!object && canvasScene() && !m_gesture)
             object = canvasScene()->elementAt(mapToScene(help->pos()));
         if (const GraphicsItem* item = object ? object->graphicsItem() : nullptr)
-            QToolTip::showText(help->globalPos(), m_hovered ? item->graphic()->toolTip() : item->nameToolTip(), viewport());
+            QToolTip::showText(help->globalPos(), m_hovered ? item->graphic()->toolTip() : item->nameToolTip(),
+                               viewport());
         else
             QToolTip::hideText();
         return true;

@@ -20,8 +20,7 @@ using Common::LocalizationHelper;
 EditGesture::EditGesture(CanvasView* view, const CanvasPointer& press)
     : Gesture(view)
     , m_press(press)
-{
-}
+{}
 
 EditGesture::~EditGesture() = default;
 

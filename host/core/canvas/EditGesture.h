@@ -48,7 +48,7 @@ protected:
     /// Has the items write their state: every property of every object by rank.
     virtual void fill(UndoCommand* parent) const;
     /// Runs before the step is made and after everything was put back.
-    virtual void end() { }
+    virtual void end() {}
 
 private:
     CanvasPointer m_press;

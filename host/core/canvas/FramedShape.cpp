@@ -21,8 +21,7 @@ QPen penOf(const BorderInfo& border)
 FramedShape::FramedShape()
     : m_brush(QColor(248, 151, 29))
     , m_pen(Qt::NoPen)
-{
-}
+{}
 
 int FramedShape::penWidth() const
 {
@@ -70,7 +69,7 @@ bool operator==(const FramedShape& a, const FramedShape& b)
 {
     // Sizes are compared exactly: what is drawn is what the property says.
     return a.m_size.width() == b.m_size.width() && a.m_size.height() == b.m_size.height() && a.m_brush == b.m_brush
-        && a.m_pen == b.m_pen;
+           && a.m_pen == b.m_pen;
 }
 
 } // namespace Korvex::Meridane::Designer

@@ -12,7 +12,8 @@ namespace Korvex::Meridane::Designer {
 class CanvasView;
 
 /// Where the mouse is, in pixels of the screen that is designed and in those of the viewport, and the keys held down.
-struct CanvasPointer {
+struct CanvasPointer
+{
     QPointF scenePos;
     QPointF viewPos;
     Qt::KeyboardModifiers modifiers;
@@ -27,8 +28,7 @@ class Gesture
 public:
     explicit Gesture(CanvasView* view)
         : m_view(view)
-    {
-    }
+    {}
     virtual ~Gesture() = default;
     Q_DISABLE_COPY_MOVE(Gesture)
 
@@ -40,7 +40,7 @@ public:
     /// The geometry that finish() would give, for the user; empty for none.
     [[nodiscard]] virtual QString readout() const { return {}; }
     /// Draws what only the gesture shows, in viewport pixels.
-    virtual void paint(QPainter*) const { }
+    virtual void paint(QPainter*) const {}
     /// The viewport rectangle that paint() draws in.
     [[nodiscard]] virtual QRect paintedRect() const { return {}; }
     /// Whether the undo history has to wait for the gesture's end.

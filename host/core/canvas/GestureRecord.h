@@ -28,12 +28,14 @@ public:
     void fill(qsizetype index, UndoCommand* parent) const;
 
 private:
-    struct Value {
+    struct Value
+    {
         QSharedPointer<DesignerProperty> property;
         QString text;
         QString itemText; ///< for a text that does not convert: what the item would write in its place, else null
     };
-    struct Entry {
+    struct Entry
+    {
         QPointer<DesignerObject> object;
         std::vector<Value> values;
     };

@@ -8,8 +8,7 @@ namespace Korvex::Meridane::Designer {
 
 GraphicsGroup::GraphicsGroup(DesignerObject* dataObject)
     : GraphicsItem(dataObject, this)
-{
-}
+{}
 
 GraphicsGroup::~GraphicsGroup() = default;
 

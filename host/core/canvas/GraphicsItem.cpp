@@ -35,8 +35,7 @@ QString boundingSizeId()
 GraphicsItem::GraphicsItem(DesignerObject* dataObject, QGraphicsItem* graphic)
     : m_dataObject(dataObject)
     , m_graphic(graphic)
-{
-}
+{}
 
 GraphicsItem::~GraphicsItem()
 {
@@ -109,6 +108,8 @@ UndoCommand* GraphicsItem::updateDataObject(const QSharedPointer<DesignerPropert
         return writeBack(property, ValueConversion::toString(m_graphic->pos()), parent);
     if (property->id() == QLatin1String("rotation")) {
         RotationInfo rotation = ValueConversion::toRotationInfo(property->valueString());
+        if (property->isConverted() && rotation.angle() == m_graphic->rotation())
+            return nullptr;
         rotation.setAngle(m_graphic->rotation());
         return writeBack(property, ValueConversion::toString(rotation), parent);
     }
@@ -181,7 +182,7 @@ void GraphicsItem::resizeByMouse(int handle, const QPointF& scenePos)
     resizeGraphicsItem(handle, size, withoutNoise(position + kept.topLeft() - frame.topLeft()));
 }
 
-void GraphicsItem::resizeGraphicsItem(int, const QSizeF&, const QPointF&) { }
+void GraphicsItem::resizeGraphicsItem(int, const QSizeF&, const QPointF&) {}
 
 void GraphicsItem::updateResizedDataObjects(int, UndoCommand* parent)
 {
@@ -196,7 +197,7 @@ void GraphicsItem::rotateByMouse(double angle)
     setItemRotation(angle);
 }
 
-void GraphicsItem::selectedChanged(bool) { }
+void GraphicsItem::selectedChanged(bool) {}
 
 double GraphicsItem::minSize() const
 {
@@ -210,8 +211,8 @@ QRectF GraphicsItem::outerRect() const
 
 QRectF GraphicsItem::contentRect() const
 {
-    const auto size = m_dataObject ? m_dataObject->getProperty(QStringLiteral("size"))
-                                   : QSharedPointer<DesignerProperty>();
+    const auto size =
+        m_dataObject ? m_dataObject->getProperty(QStringLiteral("size")) : QSharedPointer<DesignerProperty>();
     bool ok = false;
     const QSizeF content = size ? ValueConversion::toSize(size->valueString(), &ok) : QSizeF();
     return ok ? QRectF(QPointF(0, 0), content) : outerRect();
@@ -227,7 +228,7 @@ QVector<QPointF> GraphicsItem::pointHandles() const
     return {};
 }
 
-void GraphicsItem::childOutlineChanged() { }
+void GraphicsItem::childOutlineChanged() {}
 
 DesignerObject* GraphicsItem::dataObject() const
 {
@@ -263,8 +264,8 @@ void GraphicsItem::reportOuterSize()
 {
     updateTransformOrigin();
     tellParent();
-    const auto property = m_dataObject ? m_dataObject->getProperty(boundingSizeId())
-                                       : QSharedPointer<DesignerProperty>();
+    const auto property =
+        m_dataObject ? m_dataObject->getProperty(boundingSizeId()) : QSharedPointer<DesignerProperty>();
     const QString text = outerSizeText(property);
     if (text.isNull())
         return;
@@ -277,8 +278,8 @@ void GraphicsItem::fillOuterSize()
 {
     updateTransformOrigin();
     tellParent();
-    const auto property = m_dataObject ? m_dataObject->getProperty(boundingSizeId())
-                                       : QSharedPointer<DesignerProperty>();
+    const auto property =
+        m_dataObject ? m_dataObject->getProperty(boundingSizeId()) : QSharedPointer<DesignerProperty>();
     const QString text = outerSizeText(property);
     if (!text.isNull())
         property->fill(text);
@@ -388,8 +389,8 @@ void GraphicsItem::updateTransformOrigin()
 
 double GraphicsItem::keptRatio() const
 {
-    const auto property = m_dataObject ? m_dataObject->getProperty(QStringLiteral("keepRatio"))
-                                       : QSharedPointer<DesignerProperty>();
+    const auto property =
+        m_dataObject ? m_dataObject->getProperty(QStringLiteral("keepRatio")) : QSharedPointer<DesignerProperty>();
     bool ok = false;
     const double ratio = property ? ValueConversion::toReal(property->valueString(), &ok) : 0;
     return ok && ratio > 0 ? ratio : 0;
@@ -405,11 +406,11 @@ UndoCommand* GraphicsItem::writeBack(const QSharedPointer<DesignerProperty>& pro
 
 QPainterPath GraphicsItem::rotatedShape(const QPainterPath& outline) const
 {
-    const auto property = m_dataObject ? m_dataObject->getProperty(QStringLiteral("rotation"))
-                                       : QSharedPointer<DesignerProperty>();
+    const auto property =
+        m_dataObject ? m_dataObject->getProperty(QStringLiteral("rotation")) : QSharedPointer<DesignerProperty>();
     bool ok = false;
-    const RotationInfo rotation
-        = property ? ValueConversion::toRotationInfo(property->valueString(), &ok) : RotationInfo();
+    const RotationInfo rotation =
+        property ? ValueConversion::toRotationInfo(property->valueString(), &ok) : RotationInfo();
     if (!ok)
         return outline;
     return rotatedPath(outline, transformOriginFromName(rotation.fixedPoint()), contentRect(), rotation.angle());

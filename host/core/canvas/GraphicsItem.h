@@ -5,8 +5,8 @@
 #include "host/common/TransformOrigin.h"
 
 #include <QPainterPath>
-#include <QPointer>
 #include <QPointF>
+#include <QPointer>
 #include <QRectF>
 #include <QSharedPointer>
 #include <QVector>
@@ -127,7 +127,8 @@ protected:
     GraphicsItem(DesignerObject* dataObject, QGraphicsItem* graphic);
 
     /// What a frame resize comes to: the new outer size and the item position that belongs to it.
-    struct FrameChange {
+    struct FrameChange
+    {
         QSizeF outerSize;
         QPointF position;
     };

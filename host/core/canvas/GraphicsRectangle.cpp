@@ -14,8 +14,7 @@ using Common::PaintHelper;
 
 GraphicsRectangle::GraphicsRectangle(DesignerObject* dataObject)
     : GraphicsItem(dataObject, this)
-{
-}
+{}
 
 GraphicsRectangle::~GraphicsRectangle() = default;
 

@@ -17,8 +17,7 @@ MoveGesture::MoveGesture(CanvasView* view, const CanvasPointer& press, DesignerO
     : EditGesture(view, press)
     , m_grabbed(grabbed)
     , m_click(click)
-{
-}
+{}
 
 MoveGesture::~MoveGesture() = default;
 

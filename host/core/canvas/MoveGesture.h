@@ -12,7 +12,8 @@ class MoveGesture : public EditGesture
 {
 public:
     /// What a click on the grabbed element comes to.
-    enum class Click {
+    enum class Click
+    {
         Nothing,
         SelectAlone, ///< of several selected elements only this one stays selected
         Deselect, ///< a click with Ctrl or Shift on a selected element

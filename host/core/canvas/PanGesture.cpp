@@ -10,8 +10,7 @@ PanGesture::PanGesture(CanvasView* view, const CanvasPointer& press)
     : Gesture(view)
     , m_press(press.viewPos)
     , m_scrolled(view->horizontalScrollBar()->value(), view->verticalScrollBar()->value())
-{
-}
+{}
 
 PanGesture::~PanGesture() = default;
 

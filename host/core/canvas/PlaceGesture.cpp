@@ -33,8 +33,7 @@ PlaceGesture::PlaceGesture(CanvasView* view, const CanvasPointer& press, const Q
     , m_press(press)
     , m_now(press)
     , m_className(className)
-{
-}
+{}
 
 PlaceGesture::~PlaceGesture() = default;
 
@@ -58,7 +57,7 @@ void PlaceGesture::finish(const CanvasPointer& pointer)
     Q_EMIT canvas->placementFinished();
 }
 
-void PlaceGesture::cancel() { }
+void PlaceGesture::cancel() {}
 
 QString PlaceGesture::readout() const
 {
@@ -107,8 +106,7 @@ void PlaceGesture::place(CanvasView* view, const QString& className, const QPoin
     const QString boundingSize = QStringLiteral("boundingSize");
     QMap<QString, QString> properties = {{QStringLiteral("position"), ValueConversion::toString(position)}};
     if (!size.isEmpty()) {
-        const std::unique_ptr<DesignerObject> sample(
-            DesignerFactory::instance()->createDataObject(className, nullptr));
+        const std::unique_ptr<DesignerObject> sample(DesignerFactory::instance()->createDataObject(className, nullptr));
         if (sample && sample->getProperty(boundingSize))
             properties.insert(boundingSize, ValueConversion::toString(size));
     }

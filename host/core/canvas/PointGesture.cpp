@@ -12,8 +12,7 @@ PointGesture::PointGesture(CanvasView* view, const CanvasPointer& press, Designe
     : EditGesture(view, press)
     , m_object(object)
     , m_handle(handle)
-{
-}
+{}
 
 PointGesture::~PointGesture() = default;
 
@@ -25,8 +24,8 @@ void PointGesture::move(const CanvasPointer& pointer)
     begin({m_object});
     m_object->graphicsItem()->setChangingSize(true);
     const QPointF there = view()->zoom() == 1
-        ? pointer.scenePos
-        : QPointF(std::round(pointer.scenePos.x()), std::round(pointer.scenePos.y()));
+                              ? pointer.scenePos
+                              : QPointF(std::round(pointer.scenePos.x()), std::round(pointer.scenePos.y()));
     m_object->graphicsItem()->resizeByMouse(m_handle, there);
 }
 

@@ -34,8 +34,7 @@ RotateGesture::RotateGesture(CanvasView* view, const CanvasPointer& press, Desig
     , m_object(object)
     , m_center(object->graphicsItem()->graphic()->mapToScene(object->graphicsItem()->fixedPoint()))
     , m_startAngle(object->graphicsItem()->graphic()->rotation())
-{
-}
+{}
 
 RotateGesture::~RotateGesture() = default;
 

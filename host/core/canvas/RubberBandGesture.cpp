@@ -27,8 +27,7 @@ void RubberBandGesture::move(const CanvasPointer& pointer)
     CanvasScene* scene = view()->canvasScene();
     if (!scene || paintedRect().isEmpty())
         return;
-    QList<DesignerObject*> selected
-        = scene->elementsIn(QRectF(m_press.scenePos, m_now.scenePos).normalized());
+    QList<DesignerObject*> selected = scene->elementsIn(QRectF(m_press.scenePos, m_now.scenePos).normalized());
     if (m_press.modifiers & (Qt::ControlModifier | Qt::ShiftModifier)) {
         for (const auto& object : std::as_const(m_selectedBefore)) {
             if (object)

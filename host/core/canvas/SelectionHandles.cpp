@@ -53,8 +53,7 @@ QPointF onPixel(const QPointF& point)
 
 SelectionHandles::SelectionHandles(const CanvasView* view)
     : m_view(view)
-{
-}
+{}
 
 HandleHit SelectionHandles::hit(const QPointF& scenePos) const
 {

@@ -13,8 +13,15 @@ class DesignerObject;
 class GraphicsItem;
 
 /// A handle of a selected element under the mouse.
-struct HandleHit {
-    enum class Kind { None, Point, Frame, Rotation };
+struct HandleHit
+{
+    enum class Kind
+    {
+        None,
+        Point,
+        Frame,
+        Rotation
+    };
 
     Kind kind = Kind::None;
     QPointer<DesignerObject> object;
@@ -45,7 +52,8 @@ public:
     [[nodiscard]] QRegion region() const;
 
 private:
-    struct Marks {
+    struct Marks
+    {
         QList<QPointF> squares;
         QList<QPointF> dots;
         QPointF knobFoot; ///< where the knob's stem stands
