@@ -1,0 +1,8 @@
+#include "runtime/Group.h"
+
+namespace Korvex::Meridane::Display
+{
+Group::Group(QQuickItem *parent) : DisplayElement(parent)
+{
+}
+}

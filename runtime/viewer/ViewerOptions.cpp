@@ -1,0 +1,51 @@
+#include "runtime/viewer/ViewerOptions.h"
+
+#include <QtCore/QCommandLineParser>
+
+namespace Korvex::Meridane::Display
+{
+ViewerOptions parseViewerOptions(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Runs an exported display."));
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help."));
+    const QCommandLineOption screen(QStringLiteral("screen"), QStringLiteral("Show the screen ID instead of the first."),
+                                    QStringLiteral("ID"));
+    const QCommandLineOption grab(QStringLiteral("grab"),
+                                  QStringLiteral("Save one frame of the running display as FILE and exit."),
+                                  QStringLiteral("FILE.png"));
+    const QCommandLineOption import(QStringLiteral("import"), QStringLiteral("Look for QML modules in PATH, too."),
+                                    QStringLiteral("PATH"));
+    parser.addOptions({help, screen, grab, import});
+    parser.addPositionalArgument(QStringLiteral("FOLDER"), QStringLiteral("The exported folder: it holds Main.qml."));
+
+    ViewerOptions options;
+    const bool parsed = parser.parse(arguments);
+    if (parser.isSet(help)) {
+        options.result = ViewerOptions::Result::Help;
+        options.message = parser.helpText();
+        return options;
+    }
+    if (!parsed) {
+        options.message = parser.errorText();
+        return options;
+    }
+    const QStringList folders = parser.positionalArguments();
+    if (folders.size() != 1) {
+        options.message = folders.isEmpty() ? QStringLiteral("The folder of the export is missing.")
+                                            : QStringLiteral("There is more than one folder: %1")
+                                                  .arg(folders.join(QLatin1String(", ")));
+        return options;
+    }
+    if (parser.isSet(grab) && parser.value(grab).isEmpty()) {
+        options.message = QStringLiteral("The file of --grab is missing.");
+        return options;
+    }
+    options.result = ViewerOptions::Result::Run;
+    options.folder = folders.constFirst();
+    options.screen = parser.value(screen);
+    options.grabFile = parser.value(grab);
+    options.importPaths = parser.values(import);
+    return options;
+}
+}
