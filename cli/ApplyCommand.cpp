@@ -58,7 +58,7 @@ bool ApplyCommand::applyEdits(ApplySession& session, const QJsonArray& edits, St
 {
     bool allAccepted = true;
     int number = 0;
-    for (const QJsonValue& edit : edits) {
+    for (const QJsonValue edit : edits) {
         ++number;
         QString op;
         const ApplyResult result = ApplyOperations::apply(session, edit, &op);

@@ -65,7 +65,7 @@ QString graphicsItemName(DesignerObject& object)
     GraphicsItem* item = object.createGraphicsItem();
     if (!item)
         return {};
-    const QString name = item->className();
+    QString name = item->className();
     // Both parts of an item are one object, and without a scene it is ours.
     delete item->graphic();
     return name;

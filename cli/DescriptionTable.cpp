@@ -76,7 +76,7 @@ QString table(const Column (&columns)[count], const QJsonArray& entries)
     QVector<QStringList> rows(1);
     for (const Column& column : columns)
         rows[0].append(QLatin1String(column.heading));
-    for (const QJsonValue& entry : entries) {
+    for (const QJsonValue entry : entries) {
         QStringList row;
         for (const Column& column : columns)
             row.append(cell(entry.toObject().value(QLatin1String(column.key))));
@@ -104,7 +104,7 @@ QString table(const Column (&columns)[count], const QJsonArray& entries)
 QString DescriptionTable::text(const QJsonArray& classes)
 {
     QString text;
-    for (const QJsonValue& entry : classes) {
+    for (const QJsonValue entry : classes) {
         const QJsonObject description = entry.toObject();
         const auto field = [&description](const char* key) { return cell(description.value(QLatin1String(key))); };
         if (!text.isEmpty())

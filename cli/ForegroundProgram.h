@@ -5,8 +5,6 @@
 
 #include <csignal>
 
-#include <signal.h>
-
 namespace Korvex::Meridane::Designer {
 
 /**

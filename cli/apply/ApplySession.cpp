@@ -177,7 +177,7 @@ void ApplySession::requireReadable(const Screen* screen, EditArguments& argument
 
 QString ApplySession::newId(EditArguments& arguments)
 {
-    const QString id = arguments.text(QLatin1String("id"));
+    QString id = arguments.text(QLatin1String("id"));
     QString reason;
     if (!arguments.hasError() && !isQmlIdentifier(id, &reason)) {
         arguments.refuse(

@@ -24,7 +24,7 @@ QJsonValue EditArguments::value(QLatin1String name)
 
 QJsonValue EditArguments::requiredValue(QLatin1String name)
 {
-    const QJsonValue given = value(name);
+    QJsonValue given = value(name);
     if (given.isUndefined())
         refuse(LocalizationHelper::coreString(QStringLiteral("The argument \"%1\" is missing.")).arg(name));
     return given;
@@ -105,7 +105,7 @@ QList<QPointF> EditArguments::optionalPoints(QLatin1String name)
         refuseType(name, LocalizationHelper::coreString(QStringLiteral("a list of points [[x, y], …]")));
     QList<QPointF> points;
     const QJsonArray entries = given.toArray();
-    for (const QJsonValue& entry : entries)
+    for (const QJsonValue entry : entries)
         points.append(toPoint(entry, name));
     return points;
 }
@@ -118,7 +118,7 @@ QStringList EditArguments::optionalTexts(QLatin1String name)
     bool ok = given.isArray();
     QStringList texts;
     const QJsonArray entries = given.toArray();
-    for (const QJsonValue& entry : entries) {
+    for (const QJsonValue entry : entries) {
         ok = ok && entry.isString();
         texts.append(entry.toString());
     }
