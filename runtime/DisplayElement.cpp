@@ -4,14 +4,14 @@
 
 #include <QtQml/QQmlInfo>
 
-namespace Korvex::Meridane::Display
-{
+namespace Korvex::Meridane::Display {
 // The two enumerations number the nine points alike, which lets one be cast to the other.
 static_assert(static_cast<int>(QQuickItem::TopLeft) == Common::TopLeft);
 static_assert(static_cast<int>(QQuickItem::Center) == Common::Center);
 static_assert(static_cast<int>(QQuickItem::BottomRight) == Common::BottomRight);
 
-DisplayElement::DisplayElement(QQuickItem *parent) : QQuickItem(parent)
+DisplayElement::DisplayElement(QQuickItem* parent)
+    : QQuickItem(parent)
 {
     connect(this, &QQuickItem::transformOriginChanged, this, &DisplayElement::fixedPointChanged);
 }
@@ -21,7 +21,7 @@ QString DisplayElement::fixedPoint() const
     return Common::transformOriginName(static_cast<Common::TransformOrigin>(transformOrigin()));
 }
 
-void DisplayElement::setFixedPoint(const QString &name)
+void DisplayElement::setFixedPoint(const QString& name)
 {
     bool ok = false;
     const Common::TransformOrigin origin = Common::transformOriginFromName(name, &ok);
@@ -31,4 +31,4 @@ void DisplayElement::setFixedPoint(const QString &name)
     }
     setTransformOrigin(static_cast<TransformOrigin>(origin));
 }
-}
+} // namespace Korvex::Meridane::Display

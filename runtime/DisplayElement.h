@@ -3,8 +3,7 @@
 #include <QtQml/qqmlregistration.h>
 #include <QtQuick/QQuickItem>
 
-namespace Korvex::Meridane::Display
-{
+namespace Korvex::Meridane::Display {
 /** Base of everything on a screen that can be turned: a QQuickItem whose fixed point of rotation goes by its name. */
 class DisplayElement : public QQuickItem
 {
@@ -17,12 +16,12 @@ class DisplayElement : public QQuickItem
     QML_ANONYMOUS
 
 public:
-    explicit DisplayElement(QQuickItem *parent = nullptr);
+    explicit DisplayElement(QQuickItem* parent = nullptr);
 
     [[nodiscard]] QString fixedPoint() const;
-    void setFixedPoint(const QString &name);
+    void setFixedPoint(const QString& name);
 
 Q_SIGNALS:
     void fixedPointChanged();
 };
-}
+} // namespace Korvex::Meridane::Display

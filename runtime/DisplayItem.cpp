@@ -4,11 +4,11 @@
 
 #include <QtQuick/QQuickWindow>
 
-namespace Korvex::Meridane::Display
-{
-DisplayItem::DisplayItem(QQuickItem *parent) : DisplayElement(parent), m_painter(new OutlinePainter(this))
-{
-}
+namespace Korvex::Meridane::Display {
+DisplayItem::DisplayItem(QQuickItem* parent)
+    : DisplayElement(parent)
+    , m_painter(new OutlinePainter(this))
+{}
 
 void DisplayItem::contentChanged()
 {
@@ -23,7 +23,7 @@ void DisplayItem::componentComplete()
     contentChanged();
 }
 
-void DisplayItem::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
+void DisplayItem::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry)
 {
     DisplayElement::geometryChange(newGeometry, oldGeometry);
     if (newGeometry.size() != oldGeometry.size()) {
@@ -31,7 +31,7 @@ void DisplayItem::geometryChange(const QRectF &newGeometry, const QRectF &oldGeo
     }
 }
 
-void DisplayItem::itemChange(ItemChange change, const ItemChangeData &value)
+void DisplayItem::itemChange(ItemChange change, const ItemChangeData& value)
 {
     if (change == ItemSceneChange) {
         if (m_window) {
@@ -62,8 +62,7 @@ void DisplayItem::placePainter()
     const QTransform itemToScene = itemTransform(nullptr, nullptr);
     const double pixelRatio = m_window->effectiveDevicePixelRatio();
     const QSizeF windowSize = m_window->size();
-    if (!m_contentChanged && itemToScene == m_itemToScene && pixelRatio == m_pixelRatio
-        && windowSize == m_windowSize) {
+    if (!m_contentChanged && itemToScene == m_itemToScene && pixelRatio == m_pixelRatio && windowSize == m_windowSize) {
         return;
     }
     m_contentChanged = false;
@@ -72,4 +71,4 @@ void DisplayItem::placePainter()
     m_windowSize = windowSize;
     m_painter->place(Display::placePainter(outerRect(), itemToScene, pixelRatio, windowSize));
 }
-}
+} // namespace Korvex::Meridane::Display

@@ -10,8 +10,7 @@ QT_BEGIN_NAMESPACE
 class QPainter;
 QT_END_NAMESPACE
 
-namespace Korvex::Meridane::Display
-{
+namespace Korvex::Meridane::Display {
 class OutlinePainter;
 
 /**
@@ -32,7 +31,7 @@ class DisplayItem : public Korvex::Meridane::Display::DisplayElement
     QML_ANONYMOUS
 
 public:
-    explicit DisplayItem(QQuickItem *parent = nullptr);
+    explicit DisplayItem(QQuickItem* parent = nullptr);
 
 protected:
     /** The rectangle, in item coordinates, outside which paintContent() draws nothing; empty when it draws nothing. */
@@ -42,14 +41,14 @@ protected:
      * Draws the element in item coordinates. Called while the scene is rendered, maybe on another thread, but then the
      * item's own thread waits.
      */
-    virtual void paintContent(QPainter *painter) const = 0;
+    virtual void paintContent(QPainter* painter) const = 0;
 
     /** To be called when what is painted, or the outer rectangle, may have changed. */
     void contentChanged();
 
     void componentComplete() override;
-    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
-    void itemChange(ItemChange change, const ItemChangeData &value) override;
+    void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override;
+    void itemChange(ItemChange change, const ItemChangeData& value) override;
     void updatePolish() override;
 
 private:
@@ -57,11 +56,11 @@ private:
 
     void placePainter();
 
-    OutlinePainter *m_painter;
+    OutlinePainter* m_painter;
     QPointer<QQuickWindow> m_window;
     bool m_contentChanged = true;
     QTransform m_itemToScene;
     double m_pixelRatio = 0;
     QSizeF m_windowSize;
 };
-}
+} // namespace Korvex::Meridane::Display

@@ -11,19 +11,18 @@
 
 #include <memory>
 
-namespace Korvex::Meridane::Display
-{
-namespace
-{
+namespace Korvex::Meridane::Display {
+namespace {
 /** True for the name of a file of its own: what comes from a project never leads out of the folder of the screens. */
-bool isFileName(const QString &name)
+bool isFileName(const QString& name)
 {
     return !name.isEmpty() && !name.startsWith(QLatin1Char('.')) && !name.contains(QLatin1Char('/'))
            && !name.contains(QLatin1Char('\\'));
 }
-}
+} // namespace
 
-DisplayRoot::DisplayRoot(QQuickItem *parent) : QQuickItem(parent)
+DisplayRoot::DisplayRoot(QQuickItem* parent)
+    : QQuickItem(parent)
 {
     setImplicitSize(800, 480);
 }
@@ -33,7 +32,7 @@ QStringList DisplayRoot::screens() const
     return m_screens;
 }
 
-void DisplayRoot::setScreens(const QStringList &screens)
+void DisplayRoot::setScreens(const QStringList& screens)
 {
     if (screens == m_screens) {
         return;
@@ -48,7 +47,7 @@ QString DisplayRoot::currentScreen() const
     return m_currentScreen;
 }
 
-void DisplayRoot::setCurrentScreen(const QString &screen)
+void DisplayRoot::setCurrentScreen(const QString& screen)
 {
     if (screen == m_currentScreen) {
         return;
@@ -62,7 +61,7 @@ void DisplayRoot::setCurrentScreen(const QString &screen)
     updateScreen();
 }
 
-QQuickItem *DisplayRoot::screenItem() const
+QQuickItem* DisplayRoot::screenItem() const
 {
     return m_screenItem;
 }
@@ -104,17 +103,17 @@ void DisplayRoot::updateScreen()
 
 void DisplayRoot::loadFonts()
 {
-    const QQmlContext *context = qmlContext(this);
+    const QQmlContext* context = qmlContext(this);
     if (!context) {
         return;
     }
     // A font stays known for as long as the program runs.
     static QSet<QString> known;
     const QDir folder(QQmlFile::urlToLocalFileOrQrc(context->resolvedUrl(QUrl(QStringLiteral("fonts")))));
-    const QStringList files = folder.entryList({QStringLiteral("*.ttf"), QStringLiteral("*.otf"),
-                                                QStringLiteral("*.ttc"), QStringLiteral("*.otc")},
-                                               QDir::Files, QDir::Name);
-    for (const QString &file : files) {
+    const QStringList files = folder.entryList(
+        {QStringLiteral("*.ttf"), QStringLiteral("*.otf"), QStringLiteral("*.ttc"), QStringLiteral("*.otc")},
+        QDir::Files, QDir::Name);
+    for (const QString& file : files) {
         const QString path = folder.absoluteFilePath(file);
         if (known.contains(path)) {
             continue;
@@ -127,9 +126,9 @@ void DisplayRoot::loadFonts()
     }
 }
 
-QQuickItem *DisplayRoot::loadScreen(const QString &name)
+QQuickItem* DisplayRoot::loadScreen(const QString& name)
 {
-    QQmlContext *context = qmlContext(this);
+    QQmlContext* context = qmlContext(this);
     if (!context) {
         return nullptr;
     }
@@ -145,7 +144,7 @@ QQuickItem *DisplayRoot::loadScreen(const QString &name)
         qmlWarning(this, component.errors()) << "the screen \"" << name << "\" cannot be loaded";
         return nullptr;
     }
-    auto *item = qobject_cast<QQuickItem *>(object.get());
+    auto* item = qobject_cast<QQuickItem*>(object.get());
     if (!item) {
         qmlWarning(this) << "the screen \"" << name << "\" is nothing that can be shown";
         return nullptr;
@@ -154,4 +153,4 @@ QQuickItem *DisplayRoot::loadScreen(const QString &name)
     item->setParentItem(this);
     return item;
 }
-}
+} // namespace Korvex::Meridane::Display

@@ -5,8 +5,7 @@
 #include <QtQml/qqmlregistration.h>
 #include <QtQuick/QQuickItem>
 
-namespace Korvex::Meridane::Display
-{
+namespace Korvex::Meridane::Display {
 /**
  * The root of an export: it shows one of the export's screens at a time. In QML it is used as Display, by way of
  * Display.qml.
@@ -25,15 +24,15 @@ class DisplayRoot : public QQuickItem
     QML_ELEMENT
 
 public:
-    explicit DisplayRoot(QQuickItem *parent = nullptr);
+    explicit DisplayRoot(QQuickItem* parent = nullptr);
 
     [[nodiscard]] QStringList screens() const;
-    void setScreens(const QStringList &screens);
+    void setScreens(const QStringList& screens);
     [[nodiscard]] QString currentScreen() const;
-    void setCurrentScreen(const QString &screen);
+    void setCurrentScreen(const QString& screen);
 
     /** The loaded root of the current screen, owned by the display; null when there is none. */
-    [[nodiscard]] QQuickItem *screenItem() const;
+    [[nodiscard]] QQuickItem* screenItem() const;
 
 Q_SIGNALS:
     void screensChanged();
@@ -46,11 +45,11 @@ private:
     void updateScreen();
     void loadFonts();
     /** Loads the screen called @p name; null, after a warning, when that is not possible. */
-    QQuickItem *loadScreen(const QString &name);
+    QQuickItem* loadScreen(const QString& name);
 
     QStringList m_screens;
     QString m_currentScreen;
     QString m_shownScreen;
     QPointer<QQuickItem> m_screenItem;
 };
-}
+} // namespace Korvex::Meridane::Display

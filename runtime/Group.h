@@ -2,8 +2,7 @@
 
 #include "runtime/DisplayElement.h"
 
-namespace Korvex::Meridane::Display
-{
+namespace Korvex::Meridane::Display {
 /** Elements that are placed, turned, shown and hidden together. Its children's coordinates are relative to it. */
 class Group : public Korvex::Meridane::Display::DisplayElement
 {
@@ -11,6 +10,6 @@ class Group : public Korvex::Meridane::Display::DisplayElement
     QML_ELEMENT
 
 public:
-    explicit Group(QQuickItem *parent = nullptr);
+    explicit Group(QQuickItem* parent = nullptr);
 };
-}
+} // namespace Korvex::Meridane::Display

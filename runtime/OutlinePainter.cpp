@@ -4,22 +4,23 @@
 
 #include <QtGui/QPainter>
 
-namespace Korvex::Meridane::Display
-{
-OutlinePainter::OutlinePainter(DisplayItem *item) : QQuickPaintedItem(item), m_item(item)
+namespace Korvex::Meridane::Display {
+OutlinePainter::OutlinePainter(DisplayItem* item)
+    : QQuickPaintedItem(item)
+    , m_item(item)
 {
     setTransformOrigin(TopLeft);
     setAntialiasing(true);
     setZ(-1);
 }
 
-void OutlinePainter::place(const PainterPlacement &placement)
+void OutlinePainter::place(const PainterPlacement& placement)
 {
     if (placement == m_placement) {
         return;
     }
-    const bool samePixels = placement.size == m_placement.size
-                            && placement.contentToPainter == m_placement.contentToPainter;
+    const bool samePixels =
+        placement.size == m_placement.size && placement.contentToPainter == m_placement.contentToPainter;
     m_placement = placement;
     setPosition(placement.position);
     setSize(placement.size);
@@ -32,9 +33,9 @@ void OutlinePainter::place(const PainterPlacement &placement)
     }
 }
 
-void OutlinePainter::paint(QPainter *painter)
+void OutlinePainter::paint(QPainter* painter)
 {
     painter->setTransform(m_placement.contentToPainter, true);
     m_item->paintContent(painter);
 }
-}
+} // namespace Korvex::Meridane::Display

@@ -4,8 +4,7 @@
 
 #include <QtQuick/QQuickPaintedItem>
 
-namespace Korvex::Meridane::Display
-{
+namespace Korvex::Meridane::Display {
 class DisplayItem;
 
 /**
@@ -18,15 +17,15 @@ class OutlinePainter : public QQuickPaintedItem
 
 public:
     /** A painter of @p item, which becomes its parent and owner. */
-    explicit OutlinePainter(DisplayItem *item);
+    explicit OutlinePainter(DisplayItem* item);
 
     /** Moves to @p placement; the picture is painted anew when that changes its pixels. */
-    void place(const PainterPlacement &placement);
+    void place(const PainterPlacement& placement);
 
-    void paint(QPainter *painter) override;
+    void paint(QPainter* painter) override;
 
 private:
-    DisplayItem *m_item;
+    DisplayItem* m_item;
     PainterPlacement m_placement;
 };
-}
+} // namespace Korvex::Meridane::Display

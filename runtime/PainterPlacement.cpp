@@ -4,10 +4,8 @@
 
 #include <cmath>
 
-namespace Korvex::Meridane::Display
-{
-namespace
-{
+namespace Korvex::Meridane::Display {
+namespace {
 /** What counts as being on a pixel's edge already, in pixels: far below what a shade of 8 bits can show. */
 constexpr double EdgeTolerance = 1e-4;
 
@@ -15,7 +13,7 @@ constexpr double EdgeTolerance = 1e-4;
 constexpr double LargestUncutWindows = 2;
 
 /** True when @p transform keeps shapes: it moves, turns and scales both axes alike, without mirroring. */
-bool keepsShapes(const QTransform &transform)
+bool keepsShapes(const QTransform& transform)
 {
     const double scale = std::hypot(transform.m11(), transform.m12());
     const double tolerance = 1e-9 * scale;
@@ -24,7 +22,7 @@ bool keepsShapes(const QTransform &transform)
            && std::abs(transform.m12() + transform.m21()) <= tolerance;
 }
 
-QRectF roundedOut(const QRectF &rect, int margin)
+QRectF roundedOut(const QRectF& rect, int margin)
 {
     const double left = std::floor(rect.left() + EdgeTolerance) - margin;
     const double top = std::floor(rect.top() + EdgeTolerance) - margin;
@@ -32,10 +30,10 @@ QRectF roundedOut(const QRectF &rect, int margin)
     const double bottom = std::ceil(rect.bottom() - EdgeTolerance) + margin;
     return QRectF(left, top, right - left, bottom - top);
 }
-}
+} // namespace
 
-PainterPlacement placePainter(const QRectF &outer, const QTransform &itemToScene, double pixelRatio,
-                              const QSizeF &window)
+PainterPlacement placePainter(const QRectF& outer, const QTransform& itemToScene, double pixelRatio,
+                              const QSizeF& window)
 {
     PainterPlacement placement;
     if (outer.isEmpty()) {
@@ -70,4 +68,4 @@ PainterPlacement placePainter(const QRectF &outer, const QTransform &itemToScene
     placement.contentToPainter = itemToScene * QTransform::fromTranslate(-sceneCorner.x(), -sceneCorner.y());
     return placement;
 }
-}
+} // namespace Korvex::Meridane::Display

@@ -5,8 +5,7 @@
 #include <QtCore/QSizeF>
 #include <QtGui/QTransform>
 
-namespace Korvex::Meridane::Display
-{
+namespace Korvex::Meridane::Display {
 /** Where the painted child of a display item lies in that item, and how the item's coordinates map into the child. */
 struct PainterPlacement
 {
@@ -23,7 +22,7 @@ struct PainterPlacement
     /** True when the child's pixels are those of the screen; false when it is drawn through a skewed transformation. */
     bool turnedToScene = true;
 
-    friend bool operator==(const PainterPlacement &, const PainterPlacement &) = default;
+    friend bool operator==(const PainterPlacement&, const PainterPlacement&) = default;
 };
 
 /**
@@ -39,6 +38,6 @@ struct PainterPlacement
  * @param pixelRatio pixels of the screen per unit of the scene
  * @param window the size of the window, in units of the scene
  */
-[[nodiscard]] PainterPlacement placePainter(const QRectF &outer, const QTransform &itemToScene, double pixelRatio,
-                                            const QSizeF &window);
-}
+[[nodiscard]] PainterPlacement placePainter(const QRectF& outer, const QTransform& itemToScene, double pixelRatio,
+                                            const QSizeF& window);
+} // namespace Korvex::Meridane::Display

@@ -5,20 +5,19 @@
 #include <QtGui/QBrush>
 #include <QtGui/QPen>
 
-namespace Korvex::Meridane::Display
-{
+namespace Korvex::Meridane::Display {
 using Common::PaintHelper;
 
-Rectangle2::Rectangle2(QQuickItem *parent) : DisplayItem(parent)
-{
-}
+Rectangle2::Rectangle2(QQuickItem* parent)
+    : DisplayItem(parent)
+{}
 
 QColor Rectangle2::color() const
 {
     return m_color;
 }
 
-void Rectangle2::setColor(const QColor &color)
+void Rectangle2::setColor(const QColor& color)
 {
     if (color == m_color) {
         return;
@@ -63,7 +62,7 @@ QColor Rectangle2::borderColor() const
     return m_borderColor;
 }
 
-void Rectangle2::setBorderColor(const QColor &color)
+void Rectangle2::setBorderColor(const QColor& color)
 {
     if (color == m_borderColor) {
         return;
@@ -81,8 +80,8 @@ QRectF Rectangle2::outerRect() const
     return PaintHelper::getBoundingRect(width(), height(), m_borderWidth);
 }
 
-void Rectangle2::paintContent(QPainter *painter) const
+void Rectangle2::paintContent(QPainter* painter) const
 {
     PaintHelper::paintRectangle(size(), m_cornerRadius, QPen(m_borderColor, qMax(m_borderWidth, 0)), m_color, painter);
 }
-}
+} // namespace Korvex::Meridane::Display

@@ -4,8 +4,7 @@
 
 #include <QtGui/QColor>
 
-namespace Korvex::Meridane::Display
-{
+namespace Korvex::Meridane::Display {
 /** A filled rectangle with a border centred on its outline and, if wished, round corners. */
 class Rectangle2 : public Korvex::Meridane::Display::DisplayItem
 {
@@ -21,16 +20,16 @@ class Rectangle2 : public Korvex::Meridane::Display::DisplayItem
     QML_ELEMENT
 
 public:
-    explicit Rectangle2(QQuickItem *parent = nullptr);
+    explicit Rectangle2(QQuickItem* parent = nullptr);
 
     [[nodiscard]] QColor color() const;
-    void setColor(const QColor &color);
+    void setColor(const QColor& color);
     [[nodiscard]] int cornerRadius() const;
     void setCornerRadius(int radius);
     [[nodiscard]] int borderWidth() const;
     void setBorderWidth(int width);
     [[nodiscard]] QColor borderColor() const;
-    void setBorderColor(const QColor &color);
+    void setBorderColor(const QColor& color);
 
 Q_SIGNALS:
     void colorChanged();
@@ -40,7 +39,7 @@ Q_SIGNALS:
 
 protected:
     QRectF outerRect() const override;
-    void paintContent(QPainter *painter) const override;
+    void paintContent(QPainter* painter) const override;
 
 private:
     QColor m_color = QColor(248, 151, 29);
@@ -48,4 +47,4 @@ private:
     int m_borderWidth = 0;
     QColor m_borderColor = Qt::black;
 };
-}
+} // namespace Korvex::Meridane::Display

@@ -5,9 +5,9 @@
 
 #include <memory>
 
-namespace Korvex::Meridane::Display
-{
-ScreenItem::ScreenItem(QQuickItem *parent) : QQuickItem(parent)
+namespace Korvex::Meridane::Display {
+ScreenItem::ScreenItem(QQuickItem* parent)
+    : QQuickItem(parent)
 {
     setFlag(ItemHasContents);
     setClip(true);
@@ -19,7 +19,7 @@ QColor ScreenItem::color() const
     return m_color;
 }
 
-void ScreenItem::setColor(const QColor &color)
+void ScreenItem::setColor(const QColor& color)
 {
     if (color == m_color) {
         return;
@@ -29,9 +29,9 @@ void ScreenItem::setColor(const QColor &color)
     Q_EMIT colorChanged();
 }
 
-QSGNode *ScreenItem::updatePaintNode(QSGNode *node, UpdatePaintNodeData *)
+QSGNode* ScreenItem::updatePaintNode(QSGNode* node, UpdatePaintNodeData*)
 {
-    std::unique_ptr<QSGRectangleNode> ground(static_cast<QSGRectangleNode *>(node));
+    std::unique_ptr<QSGRectangleNode> ground(static_cast<QSGRectangleNode*>(node));
     if (!m_color.isValid() || m_color.alpha() == 0 || boundingRect().isEmpty()) {
         return nullptr;
     }
@@ -42,4 +42,4 @@ QSGNode *ScreenItem::updatePaintNode(QSGNode *node, UpdatePaintNodeData *)
     ground->setColor(m_color);
     return ground.release();
 }
-}
+} // namespace Korvex::Meridane::Display

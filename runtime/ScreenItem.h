@@ -4,8 +4,7 @@
 #include <QtQml/qqmlregistration.h>
 #include <QtQuick/QQuickItem>
 
-namespace Korvex::Meridane::Display
-{
+namespace Korvex::Meridane::Display {
 /**
  * The root of an exported screen: an area of one colour, 800 × 480 pixels unless width and height say otherwise, that
  * shows nothing of its children outside itself. In QML it is used as Screen, by way of Screen.qml.
@@ -18,18 +17,18 @@ class ScreenItem : public QQuickItem
     QML_ELEMENT
 
 public:
-    explicit ScreenItem(QQuickItem *parent = nullptr);
+    explicit ScreenItem(QQuickItem* parent = nullptr);
 
     [[nodiscard]] QColor color() const;
-    void setColor(const QColor &color);
+    void setColor(const QColor& color);
 
 Q_SIGNALS:
     void colorChanged();
 
 protected:
-    QSGNode *updatePaintNode(QSGNode *node, UpdatePaintNodeData *data) override;
+    QSGNode* updatePaintNode(QSGNode* node, UpdatePaintNodeData* data) override;
 
 private:
     QColor m_color = Qt::white;
 };
-}
+} // namespace Korvex::Meridane::Display

@@ -8,14 +8,13 @@
  * Fonts as the display draws them. A point is 96/72 pixel, on every machine; letters are neither hinted nor placed on
  * subpixels of a particular screen, so that canvas, picture and display show the same text.
  */
-namespace Korvex::Meridane::Common
-{
+namespace Korvex::Meridane::Common {
 /** @p points as whole pixels (at least 1): points × 96 / 72, halves upwards. */
 [[nodiscard]] MERIDANE_COMMON_EXPORT int pixelsFromPoints(double points);
 
 /** The size of @p font in pixels: its pixel size, or its point size turned into pixels. */
-[[nodiscard]] MERIDANE_COMMON_EXPORT int fontPixelSize(const QFont &font);
+[[nodiscard]] MERIDANE_COMMON_EXPORT int fontPixelSize(const QFont& font);
 
 /** @p font with its size in pixels, without hinting and without subpixel antialiasing. */
-[[nodiscard]] MERIDANE_COMMON_EXPORT QFont displayFont(const QFont &font);
-}
+[[nodiscard]] MERIDANE_COMMON_EXPORT QFont displayFont(const QFont& font);
+} // namespace Korvex::Meridane::Common

@@ -5,15 +5,13 @@
 
 #include <array>
 
-namespace Korvex::Meridane::Common
-{
-namespace
-{
+namespace Korvex::Meridane::Common {
+namespace {
 /** What the user reads for a key. Keys are the same in all enumerations that hold them. */
 struct ShownText
 {
-    const char *key;
-    const char *text;
+    const char* key;
+    const char* text;
 };
 
 constexpr std::array ShownTexts = {
@@ -41,18 +39,18 @@ constexpr std::array ShownTexts = {
     ShownText{"List", QT_TRANSLATE_NOOP("Core", "List")},
 };
 
-QString shownText(const char *key)
+QString shownText(const char* key)
 {
-    for (const ShownText &entry : ShownTexts) {
+    for (const ShownText& entry : ShownTexts) {
         if (qstrcmp(entry.key, key) == 0) {
             return LocalizationHelper::coreString(QString::fromLatin1(entry.text));
         }
     }
     return QString::fromLatin1(key);
 }
-}
+} // namespace
 
-QMetaEnum EnumHelper::createEnum(const QString &name)
+QMetaEnum EnumHelper::createEnum(const QString& name)
 {
     if (name == QLatin1String("TransformOrigin")) {
         return QMetaEnum::fromType<TransformOrigin>();
@@ -61,7 +59,7 @@ QMetaEnum EnumHelper::createEnum(const QString &name)
     return index < 0 ? QMetaEnum() : staticMetaObject.enumerator(index);
 }
 
-QMap<QString, QString> EnumHelper::getEnumNames(const char *name)
+QMap<QString, QString> EnumHelper::getEnumNames(const char* name)
 {
     QMap<QString, QString> names;
     const QMetaEnum found = createEnum(QString::fromUtf8(name));
@@ -70,4 +68,4 @@ QMap<QString, QString> EnumHelper::getEnumNames(const char *name)
     }
     return names;
 }
-}
+} // namespace Korvex::Meridane::Common

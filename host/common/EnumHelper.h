@@ -7,8 +7,7 @@
 #include <QtCore/QObject>
 #include <QtCore/QString>
 
-namespace Korvex::Meridane::Common
-{
+namespace Korvex::Meridane::Common {
 /**
  * Enumerations that properties and editors find by name: "TransformOrigin", "TextStyle", "GradientSpread" and
  * "VariableType".
@@ -51,9 +50,9 @@ public:
     Q_ENUM(GradientSpread)
 
     /** The enumeration called @p name; an invalid QMetaEnum when there is none. */
-    [[nodiscard]] static QMetaEnum createEnum(const QString &name);
+    [[nodiscard]] static QMetaEnum createEnum(const QString& name);
 
     /** Key to shown, localised text of every value of the enumeration @p name; empty when there is none. */
-    [[nodiscard]] static QMap<QString, QString> getEnumNames(const char *name);
+    [[nodiscard]] static QMap<QString, QString> getEnumNames(const char* name);
 };
-}
+} // namespace Korvex::Meridane::Common

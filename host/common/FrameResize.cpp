@@ -2,12 +2,10 @@
 
 #include <QtCore/QtGlobal>
 
-namespace Korvex::Meridane::Common
-{
-namespace
-{
+namespace Korvex::Meridane::Common {
+namespace {
 /** One axis of a frame from @p start to @p end whose side at @p fraction (0 or 1) is dragged to @p to. */
-void dragSide(double fraction, double to, double minimum, double &start, double &end)
+void dragSide(double fraction, double to, double minimum, double& start, double& end)
 {
     if (fraction == 0) {
         start = qMin(to, end - minimum);
@@ -15,7 +13,7 @@ void dragSide(double fraction, double to, double minimum, double &start, double 
         end = qMax(to, start + minimum);
     }
 }
-}
+} // namespace
 
 bool isFrameHandle(int handle)
 {
@@ -48,7 +46,7 @@ TransformOrigin cornerKeptBy(int handle)
     }
 }
 
-QRectF draggedFrame(const QRectF &frame, int handle, const QPointF &point, const QSizeF &minimum)
+QRectF draggedFrame(const QRectF& frame, int handle, const QPointF& point, const QSizeF& minimum)
 {
     const QPointF fractions = originFractions(static_cast<TransformOrigin>(handle));
     double left = frame.left();
@@ -64,14 +62,14 @@ QRectF draggedFrame(const QRectF &frame, int handle, const QPointF &point, const
     return QRectF(left, top, right - left, bottom - top);
 }
 
-QRectF resizedFrame(TransformOrigin fixedOrigin, const QRectF &frame, const QSizeF &size)
+QRectF resizedFrame(TransformOrigin fixedOrigin, const QRectF& frame, const QSizeF& size)
 {
     const QPointF fractions = originFractions(fixedOrigin);
     return QRectF(frame.x() + fractions.x() * (frame.width() - size.width()),
                   frame.y() + fractions.y() * (frame.height() - size.height()), size.width(), size.height());
 }
 
-QSizeF sizeKeepingRatio(int handle, const QSizeF &wanted, double ratio, double minimum)
+QSizeF sizeKeepingRatio(int handle, const QSizeF& wanted, double ratio, double minimum)
 {
     if (!(ratio > 0)) {
         return wanted.expandedTo(QSizeF(minimum, minimum));
@@ -85,4 +83,4 @@ QSizeF sizeKeepingRatio(int handle, const QSizeF &wanted, double ratio, double m
     const double height = width / ratio;
     return height < minimum ? QSizeF(minimum * ratio, minimum) : QSizeF(width, height);
 }
-}
+} // namespace Korvex::Meridane::Common

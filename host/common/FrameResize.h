@@ -9,8 +9,7 @@
  * Arithmetic of a rectangular frame that is resized by one of its handles. Handles are numbered as TransformOrigin; 4
  * (the centre) and any number outside 0 … 8 is no handle. All lengths are in one unit, usually pixels of the canvas.
  */
-namespace Korvex::Meridane::Common
-{
+namespace Korvex::Meridane::Common {
 /** True for the eight handles 0 … 8 without 4. */
 [[nodiscard]] MERIDANE_COMMON_EXPORT bool isFrameHandle(int handle);
 
@@ -31,12 +30,12 @@ namespace Korvex::Meridane::Common
  * The frame that @p frame becomes when @p handle is dragged to @p point: the sides at the handle move to the point, the
  * others stay. Neither dimension falls below the one of @p minimum; a frame never turns over. No handle: @p frame.
  */
-[[nodiscard]] MERIDANE_COMMON_EXPORT QRectF draggedFrame(const QRectF &frame, int handle, const QPointF &point,
-                                                         const QSizeF &minimum);
+[[nodiscard]] MERIDANE_COMMON_EXPORT QRectF draggedFrame(const QRectF& frame, int handle, const QPointF& point,
+                                                         const QSizeF& minimum);
 
 /** A frame of @p size whose point @p fixedOrigin lies where that of @p frame lies. */
-[[nodiscard]] MERIDANE_COMMON_EXPORT QRectF resizedFrame(TransformOrigin fixedOrigin, const QRectF &frame,
-                                                         const QSizeF &size);
+[[nodiscard]] MERIDANE_COMMON_EXPORT QRectF resizedFrame(TransformOrigin fixedOrigin, const QRectF& frame,
+                                                         const QSizeF& size);
 
 /**
  * @p wanted brought to the width-to-height ratio @p ratio. The height drives for the top and bottom handles, the width
@@ -44,6 +43,6 @@ namespace Korvex::Meridane::Common
  * minimum and the driving one follows it. A ratio that is not above 0 (or no number) keeps nothing: then each dimension
  * is only raised to the minimum.
  */
-[[nodiscard]] MERIDANE_COMMON_EXPORT QSizeF sizeKeepingRatio(int handle, const QSizeF &wanted, double ratio,
+[[nodiscard]] MERIDANE_COMMON_EXPORT QSizeF sizeKeepingRatio(int handle, const QSizeF& wanted, double ratio,
                                                              double minimum);
-}
+} // namespace Korvex::Meridane::Common

@@ -4,8 +4,7 @@
 
 #include <cmath>
 
-namespace Korvex::Meridane::Common
-{
+namespace Korvex::Meridane::Common {
 QPolygonF lineOutline(double length, double angle, int thickness)
 {
     if (thickness < 1 || !(length > 0)) {
@@ -19,4 +18,4 @@ QPolygonF lineOutline(double length, double angle, int thickness)
     const QPointF side(half * s, -half * c);
     return QPolygonF({QPointF(0, 0), side, end + side, end, end - side, -side});
 }
-}
+} // namespace Korvex::Meridane::Common

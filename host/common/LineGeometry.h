@@ -4,8 +4,7 @@
 
 #include <QtGui/QPolygonF>
 
-namespace Korvex::Meridane::Common
-{
+namespace Korvex::Meridane::Common {
 /**
  * The outline of a straight line of @p length pixels that starts at (0, 0), runs @p angle degrees clockwise from the
  * x axis and is @p thickness pixels thick.
@@ -14,4 +13,4 @@ namespace Korvex::Meridane::Common
  * the other side. Empty when the thickness is below 1 or the length is not above 0.
  */
 [[nodiscard]] MERIDANE_COMMON_EXPORT QPolygonF lineOutline(double length, double angle, int thickness);
-}
+} // namespace Korvex::Meridane::Common

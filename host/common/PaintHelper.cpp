@@ -7,15 +7,13 @@
 #include <QtGui/QPainter>
 #include <QtGui/QPen>
 
-namespace Korvex::Meridane::Common
-{
-namespace
-{
+namespace Korvex::Meridane::Common {
+namespace {
 /** Far above what the sharpest regular corner (60 degrees, one pen width) needs. */
 constexpr double MitreLimit = 10;
 
 /** Sets @p painter up for a shape; false when neither pen nor brush counts. */
-bool preparePainter(const QPen &pen, const QBrush &brush, QPainter *painter)
+bool preparePainter(const QPen& pen, const QBrush& brush, QPainter* painter)
 {
     const bool filled = brush.style() != Qt::NoBrush && brush.color().isValid();
     const bool stroked = PaintHelper::penCounts(pen);
@@ -28,18 +26,18 @@ bool preparePainter(const QPen &pen, const QBrush &brush, QPainter *painter)
     return filled || stroked;
 }
 
-bool isDrawable(const QSizeF &size)
+bool isDrawable(const QSizeF& size)
 {
     return size.width() > 0 && size.height() > 0;
 }
-}
+} // namespace
 
-bool PaintHelper::penCounts(const QPen &pen)
+bool PaintHelper::penCounts(const QPen& pen)
 {
     return pen.style() != Qt::NoPen && pen.widthF() > 0 && pen.color().isValid();
 }
 
-QColor PaintHelper::contrastColor(const QColor &color)
+QColor PaintHelper::contrastColor(const QColor& color)
 {
     const auto contrast = [](int channel) { return channel > 127 ? 0 : 255; };
     return QColor(contrast(color.red()), contrast(color.green()), contrast(color.blue()));
@@ -56,8 +54,8 @@ QRectF PaintHelper::getPolygonBoundingRect(int edges, double edgeLength, int bor
     return regularPolygonBoundingRect(edges, edgeLength, borderWidth);
 }
 
-void PaintHelper::paintRectangle(const QSizeF &size, int cornerRadius, const QPen &pen, const QBrush &brush,
-                                 QPainter *painter)
+void PaintHelper::paintRectangle(const QSizeF& size, int cornerRadius, const QPen& pen, const QBrush& brush,
+                                 QPainter* painter)
 {
     if (!isDrawable(size)) {
         return;
@@ -75,7 +73,7 @@ void PaintHelper::paintRectangle(const QSizeF &size, int cornerRadius, const QPe
     painter->restore();
 }
 
-void PaintHelper::paintEllipse(const QSizeF &size, const QPen &pen, const QBrush &brush, QPainter *painter)
+void PaintHelper::paintEllipse(const QSizeF& size, const QPen& pen, const QBrush& brush, QPainter* painter)
 {
     if (!isDrawable(size)) {
         return;
@@ -87,8 +85,8 @@ void PaintHelper::paintEllipse(const QSizeF &size, const QPen &pen, const QBrush
     painter->restore();
 }
 
-QPolygonF PaintHelper::paintPolygon(const double &edgeLength, const int &edges, const QPen &pen, const QBrush &brush,
-                                    QPainter *painter)
+QPolygonF PaintHelper::paintPolygon(const double& edgeLength, const int& edges, const QPen& pen, const QBrush& brush,
+                                    QPainter* painter)
 {
     const QPolygonF polygon = regularPolygon(edges, edgeLength);
     if (polygon.isEmpty()) {
@@ -102,7 +100,7 @@ QPolygonF PaintHelper::paintPolygon(const double &edgeLength, const int &edges, 
     return polygon;
 }
 
-void PaintHelper::paintIrregularPolygon(const QPolygonF &polygon, const QBrush &brush, QPainter *painter)
+void PaintHelper::paintIrregularPolygon(const QPolygonF& polygon, const QBrush& brush, QPainter* painter)
 {
     painter->save();
     if (preparePainter(QPen(Qt::NoPen), brush, painter)) {
@@ -111,7 +109,7 @@ void PaintHelper::paintIrregularPolygon(const QPolygonF &polygon, const QBrush &
     painter->restore();
 }
 
-void PaintHelper::paintDot(const QPointF &center, const double &diameter, const QColor &color, QPainter *painter)
+void PaintHelper::paintDot(const QPointF& center, const double& diameter, const QColor& color, QPainter* painter)
 {
     if (!(diameter > 0)) {
         return;
@@ -123,7 +121,7 @@ void PaintHelper::paintDot(const QPointF &center, const double &diameter, const 
     painter->restore();
 }
 
-void PaintHelper::resizeShape(TransformOrigin fixedOrigin, int handle, QSizeF &size, QPointF &position)
+void PaintHelper::resizeShape(TransformOrigin fixedOrigin, int handle, QSizeF& size, QPointF& position)
 {
     const QSizeF present(position.x(), position.y());
     if (!isFrameHandle(handle)) {
@@ -144,4 +142,4 @@ void PaintHelper::resizeShape(TransformOrigin fixedOrigin, int handle, QSizeF &s
         position.setY(0);
     }
 }
-}
+} // namespace Korvex::Meridane::Common

@@ -19,8 +19,7 @@ class QRadialGradient;
 class QStyleOptionGraphicsItem;
 QT_END_NAMESPACE
 
-namespace Korvex::Meridane::Common
-{
+namespace Korvex::Meridane::Common {
 /**
  * Draws the elements: on the canvas, into pictures and on the running display, always by these functions.
  *
@@ -35,10 +34,10 @@ public:
     PaintHelper() = delete;
 
     /** True when @p pen draws a border: its width is above 0 and its colour is valid. */
-    [[nodiscard]] static bool penCounts(const QPen &pen);
+    [[nodiscard]] static bool penCounts(const QPen& pen);
 
     /** The colour that stands out from @p color channel by channel: above 127 becomes 0, any other 255; opaque. */
-    [[nodiscard]] static QColor contrastColor(const QColor &color);
+    [[nodiscard]] static QColor contrastColor(const QColor& color);
 
     /**
      * The outer rectangle of a content of @p width × @p height with a border centred on its outline:
@@ -57,24 +56,24 @@ public:
      * A rectangle of @p size. @p cornerRadius, in pixels, is that of the outline; it is limited to half the smaller side
      * and 0 gives sharp corners, also on the outside of the border.
      */
-    static void paintRectangle(const QSizeF &size, int cornerRadius, const QPen &pen, const QBrush &brush,
-                               QPainter *painter);
+    static void paintRectangle(const QSizeF& size, int cornerRadius, const QPen& pen, const QBrush& brush,
+                               QPainter* painter);
 
     /** The ellipse that touches the four sides of a content of @p size. */
-    static void paintEllipse(const QSizeF &size, const QPen &pen, const QBrush &brush, QPainter *painter);
+    static void paintEllipse(const QSizeF& size, const QPen& pen, const QBrush& brush, QPainter* painter);
 
     /**
      * The regular polygon of @p edges edges of @p edgeLength with one vertex at the top, its corners mitred.
      * @return the outline that was drawn, without the border: its bounding rectangle starts at (0, 0).
      */
-    static QPolygonF paintPolygon(const double &edgeLength, const int &edges, const QPen &pen, const QBrush &brush,
-                                  QPainter *painter);
+    static QPolygonF paintPolygon(const double& edgeLength, const int& edges, const QPen& pen, const QBrush& brush,
+                                  QPainter* painter);
 
     /** Fills @p polygon, closed or not; where it crosses itself, by the odd-even rule. */
-    static void paintIrregularPolygon(const QPolygonF &polygon, const QBrush &brush, QPainter *painter);
+    static void paintIrregularPolygon(const QPolygonF& polygon, const QBrush& brush, QPainter* painter);
 
     /** A filled dot of @p diameter about @p center. */
-    static void paintDot(const QPointF &center, const double &diameter, const QColor &color, QPainter *painter);
+    static void paintDot(const QPointF& center, const double& diameter, const QColor& color, QPainter* painter);
 
     /**
      * A text in a box of @p size, broken at the box's width (between words, inside a word that is too long) and clipped
@@ -87,29 +86,29 @@ public:
      *        (one pixel above); any other name draws the plain text
      * @param stylePen the colour of that line or shade
      */
-    static void paintTextBox(QSizeF size, const QFont &font, const QPen &pen, const QString &text, int alignment,
-                             const QString &textStyle, const QPen &stylePen, QPainter *painter);
+    static void paintTextBox(QSizeF size, const QFont& font, const QPen& pen, const QString& text, int alignment,
+                             const QString& textStyle, const QPen& stylePen, QPainter* painter);
 
     /**
      * Fills @p polygon with a gradient whose start and final stop are percent (0 … 100) of the polygon's bounding
      * rectangle. Only the two points are mapped: the stripes stay at right angles to the line between them.
      */
-    static void paintGradientItem(const QPolygonF &polygon, const QLinearGradient &gradient, QPainter *painter);
+    static void paintGradientItem(const QPolygonF& polygon, const QLinearGradient& gradient, QPainter* painter);
 
     /** Fills @p polygon with a gradient whose centre, radius and focal point are pixels of the polygon's coordinates. */
-    static void paintGradientItem(const QPolygonF &polygon, const QRadialGradient &gradient, QPainter *painter);
+    static void paintGradientItem(const QPolygonF& polygon, const QRadialGradient& gradient, QPainter* painter);
 
     /**
      * Fills @p polygon with a gradient whose centre is percent of the polygon's bounding rectangle (it may lie outside)
      * and whose angle is degrees clockwise from the x axis, 0 … 359.99.
      */
-    static void paintGradientItem(const QPolygonF &polygon, const QConicalGradient &gradient, QPainter *painter);
+    static void paintGradientItem(const QPolygonF& polygon, const QConicalGradient& gradient, QPainter* painter);
 
     /**
      * When @p option says that the item is selected: a frame along @p rect, one pixel of the screen wide at every
      * zoom, dashed in black on white so that it can be seen on any ground.
      */
-    static void paintHighlightSelected(const QRectF &rect, QPainter *painter, const QStyleOptionGraphicsItem *option);
+    static void paintHighlightSelected(const QRectF& rect, QPainter* painter, const QStyleOptionGraphicsItem* option);
 
     /**
      * Resizes a frame by one of its handles.
@@ -128,6 +127,6 @@ public:
      * A caller that keeps width and height of its frame thus writes: position = (width, height), resizeShape(…),
      * moveBy(position).
      */
-    static void resizeShape(TransformOrigin fixedOrigin, int handle, QSizeF &size, QPointF &position);
+    static void resizeShape(TransformOrigin fixedOrigin, int handle, QSizeF& size, QPointF& position);
 };
-}
+} // namespace Korvex::Meridane::Common

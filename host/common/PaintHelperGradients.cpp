@@ -5,17 +5,15 @@
 
 #include <cmath>
 
-namespace Korvex::Meridane::Common
-{
-namespace
-{
+namespace Korvex::Meridane::Common {
+namespace {
 /** @p percent (0 … 100 from left to right and from top to bottom) as a point of @p bounds. */
-QPointF percentPoint(const QPointF &percent, const QRectF &bounds)
+QPointF percentPoint(const QPointF& percent, const QRectF& bounds)
 {
     return QPointF(bounds.x() + percent.x() / 100 * bounds.width(), bounds.y() + percent.y() / 100 * bounds.height());
 }
 
-void fillPolygon(const QPolygonF &polygon, QGradient &gradient, QPainter *painter)
+void fillPolygon(const QPolygonF& polygon, QGradient& gradient, QPainter* painter)
 {
     gradient.setCoordinateMode(QGradient::LogicalMode);
     painter->save();
@@ -25,9 +23,9 @@ void fillPolygon(const QPolygonF &polygon, QGradient &gradient, QPainter *painte
     painter->drawPolygon(polygon, Qt::OddEvenFill);
     painter->restore();
 }
-}
+} // namespace
 
-void PaintHelper::paintGradientItem(const QPolygonF &polygon, const QLinearGradient &gradient, QPainter *painter)
+void PaintHelper::paintGradientItem(const QPolygonF& polygon, const QLinearGradient& gradient, QPainter* painter)
 {
     const QRectF bounds = polygon.boundingRect();
     QLinearGradient mapped(gradient);
@@ -36,7 +34,7 @@ void PaintHelper::paintGradientItem(const QPolygonF &polygon, const QLinearGradi
     fillPolygon(polygon, mapped, painter);
 }
 
-void PaintHelper::paintGradientItem(const QPolygonF &polygon, const QRadialGradient &gradient, QPainter *painter)
+void PaintHelper::paintGradientItem(const QPolygonF& polygon, const QRadialGradient& gradient, QPainter* painter)
 {
     // Only this constructor moves a focal point outside the circle onto it; the setters keep it where it is.
     QRadialGradient adjusted(gradient.center(), gradient.radius(), gradient.focalPoint());
@@ -45,7 +43,7 @@ void PaintHelper::paintGradientItem(const QPolygonF &polygon, const QRadialGradi
     fillPolygon(polygon, adjusted, painter);
 }
 
-void PaintHelper::paintGradientItem(const QPolygonF &polygon, const QConicalGradient &gradient, QPainter *painter)
+void PaintHelper::paintGradientItem(const QPolygonF& polygon, const QConicalGradient& gradient, QPainter* painter)
 {
     QConicalGradient mapped(gradient);
     mapped.setCenter(percentPoint(gradient.center(), polygon.boundingRect()));
@@ -53,4 +51,4 @@ void PaintHelper::paintGradientItem(const QPolygonF &polygon, const QConicalGrad
     mapped.setAngle(std::fmod(360 - gradient.angle(), 360));
     fillPolygon(polygon, mapped, painter);
 }
-}
+} // namespace Korvex::Meridane::Common

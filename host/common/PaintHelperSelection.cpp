@@ -5,9 +5,8 @@
 // Only the public member "state" is read: no symbol of the Widgets library is used.
 #include <QtWidgets/QStyleOptionGraphicsItem>
 
-namespace Korvex::Meridane::Common
-{
-void PaintHelper::paintHighlightSelected(const QRectF &rect, QPainter *painter, const QStyleOptionGraphicsItem *option)
+namespace Korvex::Meridane::Common {
+void PaintHelper::paintHighlightSelected(const QRectF& rect, QPainter* painter, const QStyleOptionGraphicsItem* option)
 {
     if (!option || !(option->state & QStyle::State_Selected) || rect.isNull()) {
         return;
@@ -24,4 +23,4 @@ void PaintHelper::paintHighlightSelected(const QRectF &rect, QPainter *painter, 
     painter->drawRect(rect);
     painter->restore();
 }
-}
+} // namespace Korvex::Meridane::Common

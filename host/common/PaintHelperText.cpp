@@ -11,10 +11,8 @@
 #include <array>
 #include <span>
 
-namespace Korvex::Meridane::Common
-{
-namespace
-{
+namespace Korvex::Meridane::Common {
+namespace {
 constexpr std::array OutlineOffsets = {QPointF(-1, -1), QPointF(0, -1), QPointF(1, -1), QPointF(-1, 0),
                                        QPointF(1, 0),   QPointF(-1, 1), QPointF(0, 1),  QPointF(1, 1)};
 constexpr std::array RaisedOffsets = {QPointF(0, 1)};
@@ -24,7 +22,7 @@ constexpr std::array SunkenOffsets = {QPointF(0, -1)};
 constexpr qint64 LargestUnclippedLayer = 4096 * 4096;
 
 /** Where the copies of the text lie that make its style; none for plain text. */
-std::span<const QPointF> styleOffsets(const QString &textStyle)
+std::span<const QPointF> styleOffsets(const QString& textStyle)
 {
     if (textStyle == QLatin1String("Outline")) {
         return OutlineOffsets;
@@ -38,7 +36,7 @@ std::span<const QPointF> styleOffsets(const QString &textStyle)
     return {};
 }
 
-QString withLineSeparators(const QString &text)
+QString withLineSeparators(const QString& text)
 {
     QString result(text);
     result.replace(QLatin1String("\r\n"), QLatin1String("\n"));
@@ -64,7 +62,7 @@ QTextOption textOption(int alignment)
 }
 
 /** Breaks the text at @p width, lines from 0 downwards. @return their height together */
-double breakLines(QTextLayout &layout, double width)
+double breakLines(QTextLayout& layout, double width)
 {
     double height = 0;
     layout.beginLayout();
@@ -89,9 +87,9 @@ double verticalOffset(int alignment, double boxHeight, double textHeight)
     return 0;
 }
 
-void drawCopies(const QTextLayout &layout, const QPointF &origin, std::span<const QPointF> offsets, QPainter *painter)
+void drawCopies(const QTextLayout& layout, const QPointF& origin, std::span<const QPointF> offsets, QPainter* painter)
 {
-    for (const QPointF &offset : offsets) {
+    for (const QPointF& offset : offsets) {
         layout.draw(painter, origin + offset);
     }
 }
@@ -100,8 +98,8 @@ void drawCopies(const QTextLayout &layout, const QPointF &origin, std::span<cons
  * Draws copies that overlap in a translucent colour as one shade: opaque on a layer in the pixels of the device, which
  * is then laid over the picture. @p box is the area that can be seen.
  */
-void drawTranslucentCopies(const QTextLayout &layout, const QPointF &origin, std::span<const QPointF> offsets,
-                           const QColor &color, const QRectF &box, QPainter *painter)
+void drawTranslucentCopies(const QTextLayout& layout, const QPointF& origin, std::span<const QPointF> offsets,
+                           const QColor& color, const QRectF& box, QPainter* painter)
 {
     const QTransform toDevice = painter->deviceTransform();
     const double pixelRatio = painter->device()->devicePixelRatioF();
@@ -129,10 +127,10 @@ void drawTranslucentCopies(const QTextLayout &layout, const QPointF &origin, std
     painter->drawImage(painter->deviceTransform().inverted().map(QPointF(area.topLeft())), layer);
     painter->restore();
 }
-}
+} // namespace
 
-void PaintHelper::paintTextBox(QSizeF size, const QFont &font, const QPen &pen, const QString &text, int alignment,
-                               const QString &textStyle, const QPen &stylePen, QPainter *painter)
+void PaintHelper::paintTextBox(QSizeF size, const QFont& font, const QPen& pen, const QString& text, int alignment,
+                               const QString& textStyle, const QPen& stylePen, QPainter* painter)
 {
     if (!(size.width() > 0 && size.height() > 0) || text.isEmpty()) {
         return;
@@ -160,4 +158,4 @@ void PaintHelper::paintTextBox(QSizeF size, const QFont &font, const QPen &pen, 
     }
     painter->restore();
 }
-}
+} // namespace Korvex::Meridane::Common

@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace Korvex::Meridane::Common
-{
+namespace Korvex::Meridane::Common {
 double roundedToWhole(double value)
 {
     if (value >= 0) {
@@ -32,4 +31,4 @@ bool fuzzyEqual(double a, double b)
 {
     return std::abs(a - b) * 1e12 <= std::min(std::abs(a), std::abs(b));
 }
-}
+} // namespace Korvex::Meridane::Common

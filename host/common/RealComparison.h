@@ -3,8 +3,7 @@
 #include "host/common/CommonExport.h"
 
 /** The two ways in which real values count as equal, so that noise of the arithmetic never looks like a change. */
-namespace Korvex::Meridane::Common
-{
+namespace Korvex::Meridane::Common {
 /**
  * @p value rounded to a whole number, halves upwards. A value x of 0 or more gives trunc(x + 0.5); a negative one
  * gives t + trunc(x − t + 0.5) with t = trunc(x − 1).
@@ -22,4 +21,4 @@ namespace Korvex::Meridane::Common
  * itself equals 0; not-a-number equals nothing.
  */
 [[nodiscard]] MERIDANE_COMMON_EXPORT bool fuzzyEqual(double a, double b);
-}
+} // namespace Korvex::Meridane::Common

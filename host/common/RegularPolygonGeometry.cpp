@@ -5,10 +5,8 @@
 #include <cmath>
 #include <cstdlib>
 
-namespace Korvex::Meridane::Common
-{
-namespace
-{
+namespace Korvex::Meridane::Common {
+namespace {
 constexpr int FewestEdges = 3;
 constexpr int MostEdges = 360;
 
@@ -39,7 +37,7 @@ double mitreLength(int edges, int borderWidth)
 {
     return 0.5 * evenPenWidth(borderWidth) / std::cos(M_PI / edges);
 }
-}
+} // namespace
 
 int evenPenWidth(int width)
 {
@@ -119,7 +117,6 @@ double edgeLengthFromHeight(int edges, double height, int borderWidth)
         return 0;
     }
     edges = countedEdges(edges);
-    return 2 * height * std::sin(M_PI / edges) / unitHeight(edges)
-           - evenPenWidth(borderWidth) * std::tan(M_PI / edges);
+    return 2 * height * std::sin(M_PI / edges) / unitHeight(edges) - evenPenWidth(borderWidth) * std::tan(M_PI / edges);
 }
-}
+} // namespace Korvex::Meridane::Common

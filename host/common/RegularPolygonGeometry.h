@@ -15,8 +15,7 @@
  * other's inverse. Fewer than 3 edges or a length not above 0 is no polygon; more than 360 edges count as 360, which
  * nobody can tell from a circle.
  */
-namespace Korvex::Meridane::Common
-{
+namespace Korvex::Meridane::Common {
 /** @p width made even by adding 1 to an odd number; 0 when it is not above 0. The outer sizes use this width. */
 [[nodiscard]] MERIDANE_COMMON_EXPORT int evenPenWidth(int width);
 
@@ -40,4 +39,4 @@ namespace Korvex::Meridane::Common
 
 /** The edge length of the polygon whose outer height is @p height. Not limited: it may be negative. 0 for fewer than 3 edges. */
 [[nodiscard]] MERIDANE_COMMON_EXPORT double edgeLengthFromHeight(int edges, double height, int borderWidth);
-}
+} // namespace Korvex::Meridane::Common

@@ -1,9 +1,7 @@
 #include "host/common/TextHelper.h"
 
-namespace Korvex::Meridane::Common
-{
-namespace
-{
+namespace Korvex::Meridane::Common {
+namespace {
 /** True for a UTF-16 unit that a QML file cannot hold as it stands. */
 bool needsEscape(char16_t unit)
 {
@@ -13,13 +11,13 @@ bool needsEscape(char16_t unit)
     return control || lineSeparator || byteOrderMark;
 }
 
-void appendEscaped(QString &result, char16_t unit)
+void appendEscaped(QString& result, char16_t unit)
 {
     result += QLatin1String("\\u") + QString::number(unit, 16).rightJustified(4, QLatin1Char('0'));
 }
-}
+} // namespace
 
-QString TextHelper::toQmlValueString(const QString &text)
+QString TextHelper::toQmlValueString(const QString& text)
 {
     QString result;
     result.reserve(text.size());
@@ -45,4 +43,4 @@ QString TextHelper::toQmlValueString(const QString &text)
     }
     return result;
 }
-}
+} // namespace Korvex::Meridane::Common

@@ -4,8 +4,7 @@
 
 #include <QtCore/QString>
 
-namespace Korvex::Meridane::Common
-{
+namespace Korvex::Meridane::Common {
 /** Text forms. */
 class MERIDANE_COMMON_EXPORT TextHelper
 {
@@ -17,6 +16,6 @@ public:
      * engine reads back exactly @p text, whatever it holds: quotes, backslashes, control characters, line and
      * paragraph separators and lone surrogates (which UTF-8 cannot carry) are escaped.
      */
-    [[nodiscard]] static QString toQmlValueString(const QString &text);
+    [[nodiscard]] static QString toQmlValueString(const QString& text);
 };
-}
+} // namespace Korvex::Meridane::Common

@@ -2,14 +2,13 @@
 
 #include <QtCore/QMetaEnum>
 
-namespace Korvex::Meridane::Common
-{
+namespace Korvex::Meridane::Common {
 QString transformOriginName(TransformOrigin origin)
 {
     return QString::fromLatin1(QMetaEnum::fromType<TransformOrigin>().valueToKey(origin));
 }
 
-TransformOrigin transformOriginFromName(QStringView name, bool *ok)
+TransformOrigin transformOriginFromName(QStringView name, bool* ok)
 {
     const QMetaEnum origins = QMetaEnum::fromType<TransformOrigin>();
     for (int i = 0; i < origins.keyCount(); ++i) {
@@ -42,13 +41,13 @@ QPointF originFractions(TransformOrigin origin)
     return QPointF(0.5 * (number % 3), 0.5 * (number / 3));
 }
 
-QPointF fixedPointPosition(TransformOrigin origin, const QRectF &content)
+QPointF fixedPointPosition(TransformOrigin origin, const QRectF& content)
 {
     const QPointF fractions = originFractions(origin);
     return QPointF(content.x() + fractions.x() * content.width(), content.y() + fractions.y() * content.height());
 }
 
-QTransform rotationAbout(const QPointF &fixedPoint, double angle)
+QTransform rotationAbout(const QPointF& fixedPoint, double angle)
 {
     QTransform transform;
     transform.translate(fixedPoint.x(), fixedPoint.y());
@@ -57,13 +56,13 @@ QTransform rotationAbout(const QPointF &fixedPoint, double angle)
     return transform;
 }
 
-QTransform rotationAbout(TransformOrigin origin, const QRectF &content, double angle)
+QTransform rotationAbout(TransformOrigin origin, const QRectF& content, double angle)
 {
     return rotationAbout(fixedPointPosition(origin, content), angle);
 }
 
-QPainterPath rotatedPath(const QPainterPath &path, TransformOrigin origin, const QRectF &content, double angle)
+QPainterPath rotatedPath(const QPainterPath& path, TransformOrigin origin, const QRectF& content, double angle)
 {
     return rotationAbout(origin, content, angle).map(path);
 }
-}
+} // namespace Korvex::Meridane::Common

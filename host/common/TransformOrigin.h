@@ -16,8 +16,7 @@
  * The points are numbered row by row. The same numbers name the handles of a resizable frame, where 4 (the centre)
  * means "no handle".
  */
-namespace Korvex::Meridane::Common
-{
+namespace Korvex::Meridane::Common {
 Q_NAMESPACE_EXPORT(MERIDANE_COMMON_EXPORT)
 
 /** A corner, the middle of a side, or the centre of a rectangle. A plain enumeration, because handles are plain ints. */
@@ -42,7 +41,7 @@ Q_ENUM_NS(TransformOrigin)
  * The origin called @p name, exactly as transformOriginName() writes it. Any other text gives Center and sets @p ok
  * (which may be null) to false.
  */
-[[nodiscard]] MERIDANE_COMMON_EXPORT TransformOrigin transformOriginFromName(QStringView name, bool *ok = nullptr);
+[[nodiscard]] MERIDANE_COMMON_EXPORT TransformOrigin transformOriginFromName(QStringView name, bool* ok = nullptr);
 
 /** The point across the centre: TopLeft for BottomRight, Left for Right, Center for Center and for a number outside 0 … 8. */
 [[nodiscard]] MERIDANE_COMMON_EXPORT TransformOrigin oppositeOrigin(TransformOrigin origin);
@@ -57,15 +56,16 @@ Q_ENUM_NS(TransformOrigin)
  * The fixed point of a rotation about @p origin, in the coordinates of @p content. This one function serves canvas
  * items, shapes and display types. @p content is the rectangle of the element's content, without its border.
  */
-[[nodiscard]] MERIDANE_COMMON_EXPORT QPointF fixedPointPosition(TransformOrigin origin, const QRectF &content);
+[[nodiscard]] MERIDANE_COMMON_EXPORT QPointF fixedPointPosition(TransformOrigin origin, const QRectF& content);
 
 /** Rotation by @p angle degrees, clockwise on a screen whose y grows downwards, that leaves @p fixedPoint in place. */
-[[nodiscard]] MERIDANE_COMMON_EXPORT QTransform rotationAbout(const QPointF &fixedPoint, double angle);
+[[nodiscard]] MERIDANE_COMMON_EXPORT QTransform rotationAbout(const QPointF& fixedPoint, double angle);
 
 /** Rotation by @p angle degrees, clockwise, about the point @p origin of @p content. */
-[[nodiscard]] MERIDANE_COMMON_EXPORT QTransform rotationAbout(TransformOrigin origin, const QRectF &content, double angle);
+[[nodiscard]] MERIDANE_COMMON_EXPORT QTransform rotationAbout(TransformOrigin origin, const QRectF& content,
+                                                              double angle);
 
 /** @p path turned by @p angle degrees, clockwise, about the point @p origin of @p content. */
-[[nodiscard]] MERIDANE_COMMON_EXPORT QPainterPath rotatedPath(const QPainterPath &path, TransformOrigin origin,
-                                                              const QRectF &content, double angle);
-}
+[[nodiscard]] MERIDANE_COMMON_EXPORT QPainterPath rotatedPath(const QPainterPath& path, TransformOrigin origin,
+                                                              const QRectF& content, double angle);
+} // namespace Korvex::Meridane::Common

@@ -16,21 +16,20 @@
 
 #include <cstdio>
 
-namespace Korvex::Meridane::Display
-{
-namespace
-{
+namespace Korvex::Meridane::Display {
+namespace {
 /** The longest wait for the first frame, in milliseconds. */
 constexpr int FrameTimeout = 30000;
-}
+} // namespace
 
-DisplayViewer::DisplayViewer(const ViewerOptions &options) : m_folder(options.folder)
+DisplayViewer::DisplayViewer(const ViewerOptions& options)
+    : m_folder(options.folder)
 {
-    QQmlEngine *engine = m_view.engine();
+    QQmlEngine* engine = m_view.engine();
     engine->setOutputWarningsToStandardError(false);
     connect(engine, &QQmlEngine::warnings, this, &DisplayViewer::report);
     engine->addImportPath(QCoreApplication::applicationDirPath() + QLatin1String("/../qml"));
-    for (const QString &path : options.importPaths) {
+    for (const QString& path : options.importPaths) {
         engine->addImportPath(QDir(path).absolutePath());
     }
     if (!options.screen.isEmpty()) {
@@ -63,7 +62,7 @@ void DisplayViewer::show()
     m_view.show();
 }
 
-bool DisplayViewer::grab(const QString &fileName)
+bool DisplayViewer::grab(const QString& fileName)
 {
     QEventLoop loop;
     QTimer::singleShot(FrameTimeout, &loop, [&loop] { loop.exit(1); });
@@ -102,17 +101,17 @@ bool DisplayViewer::hasFailed() const
     return m_failed;
 }
 
-void DisplayViewer::report(const QList<QQmlError> &errors)
+void DisplayViewer::report(const QList<QQmlError>& errors)
 {
-    for (const QQmlError &error : errors) {
+    for (const QQmlError& error : errors) {
         fail(error.toString());
     }
 }
 
-void DisplayViewer::fail(const QString &message)
+void DisplayViewer::fail(const QString& message)
 {
     m_failed = true;
     std::fprintf(stderr, "%s\n", qPrintable(message));
     std::fflush(stderr);
 }
-}
+} // namespace Korvex::Meridane::Display

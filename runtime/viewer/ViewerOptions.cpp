@@ -2,15 +2,14 @@
 
 #include <QtCore/QCommandLineParser>
 
-namespace Korvex::Meridane::Display
-{
-ViewerOptions parseViewerOptions(const QStringList &arguments)
+namespace Korvex::Meridane::Display {
+ViewerOptions parseViewerOptions(const QStringList& arguments)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Runs an exported display."));
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help."));
-    const QCommandLineOption screen(QStringLiteral("screen"), QStringLiteral("Show the screen ID instead of the first."),
-                                    QStringLiteral("ID"));
+    const QCommandLineOption screen(QStringLiteral("screen"),
+                                    QStringLiteral("Show the screen ID instead of the first."), QStringLiteral("ID"));
     const QCommandLineOption grab(QStringLiteral("grab"),
                                   QStringLiteral("Save one frame of the running display as FILE and exit."),
                                   QStringLiteral("FILE.png"));
@@ -32,9 +31,10 @@ ViewerOptions parseViewerOptions(const QStringList &arguments)
     }
     const QStringList folders = parser.positionalArguments();
     if (folders.size() != 1) {
-        options.message = folders.isEmpty() ? QStringLiteral("The folder of the export is missing.")
-                                            : QStringLiteral("There is more than one folder: %1")
-                                                  .arg(folders.join(QLatin1String(", ")));
+        options.message =
+            folders.isEmpty()
+                ? QStringLiteral("The folder of the export is missing.")
+                : QStringLiteral("There is more than one folder: %1").arg(folders.join(QLatin1String(", ")));
         return options;
     }
     if (parser.isSet(grab) && parser.value(grab).isEmpty()) {
@@ -48,4 +48,4 @@ ViewerOptions parseViewerOptions(const QStringList &arguments)
     options.importPaths = parser.values(import);
     return options;
 }
-}
+} // namespace Korvex::Meridane::Display

@@ -3,8 +3,7 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
-namespace Korvex::Meridane::Display
-{
+namespace Korvex::Meridane::Display {
 /** What the command line of the viewer asks for. */
 struct ViewerOptions
 {
@@ -31,5 +30,5 @@ struct ViewerOptions
 };
 
 /** Reads @p arguments, the first of which is the program's name. Needs no application object. */
-[[nodiscard]] ViewerOptions parseViewerOptions(const QStringList &arguments);
-}
+[[nodiscard]] ViewerOptions parseViewerOptions(const QStringList& arguments);
+} // namespace Korvex::Meridane::Display

@@ -8,8 +8,7 @@
 
 using namespace Korvex::Meridane::Display;
 
-namespace
-{
+namespace {
 /** Settles what has to be settled before the application object exists. */
 void prepareEnvironment(bool grabs)
 {
@@ -28,9 +27,9 @@ void prepareEnvironment(bool grabs)
         qunsetenv("QT_SCREEN_SCALE_FACTORS");
     }
 }
-}
+} // namespace
 
-int main(int argc, char *argv[])
+int main(int argc, char* argv[])
 {
     QStringList arguments;
     for (int i = 0; i < argc; ++i) {

@@ -7,24 +7,20 @@
 
 using namespace Korvex::Meridane::Common;
 
-namespace
-{
+namespace {
 /** Answers every text with its context before it. */
 class EchoTranslator : public QTranslator
 {
 public:
-    QString translate(const char *context, const char *sourceText, const char *, int) const override
+    QString translate(const char* context, const char* sourceText, const char*, int) const override
     {
         return QStringLiteral("%1/%2").arg(QString::fromUtf8(context), QString::fromUtf8(sourceText));
     }
 
-    bool isEmpty() const override
-    {
-        return false;
-    }
+    bool isEmpty() const override { return false; }
 };
 
-QStringList keys(const char *name)
+QStringList keys(const char* name)
 {
     const QMetaEnum found = EnumHelper::createEnum(QString::fromLatin1(name));
     QStringList result;
@@ -33,7 +29,7 @@ QStringList keys(const char *name)
     }
     return result;
 }
-}
+} // namespace
 
 class TestEnumHelper : public QObject
 {
@@ -81,15 +77,14 @@ void TestEnumHelper::shownTextsOfTextStyle()
 
 void TestEnumHelper::everyKeyHasAShownText()
 {
-    for (const char *name : {"TextStyle", "GradientSpread", "VariableType", "TransformOrigin"}) {
+    for (const char* name : {"TextStyle", "GradientSpread", "VariableType", "TransformOrigin"}) {
         const QMap<QString, QString> names = EnumHelper::getEnumNames(name);
         QCOMPARE(names.size(), EnumHelper::createEnum(QString::fromLatin1(name)).keyCount());
-        for (const QString &text : names) {
+        for (const QString& text : names) {
             // A key of two words is shown as two words.
             QVERIFY(!text.isEmpty());
-            QCOMPARE(text.count(QLatin1Char(' ')) + 1, std::count_if(text.begin(), text.end(), [](QChar letter) {
-                         return letter.isUpper();
-                     }));
+            QCOMPARE(text.count(QLatin1Char(' ')) + 1,
+                     std::count_if(text.begin(), text.end(), [](QChar letter) { return letter.isUpper(); }));
         }
     }
 }

@@ -7,8 +7,7 @@
 
 using namespace Korvex::Meridane::Common;
 
-namespace
-{
+namespace {
 constexpr int Handles[] = {0, 1, 2, 3, 5, 6, 7, 8};
 
 double someLength()
@@ -20,7 +19,7 @@ int someHandle()
 {
     return *rc::gen::elementOf(std::vector<int>(std::begin(Handles), std::end(Handles)));
 }
-}
+} // namespace
 
 class TestFrameResize : public QObject
 {

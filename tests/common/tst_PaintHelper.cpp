@@ -11,12 +11,11 @@
 
 using namespace Korvex::Meridane::Common;
 
-namespace
-{
+namespace {
 const QColor Orange(248, 151, 29);
 
 /** What @p paint draws on a transparent picture, with (0, 0) at (@p margin, @p margin). */
-QImage painted(const std::function<void(QPainter *)> &paint, int margin = 20, const QSize &size = QSize(160, 160))
+QImage painted(const std::function<void(QPainter*)>& paint, int margin = 20, const QSize& size = QSize(160, 160))
 {
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
@@ -27,7 +26,7 @@ QImage painted(const std::function<void(QPainter *)> &paint, int margin = 20, co
 }
 
 /** The rectangle around every pixel whose alpha is above @p faintest. */
-QRect inkedRect(const QImage &image, int faintest = 0)
+QRect inkedRect(const QImage& image, int faintest = 0)
 {
     QRect rect;
     for (int y = 0; y < image.height(); ++y) {
@@ -40,37 +39,37 @@ QRect inkedRect(const QImage &image, int faintest = 0)
     return rect;
 }
 
-QPen border(int width, const QColor &color = Qt::black)
+QPen border(int width, const QColor& color = Qt::black)
 {
     return QPen(color, width);
 }
 
-using Paint = std::function<void(QPainter *)>;
+using Paint = std::function<void(QPainter*)>;
 
 std::vector<Paint> everyOperation()
 {
     const QPolygonF triangle({QPointF(0, 0), QPointF(50, 0), QPointF(0, 50)});
     return {
-        [](QPainter *p) { PaintHelper::paintRectangle(QSizeF(50, 40), 5, border(3), Orange, p); },
-        [](QPainter *p) { PaintHelper::paintEllipse(QSizeF(50, 40), border(3), Orange, p); },
-        [](QPainter *p) { PaintHelper::paintPolygon(50, 5, border(3), Orange, p); },
-        [=](QPainter *p) { PaintHelper::paintIrregularPolygon(triangle, Orange, p); },
-        [](QPainter *p) { PaintHelper::paintDot(QPointF(20, 20), 10, Orange, p); },
-        [](QPainter *p) {
+        [](QPainter* p) { PaintHelper::paintRectangle(QSizeF(50, 40), 5, border(3), Orange, p); },
+        [](QPainter* p) { PaintHelper::paintEllipse(QSizeF(50, 40), border(3), Orange, p); },
+        [](QPainter* p) { PaintHelper::paintPolygon(50, 5, border(3), Orange, p); },
+        [=](QPainter* p) { PaintHelper::paintIrregularPolygon(triangle, Orange, p); },
+        [](QPainter* p) { PaintHelper::paintDot(QPointF(20, 20), 10, Orange, p); },
+        [](QPainter* p) {
             PaintHelper::paintTextBox(QSizeF(60, 40), QFont(), QPen(Qt::black), QStringLiteral("Text"), 33,
                                       QStringLiteral("Outline"), QPen(QColor(255, 0, 0, 100)), p);
         },
-        [=](QPainter *p) { PaintHelper::paintGradientItem(triangle, QLinearGradient(0, 0, 100, 100), p); },
-        [=](QPainter *p) { PaintHelper::paintGradientItem(triangle, QRadialGradient(25, 25, 20), p); },
-        [=](QPainter *p) { PaintHelper::paintGradientItem(triangle, QConicalGradient(50, 50, 30), p); },
-        [](QPainter *p) {
+        [=](QPainter* p) { PaintHelper::paintGradientItem(triangle, QLinearGradient(0, 0, 100, 100), p); },
+        [=](QPainter* p) { PaintHelper::paintGradientItem(triangle, QRadialGradient(25, 25, 20), p); },
+        [=](QPainter* p) { PaintHelper::paintGradientItem(triangle, QConicalGradient(50, 50, 30), p); },
+        [](QPainter* p) {
             QStyleOptionGraphicsItem option;
             option.state = QStyle::State_Selected;
             PaintHelper::paintHighlightSelected(QRectF(0, 0, 50, 50), p, &option);
         },
     };
 }
-}
+} // namespace
 
 class TestPaintHelper : public QObject
 {
@@ -110,7 +109,7 @@ void TestPaintHelper::paintingStaysInsideItsBoundingRect()
         const int shape = *rc::gen::inRange(0, 3);
         const double length = *rc::gen::inRange(10, 60) / 3.0;
         const QImage image = painted(
-            [&](QPainter *painter) {
+            [&](QPainter* painter) {
                 if (shape == 0) {
                     PaintHelper::paintRectangle(size, *rc::gen::inRange(0, 20), border(width), Orange, painter);
                 } else if (shape == 1) {
@@ -133,7 +132,7 @@ void TestPaintHelper::paintingStaysInsideItsBoundingRect()
 
 void TestPaintHelper::painterComesBackAsItCame()
 {
-    for (const Paint &paint : everyOperation()) {
+    for (const Paint& paint : everyOperation()) {
         QImage image(100, 100, QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::white);
         QPainter painter(&image);
@@ -156,8 +155,8 @@ void TestPaintHelper::painterComesBackAsItCame()
 
 void TestPaintHelper::borderIsCentredOnTheOutline()
 {
-    const QImage image = painted(
-        [](QPainter *p) { PaintHelper::paintRectangle(QSizeF(50, 40), 0, border(4), Orange, p); });
+    const QImage image =
+        painted([](QPainter* p) { PaintHelper::paintRectangle(QSizeF(50, 40), 0, border(4), Orange, p); });
     QCOMPARE(inkedRect(image), QRect(18, 18, 54, 44));
     QCOMPARE(image.pixelColor(18, 18), QColor(Qt::black));
     QCOMPARE(image.pixelColor(21, 30), QColor(Qt::black));
@@ -166,8 +165,8 @@ void TestPaintHelper::borderIsCentredOnTheOutline()
 
 void TestPaintHelper::sharpRectangleHasSharpOuterCorners()
 {
-    const QImage image = painted(
-        [](QPainter *p) { PaintHelper::paintRectangle(QSizeF(50, 40), 0, border(20), Qt::NoBrush, p); });
+    const QImage image =
+        painted([](QPainter* p) { PaintHelper::paintRectangle(QSizeF(50, 40), 0, border(20), Qt::NoBrush, p); });
     QCOMPARE(image.pixelColor(10, 10), QColor(Qt::black));
     QCOMPARE(image.pixelColor(79, 69), QColor(Qt::black));
 }
@@ -175,9 +174,8 @@ void TestPaintHelper::sharpRectangleHasSharpOuterCorners()
 void TestPaintHelper::cornerRadiusIsLimitedToHalfTheSmallerSide()
 {
     const auto rectangle = [](int radius) {
-        return painted([radius](QPainter *p) {
-            PaintHelper::paintRectangle(QSizeF(60, 40), radius, border(2), Orange, p);
-        });
+        return painted(
+            [radius](QPainter* p) { PaintHelper::paintRectangle(QSizeF(60, 40), radius, border(2), Orange, p); });
     };
     QCOMPARE(rectangle(20), rectangle(100));
     QVERIFY(rectangle(20) != rectangle(19));
@@ -192,8 +190,8 @@ void TestPaintHelper::penOrBrushThatDoesNotCountIsNotDrawn()
     QVERIFY(!PaintHelper::penCounts(border(3, QColor())));
     QVERIFY(!PaintHelper::penCounts(QPen(Qt::NoPen)));
 
-    const auto ink = [](const QPen &pen, const QBrush &brush) {
-        return inkedRect(painted([&](QPainter *p) { PaintHelper::paintEllipse(QSizeF(50, 40), pen, brush, p); }));
+    const auto ink = [](const QPen& pen, const QBrush& brush) {
+        return inkedRect(painted([&](QPainter* p) { PaintHelper::paintEllipse(QSizeF(50, 40), pen, brush, p); }));
     };
     QCOMPARE(ink(border(0), Orange), QRect(20, 20, 50, 40));
     QCOMPARE(ink(border(4, QColor()), Orange), QRect(20, 20, 50, 40));
@@ -203,8 +201,8 @@ void TestPaintHelper::penOrBrushThatDoesNotCountIsNotDrawn()
 
 void TestPaintHelper::emptySizesDrawNothing()
 {
-    const QImage image = painted([](QPainter *p) {
-        for (const QSizeF &size : {QSizeF(0, 10), QSizeF(10, 0), QSizeF(-5, 10), QSizeF(qQNaN(), 10)}) {
+    const QImage image = painted([](QPainter* p) {
+        for (const QSizeF& size : {QSizeF(0, 10), QSizeF(10, 0), QSizeF(-5, 10), QSizeF(qQNaN(), 10)}) {
             PaintHelper::paintRectangle(size, 0, border(4), Orange, p);
             PaintHelper::paintEllipse(size, border(4), Orange, p);
             PaintHelper::paintTextBox(size, QFont(), QPen(Qt::black), QStringLiteral("Text"), 33, QString(), QPen(), p);
@@ -222,8 +220,7 @@ void TestPaintHelper::emptySizesDrawNothing()
 
 void TestPaintHelper::ellipseTouchesItsSides()
 {
-    const QImage image = painted(
-        [](QPainter *p) { PaintHelper::paintEllipse(QSizeF(100, 60), border(0), Orange, p); });
+    const QImage image = painted([](QPainter* p) { PaintHelper::paintEllipse(QSizeF(100, 60), border(0), Orange, p); });
     QCOMPARE(inkedRect(image), QRect(20, 20, 100, 60));
     QCOMPARE(image.pixelColor(70, 50), Orange);
     QCOMPARE(qAlpha(image.pixel(22, 22)), 0);
@@ -232,8 +229,8 @@ void TestPaintHelper::ellipseTouchesItsSides()
 void TestPaintHelper::polygonReturnsItsOutlineAndMitresItsCorners()
 {
     QPolygonF outline;
-    const QImage image = painted(
-        [&](QPainter *p) { outline = PaintHelper::paintPolygon(60, 3, border(10), Orange, p); });
+    const QImage image =
+        painted([&](QPainter* p) { outline = PaintHelper::paintPolygon(60, 3, border(10), Orange, p); });
     QCOMPARE(outline.size(), 3);
     QCOMPARE(outline.boundingRect().topLeft(), QPointF(0, 0));
     QCOMPARE(outline.boundingRect().width(), 60.0);
@@ -250,14 +247,14 @@ void TestPaintHelper::crossedPolygonIsFilledByTheOddEvenRule()
         const double angle = 4 * M_PI * i / 5;
         star.append(QPointF(50 + 50 * std::sin(angle), 50 - 50 * std::cos(angle)));
     }
-    const QImage image = painted([&](QPainter *p) { PaintHelper::paintIrregularPolygon(star, Orange, p); });
+    const QImage image = painted([&](QPainter* p) { PaintHelper::paintIrregularPolygon(star, Orange, p); });
     QCOMPARE(qAlpha(image.pixel(70, 70)), 0);
     QCOMPARE(image.pixelColor(70, 35), Orange);
 }
 
 void TestPaintHelper::dotHasItsDiameter()
 {
-    const QImage image = painted([](QPainter *p) { PaintHelper::paintDot(QPointF(30, 30), 10, Qt::red, p); });
+    const QImage image = painted([](QPainter* p) { PaintHelper::paintDot(QPointF(30, 30), 10, Qt::red, p); });
     QCOMPARE(inkedRect(image), QRect(45, 45, 10, 10));
     QCOMPARE(image.pixelColor(50, 50), QColor(Qt::red));
 }
@@ -272,7 +269,7 @@ void TestPaintHelper::selectionFrameOnlyWhenSelected()
 {
     QStyleOptionGraphicsItem option;
     const auto frame = [&option](bool withOption) {
-        return inkedRect(painted([&](QPainter *p) {
+        return inkedRect(painted([&](QPainter* p) {
             PaintHelper::paintHighlightSelected(QRectF(0, 0, 50, 40), p, withOption ? &option : nullptr);
         }));
     };

@@ -9,12 +9,11 @@
 
 using namespace Korvex::Meridane::Common;
 
-namespace
-{
+namespace {
 const QGradientStops BlackToWhite = {{0, Qt::black}, {1, Qt::white}};
 
 template <typename Gradient>
-QImage painted(const QPolygonF &polygon, Gradient gradient, const QGradientStops &stops = BlackToWhite)
+QImage painted(const QPolygonF& polygon, Gradient gradient, const QGradientStops& stops = BlackToWhite)
 {
     gradient.setStops(stops);
     QImage image(220, 120, QImage::Format_ARGB32_Premultiplied);
@@ -24,13 +23,13 @@ QImage painted(const QPolygonF &polygon, Gradient gradient, const QGradientStops
     return image;
 }
 
-int grey(const QImage &image, int x, int y)
+int grey(const QImage& image, int x, int y)
 {
     return image.pixelColor(x, y).red();
 }
 
 const QPolygonF Wide(QRectF(10, 10, 200, 100));
-}
+} // namespace
 
 class TestPaintHelperGradients : public QObject
 {
@@ -71,7 +70,7 @@ void TestPaintHelperGradients::radialPointsArePixels()
 {
     const QImage image = painted(Wide, QRadialGradient(QPointF(60, 60), 40, QPointF(60, 60)));
     QVERIFY(grey(image, 60, 60) < 8);
-    for (const QPoint &point : {QPoint(80, 60), QPoint(40, 60), QPoint(60, 40), QPoint(60, 80)}) {
+    for (const QPoint& point : {QPoint(80, 60), QPoint(40, 60), QPoint(60, 40), QPoint(60, 80)}) {
         QVERIFY(qAbs(grey(image, point.x(), point.y()) - 128) < 8);
     }
     QVERIFY(grey(image, 150, 60) > 251);

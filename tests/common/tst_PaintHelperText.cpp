@@ -7,8 +7,7 @@
 
 using namespace Korvex::Meridane::Common;
 
-namespace
-{
+namespace {
 constexpr int Margin = 10;
 
 struct Box
@@ -30,7 +29,7 @@ Box box(int pixelSize = 20)
     return result;
 }
 
-QImage painted(const Box &box, double pixelRatio = 1, double opacity = 1)
+QImage painted(const Box& box, double pixelRatio = 1, double opacity = 1)
 {
     QImage image((QSizeF(200, 140) * pixelRatio).toSize(), QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(pixelRatio);
@@ -43,7 +42,7 @@ QImage painted(const Box &box, double pixelRatio = 1, double opacity = 1)
 }
 
 /** The rectangle around every pixel that is not white. */
-QRect inkedRect(const QImage &image)
+QRect inkedRect(const QImage& image)
 {
     QRect rect;
     for (int y = 0; y < image.height(); ++y) {
@@ -56,7 +55,7 @@ QRect inkedRect(const QImage &image)
     return rect;
 }
 
-int reddish(const QImage &image)
+int reddish(const QImage& image)
 {
     int count = 0;
     for (int y = 0; y < image.height(); ++y) {
@@ -67,7 +66,7 @@ int reddish(const QImage &image)
     }
     return count;
 }
-}
+} // namespace
 
 class TestPaintHelperText : public QObject
 {
@@ -192,7 +191,7 @@ void TestPaintHelperText::everyKindOfLineBreakStartsALine()
     lines.text = QStringLiteral("a\nb");
     const QImage expected = painted(lines);
     QVERIFY(inkedRect(expected).height() > 30);
-    for (const char *text : {"a\r\nb", "a\rb"}) {
+    for (const char* text : {"a\r\nb", "a\rb"}) {
         lines.text = QString::fromLatin1(text);
         QCOMPARE(painted(lines), expected);
     }
@@ -200,7 +199,7 @@ void TestPaintHelperText::everyKindOfLineBreakStartsALine()
 
 void TestPaintHelperText::nothingIsDrawnOutsideTheBox()
 {
-    for (const char *style : {"Normal", "Outline", "Raised", "Sunken"}) {
+    for (const char* style : {"Normal", "Outline", "Raised", "Sunken"}) {
         for (int alpha : {255, 90}) {
             Box small = box(60);
             small.text = QStringLiteral("WWW\nWWW\nWWW");
@@ -242,7 +241,7 @@ void TestPaintHelperText::outlineSurroundsTheLetters()
 void TestPaintHelperText::unknownStyleIsPlain()
 {
     Box styled = box();
-    for (const char *style : {"Normal", "Standard", "outline", ""}) {
+    for (const char* style : {"Normal", "Standard", "outline", ""}) {
         styled.style = QString::fromLatin1(style);
         QCOMPARE(painted(styled), painted(box()));
     }

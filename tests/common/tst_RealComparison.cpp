@@ -50,8 +50,9 @@ void TestRealComparison::roundingMatchesWholeNumberArithmetic()
 {
     QVERIFY(rc::check("as with integers", [](int whole) {
         const double value = whole + *rc::gen::inRange(0, 1000) / 1000.0;
-        const double expected = value >= 0 ? double(qint64(value + 0.5))
-                                           : double(qint64(value - double(qint64(value - 1)) + 0.5) + qint64(value - 1));
+        const double expected = value >= 0
+                                    ? double(qint64(value + 0.5))
+                                    : double(qint64(value - double(qint64(value - 1)) + 0.5) + qint64(value - 1));
         RC_ASSERT(roundedToWhole(value) == expected);
     }));
 }

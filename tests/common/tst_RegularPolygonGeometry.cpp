@@ -49,7 +49,7 @@ void TestRegularPolygonGeometry::boundingRectangleIsThatOfTheMitredOutline()
             const double scale = (radius + 0.5 * evenPenWidth(border) / std::cos(M_PI / edges)) / radius;
             QPolygonF grown = regularPolygon(edges, length);
             const QPointF centre(grown.first().x(), radius);
-            for (QPointF &vertex : grown) {
+            for (QPointF& vertex : grown) {
                 vertex = centre + (vertex - centre) * scale;
             }
             const QRectF expected = grown.boundingRect();

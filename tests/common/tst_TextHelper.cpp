@@ -9,27 +9,25 @@
 
 using namespace Korvex::Meridane::Common;
 
-namespace
-{
+namespace {
 /** Any text: units that are dangerous in source text are as likely as all others together. */
 QString someText()
 {
-    static const std::vector<char16_t> dangerous = {u'"',   u'\'',  u'\\',  u'\n',  u'\r',  u'\t',  0,      1,
-                                                    0x7f,   0x85,   0xa0,   0x2028, 0x2029, 0xd800, 0xdbff, 0xdc00,
-                                                    0xdfff, 0xfeff, 0xfffe, 0xffff, u'$',   u'{',   u'}',   u'`',
-                                                    u'u',   u'0',   u'/',   u'*',   u'%',   0x1f};
+    static const std::vector<char16_t> dangerous = {
+        u'"',   u'\'',  u'\\',  u'\n',  u'\r',  u'\t', 0,    1,    0x7f, 0x85, 0xa0, 0x2028, 0x2029, 0xd800, 0xdbff,
+        0xdc00, 0xdfff, 0xfeff, 0xfffe, 0xffff, u'$',  u'{', u'}', u'`', u'u', u'0', u'/',   u'*',   u'%',   0x1f};
     const auto unit = rc::gen::weightedOneOf<char16_t>(
         {{1, rc::gen::elementOf(dangerous)},
          {1, rc::gen::map(rc::gen::inRange(0, 0x10000), [](int value) { return static_cast<char16_t>(value); })}});
     const std::vector<char16_t> units = *rc::gen::container<std::vector<char16_t>>(unit);
-    return QString(reinterpret_cast<const QChar *>(units.data()), static_cast<qsizetype>(units.size()));
+    return QString(reinterpret_cast<const QChar*>(units.data()), static_cast<qsizetype>(units.size()));
 }
 
-QString inQuotes(const QString &text)
+QString inQuotes(const QString& text)
 {
     return QLatin1Char('"') + TextHelper::toQmlValueString(text) + QLatin1Char('"');
 }
-}
+} // namespace
 
 class TestTextHelper : public QObject
 {

@@ -24,7 +24,7 @@ private Q_SLOTS:
 
 void TestTransformOrigin::namesAndNumbersAreEachOthersInverse()
 {
-    const char *const names[] = {"TopLeft", "Top",        "TopRight", "Left",       "Center",
+    const char* const names[] = {"TopLeft", "Top",        "TopRight", "Left",       "Center",
                                  "Right",   "BottomLeft", "Bottom",   "BottomRight"};
     for (int number = 0; number < 9; ++number) {
         const QString name = QString::fromLatin1(names[number]);
@@ -38,7 +38,7 @@ void TestTransformOrigin::namesAndNumbersAreEachOthersInverse()
 
 void TestTransformOrigin::unknownNamesAreRefused()
 {
-    for (const char *text : {"", "center", "Top Left", " Top", "4"}) {
+    for (const char* text : {"", "center", "Top Left", " Top", "4"}) {
         bool ok = true;
         QCOMPARE(transformOriginFromName(QString::fromLatin1(text), &ok), Center);
         QVERIFY(!ok);

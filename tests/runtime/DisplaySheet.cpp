@@ -10,9 +10,8 @@
 
 using namespace Korvex::Meridane;
 
-namespace
-{
-QTransform elementTransform(const QQuickItem *item)
+namespace {
+QTransform elementTransform(const QQuickItem* item)
 {
     const QRectF content(0, 0, item->width(), item->height());
     const auto origin = Common::transformOriginFromName(item->property("fixedPoint").toString());
@@ -20,16 +19,16 @@ QTransform elementTransform(const QQuickItem *item)
 }
 
 /** The largest difference of a channel; both pictures have the size and 32 bits a pixel. */
-int pixelDifference(const QImage &a, const QImage &b, int x, int y)
+int pixelDifference(const QImage& a, const QImage& b, int x, int y)
 {
-    const QRgb first = reinterpret_cast<const QRgb *>(a.constScanLine(y))[x];
-    const QRgb second = reinterpret_cast<const QRgb *>(b.constScanLine(y))[x];
+    const QRgb first = reinterpret_cast<const QRgb*>(a.constScanLine(y))[x];
+    const QRgb second = reinterpret_cast<const QRgb*>(b.constScanLine(y))[x];
     return qMax(qAbs(qRed(first) - qRed(second)),
                 qMax(qAbs(qGreen(first) - qGreen(second)), qAbs(qBlue(first) - qBlue(second))));
 }
-}
+} // namespace
 
-DisplaySheet::DisplaySheet(const QString &type)
+DisplaySheet::DisplaySheet(const QString& type)
 {
     m_view.engine()->addImportPath(importPath());
     QQmlComponent component(m_view.engine());
@@ -37,14 +36,14 @@ DisplaySheet::DisplaySheet(const QString &type)
         "import Meridane.Display\n"
         "Screen { width: 300; height: 200; color: \"#e0f0ff\"; Group { objectName: \"group\"; %1 { objectName: \"item\" } } }\n");
     component.setData(file.arg(type).toUtf8(), QUrl(QStringLiteral("sheet.qml")));
-    QObject *root = component.create();
+    QObject* root = component.create();
     if (!root) {
         qWarning("%s", qPrintable(component.errorString()));
         return;
     }
     m_view.setContent(QUrl(), nullptr, root);
-    m_group = root->findChild<QQuickItem *>(QStringLiteral("group"));
-    m_item = root->findChild<QQuickItem *>(QStringLiteral("item"));
+    m_group = root->findChild<QQuickItem*>(QStringLiteral("group"));
+    m_item = root->findChild<QQuickItem*>(QStringLiteral("item"));
     m_view.show();
 }
 
@@ -53,17 +52,17 @@ bool DisplaySheet::isValid() const
     return m_item != nullptr;
 }
 
-QQuickItem *DisplaySheet::screen() const
+QQuickItem* DisplaySheet::screen() const
 {
     return m_view.rootObject();
 }
 
-QQuickItem *DisplaySheet::group() const
+QQuickItem* DisplaySheet::group() const
 {
     return m_group;
 }
 
-QQuickItem *DisplaySheet::item() const
+QQuickItem* DisplaySheet::item() const
 {
     return m_item;
 }
@@ -74,7 +73,7 @@ QImage DisplaySheet::running()
     return m_view.grabWindow().convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
-QImage DisplaySheet::painted(const std::function<void(QPainter *)> &paint) const
+QImage DisplaySheet::painted(const std::function<void(QPainter*)>& paint) const
 {
     const double pixelRatio = m_view.effectiveDevicePixelRatio();
     QImage image((QSizeF(m_view.size()) * pixelRatio).toSize(), QImage::Format_ARGB32_Premultiplied);
@@ -86,7 +85,7 @@ QImage DisplaySheet::painted(const std::function<void(QPainter *)> &paint) const
     return image;
 }
 
-int DisplaySheet::difference(const QImage &a, const QImage &b)
+int DisplaySheet::difference(const QImage& a, const QImage& b)
 {
     if (a.size() != b.size()) {
         return 255;
@@ -100,7 +99,7 @@ int DisplaySheet::difference(const QImage &a, const QImage &b)
     return largest;
 }
 
-int DisplaySheet::pixelsThatDiffer(const QImage &a, const QImage &b, int tolerance)
+int DisplaySheet::pixelsThatDiffer(const QImage& a, const QImage& b, int tolerance)
 {
     if (a.size() != b.size()) {
         return a.width() * a.height();

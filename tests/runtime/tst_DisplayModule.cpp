@@ -7,14 +7,13 @@
 
 #include <memory>
 
-namespace
-{
+namespace {
 QString importPath()
 {
     return QCoreApplication::applicationDirPath() + QLatin1String("/../qml");
 }
 
-QString run(const QString &program, const QStringList &arguments, int *exitCode)
+QString run(const QString& program, const QStringList& arguments, int* exitCode)
 {
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
@@ -56,7 +55,7 @@ Screen {
 	}
 }
 )";
-}
+} // namespace
 
 class TestDisplayModule : public QObject
 {
@@ -70,10 +69,10 @@ private Q_SLOTS:
     void baseTypesCannotBeCreated();
 
 private:
-    QString lint(const QByteArray &text, int *exitCode) const;
+    QString lint(const QByteArray& text, int* exitCode) const;
 };
 
-QString TestDisplayModule::lint(const QByteArray &text, int *exitCode) const
+QString TestDisplayModule::lint(const QByteArray& text, int* exitCode) const
 {
     const QTemporaryDir folder;
     QFile file(folder.filePath(QStringLiteral("Sample.qml")));
@@ -88,7 +87,7 @@ void TestDisplayModule::needsNoWidgets()
     const QDir module(importPath() + QLatin1String("/Meridane/Display"));
     const QStringList libraries = module.entryList({QStringLiteral("*.so")}, QDir::Files);
     QVERIFY(!libraries.isEmpty());
-    for (const QString &library : libraries) {
+    for (const QString& library : libraries) {
         int exitCode = -1;
         // Everything that is loaded with it, directly or not.
         const QString needed = run(QStringLiteral("ldd"), {module.filePath(library)}, &exitCode);
@@ -140,7 +139,7 @@ void TestDisplayModule::baseTypesCannotBeCreated()
 {
     QQmlEngine engine;
     engine.addImportPath(importPath());
-    for (const char *type : {"DisplayItem", "DisplayElement", "OutlinePainter"}) {
+    for (const char* type : {"DisplayItem", "DisplayElement", "OutlinePainter"}) {
         QQmlComponent component(&engine);
         component.setData(QByteArray("import Meridane.Display\n") + type + " { }\n", QUrl());
         QVERIFY(component.isError());

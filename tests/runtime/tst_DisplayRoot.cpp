@@ -9,14 +9,13 @@
 
 #include <memory>
 
-namespace
-{
+namespace {
 const QByteArray Main = "import Meridane.Display\n\nDisplay {\n\twidth: 800\n\theight: 480\n"
                         "\tscreens: [ \"main\", \"settings\" ]\n}\n";
 const QByteArray Settings = "import Meridane.Display\n\nScreen {\n\tid: settings\n\tcolor: \"#202020\"\n}\n";
 const QByteArray FirstScreen = "import Meridane.Display\n\nScreen {\n\tid: main\n\tcolor: \"#00ff00\"\n"
                                "\tRectangle2 {\n\t\tid: rectangle1\n\t\twidth: 100\n\t\theight: 75\n\t}\n}\n";
-}
+} // namespace
 
 class TestDisplayRoot : public QObject
 {
@@ -40,8 +39,8 @@ private Q_SLOTS:
     void brokenFontIsReported();
 
 private:
-    void write(const QString &name, const QByteArray &text) const;
-    std::unique_ptr<QQuickItem> create(const QVariantMap &properties = {});
+    void write(const QString& name, const QByteArray& text) const;
+    std::unique_ptr<QQuickItem> create(const QVariantMap& properties = {});
 
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<QQmlEngine> m_engine;
@@ -61,8 +60,8 @@ void TestDisplayRoot::init()
     m_engine = std::make_unique<QQmlEngine>();
     m_engine->setOutputWarningsToStandardError(false);
     m_engine->addImportPath(QCoreApplication::applicationDirPath() + QLatin1String("/../qml"));
-    connect(m_engine.get(), &QQmlEngine::warnings, this, [this](const QList<QQmlError> &warnings) {
-        for (const QQmlError &warning : warnings) {
+    connect(m_engine.get(), &QQmlEngine::warnings, this, [this](const QList<QQmlError>& warnings) {
+        for (const QQmlError& warning : warnings) {
             m_warnings.append(warning.toString());
         }
     });
@@ -71,20 +70,20 @@ void TestDisplayRoot::init()
     write(QStringLiteral("screens/settings.qml"), Settings);
 }
 
-void TestDisplayRoot::write(const QString &name, const QByteArray &text) const
+void TestDisplayRoot::write(const QString& name, const QByteArray& text) const
 {
     QFile file(m_folder->filePath(name));
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
 }
 
-std::unique_ptr<QQuickItem> TestDisplayRoot::create(const QVariantMap &properties)
+std::unique_ptr<QQuickItem> TestDisplayRoot::create(const QVariantMap& properties)
 {
     QQmlComponent component(m_engine.get(), QUrl::fromLocalFile(m_folder->filePath(QStringLiteral("Main.qml"))));
-    QObject *object = component.createWithInitialProperties(properties);
+    QObject* object = component.createWithInitialProperties(properties);
     if (!object) {
         qWarning("%s", qPrintable(component.errorString()));
     }
-    return std::unique_ptr<QQuickItem>(qobject_cast<QQuickItem *>(object));
+    return std::unique_ptr<QQuickItem>(qobject_cast<QQuickItem*>(object));
 }
 
 void TestDisplayRoot::firstScreenIsShown()
@@ -94,7 +93,7 @@ void TestDisplayRoot::firstScreenIsShown()
     QCOMPARE(display->size(), QSizeF(800, 480));
     QCOMPARE(display->property("currentScreen").toString(), QStringLiteral("main"));
     QCOMPARE(display->childItems().size(), 1);
-    const QQuickItem *screen = display->childItems().constFirst();
+    const QQuickItem* screen = display->childItems().constFirst();
     QCOMPARE(screen->property("color").value<QColor>(), QColor(0, 255, 0));
     QCOMPARE(screen->size(), QSizeF(800, 480));
     QVERIFY(m_warnings.isEmpty());
@@ -146,7 +145,7 @@ void TestDisplayRoot::unknownInitialScreenIsReported()
 void TestDisplayRoot::namesHoldNoPath()
 {
     write(QStringLiteral("outside.qml"), Settings);
-    for (const char *name : {"../outside", "..\\\\outside", "..", ".hidden", "/etc/outside"}) {
+    for (const char* name : {"../outside", "..\\\\outside", "..", ".hidden", "/etc/outside"}) {
         m_warnings.clear();
         write(QStringLiteral("Main.qml"), QByteArray(Main).replace("main", name));
         m_engine->clearComponentCache();

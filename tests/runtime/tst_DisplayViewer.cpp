@@ -12,13 +12,12 @@
 
 using namespace Korvex::Meridane::Display;
 
-namespace
-{
-ViewerOptions parse(const QStringList &arguments)
+namespace {
+ViewerOptions parse(const QStringList& arguments)
 {
     return parseViewerOptions(QStringList{QStringLiteral("meridane-viewer")} + arguments);
 }
-}
+} // namespace
 
 class TestDisplayViewer : public QObject
 {
@@ -41,8 +40,9 @@ private Q_SLOTS:
     void importPathsAreSearched();
 
 private:
-    void write(const QString &name, const QByteArray &text) const;
-    int view(const QStringList &arguments, const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment());
+    void write(const QString& name, const QByteArray& text) const;
+    int view(const QStringList& arguments,
+             const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment());
     [[nodiscard]] QString picture() const;
 
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -63,13 +63,13 @@ void TestDisplayViewer::init()
           "import Meridane.Display\n\nScreen {\n\twidth: 200\n\theight: 120\n\tcolor: \"#0000ff\"\n}\n");
 }
 
-void TestDisplayViewer::write(const QString &name, const QByteArray &text) const
+void TestDisplayViewer::write(const QString& name, const QByteArray& text) const
 {
     QFile file(m_folder->filePath(name));
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
 }
 
-int TestDisplayViewer::view(const QStringList &arguments, const QProcessEnvironment &environment)
+int TestDisplayViewer::view(const QStringList& arguments, const QProcessEnvironment& environment)
 {
     QProcess process;
     process.setProcessEnvironment(environment);
@@ -102,11 +102,10 @@ void TestDisplayViewer::optionsAreRead()
 
 void TestDisplayViewer::wrongUsageIsTold()
 {
-    for (const QStringList &arguments :
-         {QStringList(), QStringList{QStringLiteral("a"), QStringLiteral("b")},
-          QStringList{QStringLiteral("a"), QStringLiteral("--nothing")},
-          QStringList{QStringLiteral("a"), QStringLiteral("--grab")},
-          QStringList{QStringLiteral("a"), QStringLiteral("--grab=")}}) {
+    for (const QStringList& arguments : {QStringList(), QStringList{QStringLiteral("a"), QStringLiteral("b")},
+                                         QStringList{QStringLiteral("a"), QStringLiteral("--nothing")},
+                                         QStringList{QStringLiteral("a"), QStringLiteral("--grab")},
+                                         QStringList{QStringLiteral("a"), QStringLiteral("--grab=")}}) {
         const ViewerOptions options = parse(arguments);
         QVERIFY(options.result == ViewerOptions::Result::Wrong);
         QVERIFY(!options.message.isEmpty());
@@ -183,7 +182,7 @@ void TestDisplayViewer::unwritablePictureFails()
     QVERIFY(m_messages.contains(file));
     const QString pipe = m_folder->filePath(QStringLiteral("pipe"));
     QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-    for (const QString &target : {pipe, m_folder->filePath(QStringLiteral("export"))}) {
+    for (const QString& target : {pipe, m_folder->filePath(QStringLiteral("export"))}) {
         QCOMPARE(view({QStringLiteral("export"), QStringLiteral("--grab"), target}), 1);
         QVERIFY(m_messages.contains(target));
         QVERIFY(!QFileInfo(target).isFile());
@@ -209,7 +208,8 @@ void TestDisplayViewer::importPathsAreSearched()
 {
     QVERIFY(QDir(m_folder->path()).mkpath(QStringLiteral("modules/Sample")));
     write(QStringLiteral("modules/Sample/qmldir"), "module Sample\nDot 1.0 Dot.qml\n");
-    write(QStringLiteral("modules/Sample/Dot.qml"), "import Meridane.Display\nRectangle2 { width: 200; height: 120 }\n");
+    write(QStringLiteral("modules/Sample/Dot.qml"),
+          "import Meridane.Display\nRectangle2 { width: 200; height: 120 }\n");
     write(QStringLiteral("export/screens/main.qml"), "import Meridane.Display\nimport Sample\nScreen { Dot { } }\n");
     QCOMPARE(view({QStringLiteral("export"), QStringLiteral("--import"), QStringLiteral("modules"),
                    QStringLiteral("--grab"), picture()}),

@@ -8,12 +8,11 @@
 
 using namespace Korvex::Meridane::Display;
 
-namespace
-{
+namespace {
 const QSizeF Window(800, 480);
 
 /** The transformation from the child to the pixels of the screen, as a scene graph applies it. */
-QTransform painterToPixels(const PainterPlacement &placement, const QTransform &itemToScene, double pixelRatio)
+QTransform painterToPixels(const PainterPlacement& placement, const QTransform& itemToScene, double pixelRatio)
 {
     QTransform local;
     local.translate(placement.position.x(), placement.position.y());
@@ -26,7 +25,7 @@ bool isWhole(double value)
 {
     return std::abs(value - std::round(value)) < 1e-6;
 }
-}
+} // namespace
 
 class TestPainterPlacement : public QObject
 {
@@ -44,7 +43,8 @@ private Q_SLOTS:
 
 void TestPainterPlacement::wholePositionsAreCoveredExactly()
 {
-    const PainterPlacement placement = placePainter(QRectF(-2, -2, 54, 44), QTransform::fromTranslate(10, 20), 1, Window);
+    const PainterPlacement placement =
+        placePainter(QRectF(-2, -2, 54, 44), QTransform::fromTranslate(10, 20), 1, Window);
     QCOMPARE(placement.position, QPointF(-2, -2));
     QCOMPARE(placement.size, QSizeF(54, 44));
     QCOMPARE(placement.contentToPainter.map(QPointF(0, 0)), QPointF(2, 2));
@@ -55,7 +55,8 @@ void TestPainterPlacement::wholePositionsAreCoveredExactly()
 
 void TestPainterPlacement::fractionsAreRoundedOut()
 {
-    const PainterPlacement single = placePainter(QRectF(0, 0, 50, 40), QTransform::fromTranslate(10.3, 20.6), 1, Window);
+    const PainterPlacement single =
+        placePainter(QRectF(0, 0, 50, 40), QTransform::fromTranslate(10.3, 20.6), 1, Window);
     QCOMPARE(single.position, QPointF(-0.3, -0.6));
     QCOMPARE(single.size, QSizeF(51, 41));
     const PainterPlacement twice = placePainter(QRectF(0, 0, 50, 40), QTransform::fromTranslate(10.3, 20.6), 2, Window);
@@ -98,7 +99,8 @@ void TestPainterPlacement::everyPlacementLiesOnWholePixels()
 
 void TestPainterPlacement::skewedItemsAreCoveredInTheirOwnCoordinates()
 {
-    for (const QTransform &skewed : {QTransform().shear(0.3, 0), QTransform::fromScale(2, 1), QTransform::fromScale(-1, 1)}) {
+    for (const QTransform& skewed :
+         {QTransform().shear(0.3, 0), QTransform::fromScale(2, 1), QTransform::fromScale(-1, 1)}) {
         const PainterPlacement placement = placePainter(QRectF(-0.5, 0, 50, 40), skewed, 1, Window);
         QVERIFY(!placement.turnedToScene);
         QCOMPARE(QRectF(placement.position, placement.size), QRectF(-2, -1, 53, 42));

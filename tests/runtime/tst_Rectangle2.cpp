@@ -12,8 +12,7 @@
 
 using namespace Korvex::Meridane;
 
-namespace
-{
+namespace {
 /** By how much the running picture may differ from the painted one: rounding of translucent colours. */
 constexpr int Tolerance = 8;
 
@@ -35,16 +34,16 @@ QColor someColor()
 }
 
 /** The rectangle of the sheet, painted by the function that paints it on the canvas. */
-QImage painted(const DisplaySheet &sheet)
+QImage painted(const DisplaySheet& sheet)
 {
-    const QQuickItem *item = sheet.item();
-    return sheet.painted([item](QPainter *painter) {
+    const QQuickItem* item = sheet.item();
+    return sheet.painted([item](QPainter* painter) {
         const QPen pen(item->property("borderColor").value<QColor>(), item->property("borderWidth").toInt());
         Common::PaintHelper::paintRectangle(item->size(), item->property("cornerRadius").toInt(), pen,
                                             item->property("color").value<QColor>(), painter);
     });
 }
-}
+} // namespace
 
 class TestRectangle2 : public QObject
 {
@@ -84,7 +83,7 @@ void TestRectangle2::init()
 
 void TestRectangle2::defaultsAreThoseOfTheElement()
 {
-    const QQuickItem *item = m_sheet->item();
+    const QQuickItem* item = m_sheet->item();
     QCOMPARE(item->property("color").value<QColor>(), QColor(248, 151, 29));
     QCOMPARE(item->property("cornerRadius").toInt(), 0);
     QCOMPARE(item->property("borderWidth").toInt(), 0);
@@ -95,7 +94,7 @@ void TestRectangle2::defaultsAreThoseOfTheElement()
 void TestRectangle2::looksAsPaintedOnTheCanvas()
 {
     QVERIFY(rc::check("the same picture", [this] {
-        QQuickItem *item = m_sheet->item();
+        QQuickItem* item = m_sheet->item();
         m_sheet->group()->setPosition(QPointF(real(-20, 60), real(-20, 60)));
         item->setPosition(QPointF(real(-20, 100), real(-20, 60)));
         item->setSize(QSizeF(real(1, 160), real(1, 120)));
@@ -110,11 +109,11 @@ void TestRectangle2::looksAsPaintedOnTheCanvas()
 
 void TestRectangle2::looksAsPaintedWhenTurned()
 {
-    static const std::vector<QString> names = {QStringLiteral("TopLeft"), QStringLiteral("Top"),
-                                               QStringLiteral("Right"), QStringLiteral("Center"),
+    static const std::vector<QString> names = {QStringLiteral("TopLeft"),    QStringLiteral("Top"),
+                                               QStringLiteral("Right"),      QStringLiteral("Center"),
                                                QStringLiteral("BottomLeft"), QStringLiteral("BottomRight")};
     QVERIFY(rc::check("the same picture at every angle", [this] {
-        QQuickItem *item = m_sheet->item();
+        QQuickItem* item = m_sheet->item();
         m_sheet->group()->setPosition(QPointF(real(20, 60), real(20, 60)));
         m_sheet->group()->setSize(QSizeF(real(20, 160), real(20, 120)));
         m_sheet->group()->setRotation(*rc::gen::element(0.0, 0.0, 15.0));
@@ -161,7 +160,7 @@ void TestRectangle2::everyPropertyIsLive()
 {
     QFETCH(QByteArray, property);
     QFETCH(QVariant, value);
-    QQuickItem *item = m_sheet->item();
+    QQuickItem* item = m_sheet->item();
     item->setProperty("borderWidth", 4);
     item->setProperty("cornerRadius", 6);
     item->setRotation(property == "fixedPoint" ? 30 : 0);
@@ -179,8 +178,8 @@ void TestRectangle2::everyPropertyIsLive()
 
 void TestRectangle2::sameValueIsNoChange()
 {
-    QQuickItem *item = m_sheet->item();
-    for (const char *property : {"color", "cornerRadius", "borderWidth", "borderColor", "fixedPoint"}) {
+    QQuickItem* item = m_sheet->item();
+    for (const char* property : {"color", "cornerRadius", "borderWidth", "borderColor", "fixedPoint"}) {
         const QMetaProperty meta = item->metaObject()->property(item->metaObject()->indexOfProperty(property));
         QSignalSpy changed(item, QByteArray(QByteArray::number(QSIGNAL_CODE) + meta.notifySignal().methodSignature()));
         QVERIFY(meta.write(item, meta.read(item)));
@@ -190,7 +189,7 @@ void TestRectangle2::sameValueIsNoChange()
 
 void TestRectangle2::hiddenChangesShowLater()
 {
-    QQuickItem *item = m_sheet->item();
+    QQuickItem* item = m_sheet->item();
     static_cast<void>(m_sheet->running());
     item->setVisible(false);
     static_cast<void>(m_sheet->running());
@@ -203,10 +202,10 @@ void TestRectangle2::hiddenChangesShowLater()
 
 void TestRectangle2::repaintsOnlyWhenItsPixelsChange()
 {
-    QQuickItem *item = m_sheet->item();
+    QQuickItem* item = m_sheet->item();
     item->setPosition(QPointF(40.25, 30));
     static_cast<void>(m_sheet->running());
-    const QQuickItem *painter = item->childItems().constFirst();
+    const QQuickItem* painter = item->childItems().constFirst();
     const QSizeF size = painter->size();
     const QPointF position = painter->position();
     // By whole pixels the same picture moves along.
@@ -225,10 +224,10 @@ void TestRectangle2::unknownFixedPointIsRefused()
 
 void TestRectangle2::hugeRectangleIsPaintedWhereItShows()
 {
-    QQuickItem *item = m_sheet->item();
+    QQuickItem* item = m_sheet->item();
     item->setSize(QSizeF(9000, 7000));
     item->setProperty("borderWidth", 20);
-    for (const QPointF &position : {QPointF(30, 30), QPointF(-8850, 30.5), QPointF(-4000, -4000), QPointF(400, 0)}) {
+    for (const QPointF& position : {QPointF(30, 30), QPointF(-8850, 30.5), QPointF(-4000, -4000), QPointF(400, 0)}) {
         item->setPosition(position);
         QVERIFY(DisplaySheet::difference(m_sheet->running(), painted(*m_sheet)) <= Tolerance);
         QVERIFY(item->childItems().constFirst()->width() <= 300);
