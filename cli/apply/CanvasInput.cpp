@@ -33,6 +33,8 @@ CanvasInput::CanvasInput(EditSession* session)
         if (m_refusal.isEmpty())
             m_refusal = message;
     });
+    // A scripted drag has no unsteady hand: every way counts.
+    QApplication::setStartDragDistance(1);
     m_view.setFrameShape(QFrame::NoFrame);
     m_view.resize(ViewSide, ViewSide);
     m_view.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

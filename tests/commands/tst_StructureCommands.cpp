@@ -115,6 +115,33 @@ private Q_SLOTS:
         QCOMPARE(modified.size(), 7);
     }
 
+    void whatSeveralItemsMakeOfOneKeyIsOneStepThatSelectsThemAll()
+    {
+        DesignerObject* first = add();
+        DesignerObject* second = add();
+        const int before = m_project->undoStack()->count();
+        m_project->setUserModificationKey(QStringLiteral("key"));
+        for (DesignerObject* element : {first, second})
+            m_project->emitUserModified(new ChangeProperty(element->getProperty(QStringLiteral("number")),
+                                                           QStringLiteral("7"), true, nullptr));
+        m_project->setUserModificationKey({});
+        QCOMPARE(m_project->undoStack()->count(), before + 1);
+        QCOMPARE(m_project->undoStack()->undoCommand()->selectedItems(), (QList<DesignerObject*>{first, second}));
+        m_project->undoStack()->undo();
+        QCOMPARE(first->getProperty(QStringLiteral("number"))->valueString(), QStringLiteral("1"));
+        QCOMPARE(second->getProperty(QStringLiteral("number"))->valueString(), QStringLiteral("1"));
+    }
+
+    void aRefusedModificationIsAnnounced()
+    {
+        DesignerObject* element = add();
+        QSignalSpy refused(m_project.get(), &Project::userModificationRefused);
+        m_project->emitUserModified(
+            new ChangeProperty(element->getProperty(QStringLiteral("number")), QStringLiteral("11"), true, nullptr));
+        QCOMPARE(refused.size(), 1);
+        QCOMPARE(refused.first().first().toString(), QStringLiteral("0 to 10 only."));
+    }
+
     void anyStructureEditsAreTakenBackAndRepeatedExactly()
     {
         QVERIFY(rc::check("structure", [this] {

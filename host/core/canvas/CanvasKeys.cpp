@@ -5,9 +5,11 @@
 #include "host/core/canvas/EditSession.h"
 #include "host/core/canvas/GraphicsItem.h"
 #include "host/core/objects/DesignerObject.h"
+#include "host/core/project/Project.h"
 
 #include <QGraphicsItem>
 #include <QKeyEvent>
+#include <QScopeGuard>
 
 #include <optional>
 
@@ -179,6 +181,10 @@ bool CanvasKeys::sendToItems(QKeyEvent* event)
 {
     CanvasScene* scene = m_view->canvasScene();
     bool used = false;
+    // What the items make of one key press is one step.
+    Project* project = m_view->session()->project();
+    project->setUserModificationKey(QStringLiteral("key press %1").arg(++m_keysSent));
+    const auto done = qScopeGuard([project] { project->setUserModificationKey({}); });
     const QList<DesignerObject*> selected = scene->selectedObjects();
     for (const DesignerObject* object : selected) {
         const GraphicsItem* item = object->graphicsItem();

@@ -31,6 +31,7 @@ private:
 
     CanvasView* m_view;
     quint64 m_presses = 0; // counts the nudges; repeats of one press that is held down count once
+    quint64 m_keysSent = 0;
 };
 
 } // namespace Korvex::Meridane::Designer

@@ -32,11 +32,6 @@ QString text(const char* source)
     return LocalizationHelper::coreString(QString::fromUtf8(source));
 }
 
-EditResult refused(const QString& message)
-{
-    return {false, false, message};
-}
-
 } // namespace
 
 EditSession::EditSession(std::unique_ptr<Project> project, QObject* parent)
@@ -154,6 +149,7 @@ EditResult EditSession::addElement(const QString& className, Screen* screen, con
 {
     if (!screen)
         return refused(text("There is no screen to add to."));
+    screen->readContent();
     if (!screen->contentError().isEmpty())
         return refused(screen->contentError());
     QString reason;
@@ -306,6 +302,12 @@ EditResult EditSession::redo()
         return refused(text("There is nothing to redo."));
     undoStack()->redo();
     return {true, true, {}};
+}
+
+EditResult EditSession::refused(const QString& message)
+{
+    Q_EMIT editRefused(message);
+    return {false, false, message};
 }
 
 EditResult EditSession::execute(std::unique_ptr<UndoCommand> command)

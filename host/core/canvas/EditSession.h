@@ -78,6 +78,7 @@ Q_SIGNALS:
     void editRefused(const QString& message);
 
 private:
+    EditResult refused(const QString& message);
     EditResult execute(std::unique_ptr<UndoCommand> command);
     [[nodiscard]] Screen* screenOf(DesignerObject* object) const;
     void onStepApplied(const UndoCommand* command);

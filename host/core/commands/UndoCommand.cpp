@@ -4,6 +4,8 @@
 #include "host/core/objects/DesignerObject.h"
 #include "host/core/properties/DesignerProperty.h"
 
+#include <QSet>
+
 namespace Korvex::Meridane::Designer {
 
 namespace {
@@ -82,6 +84,7 @@ bool UndoCommand::mergeWith(const QUndoCommand* other)
         || next->structureChangedInTree())
         return false;
     m_changes = ChangeRecording::joined(m_changes + next->m_changes);
+    m_joinedSelection += next->selectedItems();
     setObsolete(m_changes.isEmpty());
     return true;
 }
@@ -89,16 +92,20 @@ bool UndoCommand::mergeWith(const QUndoCommand* other)
 QList<DesignerObject*> UndoCommand::selectedItems() const
 {
     QList<DesignerObject*> items;
-    for (int i = 0; i < childCount(); ++i) {
-        const UndoCommand* command = childCommand(i);
-        if (!command)
-            continue;
-        const QList<DesignerObject*> childItems = command->selectedItems();
-        for (DesignerObject* item : childItems) {
-            if (!items.contains(item))
+    QSet<DesignerObject*> known;
+    const auto add = [&items, &known](const QList<DesignerObject*>& more) {
+        for (DesignerObject* item : more) {
+            if (!known.contains(item)) {
+                known.insert(item);
                 items.append(item);
+            }
         }
+    };
+    for (int i = 0; i < childCount(); ++i) {
+        if (const UndoCommand* command = childCommand(i))
+            add(command->selectedItems());
     }
+    add(m_joinedSelection);
     return items;
 }
 

@@ -89,6 +89,7 @@ private:
     [[nodiscard]] bool structureChangedInTree() const;
 
     QVector<PropertyChange> m_changes;
+    QList<DesignerObject*> m_joinedSelection; // of the commands that joined this one
     QString m_refusal;
     QString m_mergeKey;
     State m_state = State::Fresh;

@@ -144,6 +144,8 @@ EditResult Project::execute(std::unique_ptr<UndoCommand> command)
 
 void Project::emitUserModified(UndoCommand* command)
 {
+    if (command && command->mergeKey().isEmpty())
+        command->setMergeKey(m_userModificationKey);
     const EditResult result = execute(std::unique_ptr<UndoCommand>(command));
     if (!result.accepted)
         Q_EMIT userModificationRefused(result.message);

@@ -58,6 +58,9 @@ public:
     EditResult execute(std::unique_ptr<UndoCommand> command);
     /// The same for canvas items and editors; a refusal is announced by userModificationRefused().
     void emitUserModified(UndoCommand* command);
+    /// Joins the commands that items and editors hand in from now on into one step, as UndoCommand::setMergeKey() does;
+    /// empty ends it. One key press may go to several items.
+    void setUserModificationKey(const QString& mergeKey) { m_userModificationKey = mergeKey; }
     /// Asks views of the project's tree to refresh what derives from values.
     void notifyUpdateProjectBrowser();
 
@@ -93,6 +96,7 @@ private:
     QString m_fontsPath;
     QStringList m_imageResources;
     QStringList m_fontResources;
+    QString m_userModificationKey;
     UndoStack* m_undoStack;
     bool m_modifiedOutsideHistory = false;
     bool m_announcedModified = false;
