@@ -1,0 +1,27 @@
+#pragma once
+
+#include "app/UserPrompts.h"
+
+#include <QPointer>
+#include <QWidget>
+
+namespace Korvex::Meridane::Designer {
+
+/// Asks the user with dialogs.
+class DialogPrompts : public UserPrompts
+{
+public:
+    /// The window that the dialogs belong to.
+    void setWindow(QWidget* window) { m_window = window; }
+
+    SaveAnswer askSaveChanges(const QString& name) override;
+    std::optional<NewProject> askNewProject(const NewProject& proposal) override;
+    QString chooseProject(const QString& startFolder) override;
+    QString chooseSaveFolder(const QString& proposal) override;
+    QString chooseExportFolder(const QString& startFolder) override;
+
+private:
+    QPointer<QWidget> m_window;
+};
+
+} // namespace Korvex::Meridane::Designer

@@ -1,0 +1,250 @@
+#include "app/EditActions.h"
+
+#include "app/CoreText.h"
+#include "app/ElementClipboard.h"
+#include "app/MessageBar.h"
+#include "app/SiblingOrder.h"
+#include "app/WindowAction.h"
+
+#include "host/core/canvas/EditSession.h"
+#include "host/core/objects/Element.h"
+#include "host/core/objects/Screen.h"
+#include "host/core/project/Project.h"
+#include "host/core/properties/ObjectListProperty.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QMimeData>
+
+namespace Korvex::Meridane::Designer {
+
+EditActions::EditActions(MessageBar* messages, QObject* parent)
+    : QObject(parent)
+    , m_messages(messages)
+{
+    const auto keys = [](QKeySequence::StandardKey key) { return QKeySequence::keyBindings(key); };
+    m_undo = make("undo", "Un&do", keys(QKeySequence::Undo), &EditActions::undo);
+    m_redo = make("redo", "&Redo",
+                  {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)},
+                  &EditActions::redo);
+    m_cut = make("cut", "Cu&t", keys(QKeySequence::Cut), &EditActions::cut);
+    m_copy = make("copy", "&Copy", keys(QKeySequence::Copy), &EditActions::copy);
+    m_paste = make("paste", "&Paste", keys(QKeySequence::Paste), &EditActions::paste);
+    m_duplicate = make("duplicate", "Dup&licate", {QKeySequence(Qt::CTRL | Qt::Key_D)}, &EditActions::duplicate);
+    m_delete = make("delete", "D&elete", keys(QKeySequence::Delete), &EditActions::remove);
+    m_selectAll = make("select-all", "Select &All", keys(QKeySequence::SelectAll), &EditActions::selectAll);
+    m_rename = make("rename", "Rena&me", {QKeySequence(Qt::Key_F2)}, &EditActions::renameRequested);
+    m_addScreen = make("screen-add", "Add &New Screen", {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N)},
+                       &EditActions::addScreen);
+
+    struct Order {
+        const char* icon;
+        const char* text;
+        QKeySequence shortcut;
+        SiblingOrder::Move move;
+    };
+    const Order orders[] = {
+        {"order-front", "Bring to &Front", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_PageUp),
+         SiblingOrder::Move::ToFront},
+        {"order-forward", "Brin&g Forward", QKeySequence(Qt::CTRL | Qt::Key_PageUp), SiblingOrder::Move::Forward},
+        {"order-backward", "Send Back&ward", QKeySequence(Qt::CTRL | Qt::Key_PageDown),
+         SiblingOrder::Move::Backward},
+        {"order-back", "Send to Bac&k", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_PageDown),
+         SiblingOrder::Move::ToBack},
+    };
+    for (const Order& order : orders) {
+        auto* action
+            = new WindowAction(QString::fromLatin1(order.icon), coreText(order.text), {order.shortcut}, this);
+        connect(action, &QAction::triggered, this, [this, move = order.move] {
+            if (m_session)
+                report(SiblingOrder::move(m_session->project(), elements(), move));
+        });
+        m_order.append(action);
+    }
+    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &EditActions::updateSelection);
+    setSession(nullptr);
+}
+
+QAction* EditActions::make(const char* icon, const char* text, const QList<QKeySequence>& shortcuts,
+                           void (EditActions::*run)())
+{
+    auto* action = new WindowAction(QString::fromLatin1(icon), coreText(text), shortcuts, this);
+    connect(action, &QAction::triggered, this, run);
+    return action;
+}
+
+void EditActions::addTo(QMenu* menu)
+{
+    menu->addActions({m_undo, m_redo});
+    menu->addSeparator();
+    menu->addActions({m_cut, m_copy, m_paste, m_duplicate, m_delete});
+    menu->addSeparator();
+    menu->addAction(m_selectAll);
+    menu->addAction(m_rename);
+    menu->addSeparator();
+    menu->addActions(m_order);
+    menu->addSeparator();
+    menu->addAction(m_addScreen);
+}
+
+QList<QAction*> EditActions::treeActions() const
+{
+    QList<QAction*> actions {m_addScreen, m_rename, m_duplicate, m_delete};
+    return actions + m_order;
+}
+
+void EditActions::setSession(EditSession* session)
+{
+    if (m_session) {
+        m_session->disconnect(this);
+        m_session->undoStack()->disconnect(this);
+        m_session->project()->disconnect(this);
+    }
+    m_session = session;
+    if (session) {
+        UndoStack* stack = session->undoStack();
+        connect(stack, &QUndoStack::indexChanged, this, &EditActions::updateHistory);
+        connect(stack, &QUndoStack::undoTextChanged, this, &EditActions::updateHistory);
+        connect(stack, &UndoStack::blockedChanged, this, &EditActions::updateHistory);
+        connect(stack, &UndoStack::blockedChanged, this, &EditActions::updateSelection);
+        connect(session, &EditSession::selectionChanged, this, &EditActions::updateSelection);
+        connect(session, &EditSession::currentScreenChanged, this, [this](Screen*) { updateSelection(); });
+    }
+    updateHistory();
+    updateSelection();
+}
+
+void EditActions::undo()
+{
+    if (m_session)
+        report(m_session->undo());
+}
+
+void EditActions::redo()
+{
+    if (m_session)
+        report(m_session->redo());
+}
+
+void EditActions::cut()
+{
+    copy();
+    if (m_session)
+        report(m_session->removeElements(ElementClipboard::copyable(m_session->selection())));
+}
+
+void EditActions::copy()
+{
+    const QByteArray data = m_session ? ElementClipboard::write(m_session, m_session->selection()) : QByteArray();
+    if (data.isEmpty())
+        return;
+    auto* content = new QMimeData;
+    content->setData(ElementClipboard::mimeType(), data);
+    QGuiApplication::clipboard()->setMimeData(content);
+}
+
+void EditActions::paste()
+{
+    const QMimeData* content = QGuiApplication::clipboard()->mimeData();
+    if (m_session && content)
+        report(ElementClipboard::insert(m_session, content->data(ElementClipboard::mimeType()), coreText("Paste")));
+}
+
+void EditActions::duplicate()
+{
+    if (!m_session)
+        return;
+    const QByteArray data = ElementClipboard::write(m_session, m_session->selection());
+    if (!data.isEmpty())
+        report(ElementClipboard::insert(m_session, data, coreText("Duplicate")));
+}
+
+void EditActions::remove()
+{
+    if (!m_session)
+        return;
+    const QList<DesignerObject*> removed = elements();
+    if (!removed.isEmpty()) {
+        report(m_session->removeElements(ElementClipboard::copyable(removed)));
+        return;
+    }
+    const QList<DesignerObject*> selection = m_session->selection();
+    for (DesignerObject* object : selection) {
+        if (auto* screen = qobject_cast<Screen*>(object)) {
+            report(m_session->removeScreen(screen));
+            return;
+        }
+    }
+}
+
+void EditActions::selectAll()
+{
+    Screen* screen = m_session ? m_session->currentScreen() : nullptr;
+    if (!screen)
+        return;
+    const auto& items = screen->childList()->items();
+    m_session->setSelection(QList<DesignerObject*>(items.cbegin(), items.cend()));
+}
+
+void EditActions::addScreen()
+{
+    if (m_session)
+        report(m_session->addScreen());
+}
+
+void EditActions::updateHistory()
+{
+    const UndoStack* stack = m_session ? m_session->undoStack() : nullptr;
+    const bool free = stack && !stack->isBlocked();
+    const bool canUndo = free && stack->canUndo();
+    const bool canRedo = free && stack->canRedo();
+    m_undo->setEnabled(canUndo);
+    m_redo->setEnabled(canRedo);
+    // Step texts name objects and are no menu texts: an ampersand in them marks nothing.
+    const auto named = [](const QString& pattern, QString step) {
+        return pattern.arg(step.replace(QLatin1Char('&'), QLatin1String("&&")));
+    };
+    m_undo->setText(canUndo ? named(coreText("Un&do %1"), stack->undoText()) : coreText("Un&do"));
+    m_redo->setText(canRedo ? named(coreText("&Redo %1"), stack->redoText()) : coreText("&Redo"));
+}
+
+void EditActions::updateSelection()
+{
+    const bool free = m_session && !m_session->undoStack()->isBlocked();
+    const QList<DesignerObject*> selection = m_session ? m_session->selection() : QList<DesignerObject*>();
+    const bool hasElements = free && !elements().isEmpty();
+    const bool isScreen = free && selection.size() == 1 && qobject_cast<Screen*>(selection.constFirst());
+    const bool hasScreen = free && m_session->currentScreen();
+    for (QAction* action : {m_cut, m_copy, m_duplicate})
+        action->setEnabled(hasElements);
+    for (QAction* action : m_order)
+        action->setEnabled(hasElements);
+    m_delete->setEnabled(hasElements || isScreen);
+    m_rename->setEnabled(free && selection.size() == 1);
+    m_selectAll->setEnabled(hasScreen);
+    m_addScreen->setEnabled(free);
+    const QMimeData* content = QGuiApplication::clipboard()->mimeData();
+    m_paste->setEnabled(hasScreen && content && content->hasFormat(ElementClipboard::mimeType()));
+}
+
+void EditActions::report(const EditResult& result)
+{
+    if (!result.accepted)
+        m_messages->showMessage(result.message, MessageBar::Kind::Error);
+}
+
+QList<DesignerObject*> EditActions::elements() const
+{
+    QList<DesignerObject*> elements;
+    if (!m_session)
+        return elements;
+    const QList<DesignerObject*> selection = m_session->selection();
+    for (DesignerObject* object : selection) {
+        if (qobject_cast<Element*>(object))
+            elements.append(object);
+    }
+    return elements;
+}
+
+} // namespace Korvex::Meridane::Designer

@@ -1,0 +1,172 @@
+#include "app/ElementPalette.h"
+
+#include "app/CoreText.h"
+#include "app/ElementPicture.h"
+
+#include "host/core/canvas/CanvasView.h"
+#include "host/core/plugins/DesignerFactory.h"
+
+#include <QDrag>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QPainter>
+#include <QScrollBar>
+
+namespace Korvex::Meridane::Designer {
+
+namespace {
+
+constexpr QSize PictureSize(44, 34);
+constexpr int SmallestTileWidth = 84;
+constexpr int ClassRole = Qt::UserRole;
+
+} // namespace
+
+ElementPalette::ElementPalette(QWidget* parent)
+    : QListWidget(parent)
+{
+    setObjectName(QStringLiteral("ElementPalette"));
+    setAccessibleName(coreText("Elements"));
+    setViewMode(QListView::IconMode);
+    setResizeMode(QListView::Adjust);
+    setMovement(QListView::Static);
+    setUniformItemSizes(true);
+    setWordWrap(true);
+    setTextElideMode(Qt::ElideRight);
+    setIconSize(PictureSize);
+    setFrameShape(QFrame::NoFrame);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setDragEnabled(true);
+    setDragDropMode(QAbstractItemView::DragOnly);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    fill();
+    arrangeTiles();
+    connect(this, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
+        const QString className = item->data(ClassRole).toString();
+        if (className == m_armedClass)
+            disarm();
+        else
+            arm(className);
+    });
+    connect(this, &QListWidget::itemActivated, this, [this](QListWidgetItem* item) {
+        const QString className = item->data(ClassRole).toString();
+        disarm();
+        Q_EMIT insertRequested(className);
+    });
+}
+
+QListWidgetItem* ElementPalette::tile(const QString& className) const
+{
+    for (int row = 0; row < count(); ++row) {
+        if (item(row)->data(ClassRole).toString() == className)
+            return item(row);
+    }
+    return nullptr;
+}
+
+void ElementPalette::disarm()
+{
+    clearSelection();
+    if (m_armedClass.isEmpty())
+        return;
+    m_armedClass.clear();
+    Q_EMIT armed(QString());
+}
+
+QStringList ElementPalette::mimeTypes() const
+{
+    return {CanvasView::elementMimeType()};
+}
+
+QMimeData* ElementPalette::mimeData(const QList<QListWidgetItem*>& items) const
+{
+    if (items.isEmpty())
+        return nullptr;
+    auto* data = new QMimeData;
+    data->setData(CanvasView::elementMimeType(), items.constFirst()->data(ClassRole).toString().toUtf8());
+    return data;
+}
+
+void ElementPalette::startDrag(Qt::DropActions)
+{
+    QListWidgetItem* dragged = currentItem();
+    if (!dragged)
+        return;
+    disarm();
+    auto* drag = new QDrag(this);
+    drag->setMimeData(mimeData({dragged}));
+    drag->setPixmap(dragged->icon().pixmap(PictureSize, devicePixelRatioF()));
+    drag->setHotSpot(QPoint(PictureSize.width() / 2, PictureSize.height() / 2));
+    drag->exec(Qt::CopyAction);
+    clearSelection();
+}
+
+void ElementPalette::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape && !m_armedClass.isEmpty())
+        disarm();
+    else
+        QListWidget::keyPressEvent(event);
+}
+
+void ElementPalette::resizeEvent(QResizeEvent* event)
+{
+    QListWidget::resizeEvent(event);
+    arrangeTiles();
+}
+
+void ElementPalette::changeEvent(QEvent* event)
+{
+    QListWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        arrangeTiles();
+}
+
+void ElementPalette::paintEvent(QPaintEvent* event)
+{
+    QListWidget::paintEvent(event);
+    if (count() > 0)
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(viewport()->rect().adjusted(16, 16, -16, -16), Qt::AlignCenter | Qt::TextWordWrap,
+                     coreText("No elements. The plug-in with the visual elements was not found."));
+}
+
+QSize ElementPalette::sizeHint() const
+{
+    return {3 * SmallestTileWidth + verticalScrollBar()->sizeHint().width(), 380};
+}
+
+void ElementPalette::fill()
+{
+    const QStringList classNames = DesignerFactory::instance()->elementClassNames();
+    for (const QString& className : classNames) {
+        const QString name = ElementPicture::displayName(className);
+        auto* item = new QListWidgetItem(ElementPicture::icon(className), name, this);
+        item->setData(ClassRole, className);
+        item->setTextAlignment(Qt::AlignHCenter | Qt::AlignTop);
+        item->setToolTip(coreText("%1: drag it onto the screen, or click it and then the place for it.").arg(name));
+    }
+}
+
+void ElementPalette::arm(const QString& className)
+{
+    m_armedClass = className;
+    Q_EMIT armed(className);
+}
+
+void ElementPalette::arrangeTiles()
+{
+    // As many columns as fit, sharing the whole width, so that no ragged margin is left at the right.
+    const int width = viewport()->width();
+    const int columns = qMax(1, width / SmallestTileWidth);
+    const int textHeight = 2 * fontMetrics().lineSpacing();
+    const QSize tile((width - 1) / columns, PictureSize.height() + textHeight + 18);
+    if (gridSize() != tile)
+        setGridSize(tile);
+    for (int row = 0; row < count(); ++row)
+        item(row)->setSizeHint(QSize(tile.width() - 4, tile.height() - 4));
+}
+
+} // namespace Korvex::Meridane::Designer

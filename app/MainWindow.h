@@ -1,0 +1,94 @@
+#pragma once
+
+#include "host/core/project/Problem.h"
+
+#include <QMainWindow>
+
+#include <memory>
+
+namespace Korvex::Meridane::Designer {
+
+class EditActions;
+class EditSession;
+class ElementPalette;
+class FileActions;
+class HelpActions;
+class MessageBar;
+class OutputActions;
+class ProblemsPanel;
+class ProjectDocument;
+class StatusReadout;
+class UserPrompts;
+class ViewActions;
+class Workspace;
+class ZoomBox;
+
+/**
+ * The window of the application: palette and project tree on the left, the canvas in the middle, property sheet and
+ * history on the right, with menus, tool bar and status bar around them. It always shows one project.
+ */
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// Starts with a new untitled project. \a prompts outlives the window.
+    explicit MainWindow(UserPrompts* prompts, QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    /// Opens the project in \a path; what is wrong with it is shown in the window.
+    bool openProject(const QString& path);
+    /// Shows \a problems after those that are shown already.
+    void addProblems(const QList<Problem>& problems);
+
+    [[nodiscard]] ProjectDocument* document() const { return m_document.get(); }
+    [[nodiscard]] Workspace* workspace() const { return m_workspace.get(); }
+    [[nodiscard]] ElementPalette* palettePanel() const { return m_palette; }
+    [[nodiscard]] ProblemsPanel* problemsPanel() const { return m_problems; }
+    [[nodiscard]] MessageBar* messageBar() const { return m_messages; }
+    [[nodiscard]] StatusReadout* statusReadout() const { return m_readout; }
+    [[nodiscard]] FileActions* fileActions() const { return m_file; }
+    [[nodiscard]] EditActions* editActions() const { return m_edit; }
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    QDockWidget* addPanel(const QString& name, const QString& title, Qt::DockWidgetArea area);
+    void makePanels();
+    void makeMenus();
+    void makeToolBar();
+    void makeStatusBar();
+    void arrangePanels();
+    void attach(EditSession* session);
+    void detach();
+    void showWholeScreen();
+    void showProblems(const QList<Problem>& problems);
+    void updateTitle();
+    void editProperties();
+
+    std::unique_ptr<ProjectDocument> m_document;
+    std::unique_ptr<Workspace> m_workspace; // goes before the document
+    ElementPalette* m_palette;
+    ProblemsPanel* m_problems;
+    MessageBar* m_messages;
+    StatusReadout* m_readout;
+    ZoomBox* m_zoomBox;
+    FileActions* m_file;
+    EditActions* m_edit;
+    ViewActions* m_view;
+    OutputActions* m_output;
+    HelpActions* m_help;
+    QDockWidget* m_paletteDock;
+    QDockWidget* m_treeDock;
+    QDockWidget* m_sheetDock;
+    QDockWidget* m_historyDock;
+    QDockWidget* m_problemsDock;
+    bool m_fitted = false; // the screen of the open project has been fitted into the window
+};
+
+} // namespace Korvex::Meridane::Designer

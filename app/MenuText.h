@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+namespace Korvex::Meridane::Designer {
+
+/// Texts of menus and buttons of the main window, whose mnemonics must leave some keys to the canvas.
+class MenuText
+{
+public:
+    /// The letters that canvas items use together with Alt; no mnemonic and no shortcut of the window takes them.
+    static constexpr QLatin1String ReservedLetters {"bisuo"};
+
+    /// \a text without its mnemonic mark where the marked letter is reserved; a translation may have chosen one.
+    [[nodiscard]] static QString withoutReservedMnemonic(const QString& text);
+    /// The letter that \a text marks, in lower case, or a null character.
+    [[nodiscard]] static QChar mnemonic(const QString& text);
+};
+
+} // namespace Korvex::Meridane::Designer

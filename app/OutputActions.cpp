@@ -1,0 +1,92 @@
+#include "app/OutputActions.h"
+
+#include "app/AppSettings.h"
+#include "app/CoreText.h"
+#include "app/MessageBar.h"
+#include "app/PendingEdit.h"
+#include "app/PreviewRunner.h"
+#include "app/ProjectDocument.h"
+#include "app/UserPrompts.h"
+#include "app/WindowAction.h"
+
+#include "host/core/canvas/EditSession.h"
+#include "host/core/objects/Screen.h"
+#include "host/core/project/Project.h"
+#include "host/core/project/ProjectChecker.h"
+#include "host/core/qml/QmlExporter.h"
+
+#include <QDir>
+#include <QMenu>
+#include <QStandardPaths>
+
+namespace Korvex::Meridane::Designer {
+
+namespace {
+
+const QString ExportFolderKey = QStringLiteral("paths/export");
+
+} // namespace
+
+OutputActions::OutputActions(ProjectDocument* document, UserPrompts* prompts, MessageBar* messages, QObject* parent)
+    : QObject(parent)
+    , m_document(document)
+    , m_prompts(prompts)
+    , m_messages(messages)
+    , m_runner(new PreviewRunner({}, this))
+    , m_export(new WindowAction(QStringLiteral("export"), coreText("&Export QML…"),
+                                {QKeySequence(Qt::CTRL | Qt::Key_E)}, this))
+    , m_preview(new WindowAction(QStringLiteral("preview"), coreText("Pre&view"), {QKeySequence(Qt::Key_F5)}, this))
+    , m_check(new WindowAction(QStringLiteral("check"), coreText("Chec&k Project"), {QKeySequence(Qt::Key_F7)}, this))
+{
+    connect(m_export, &QAction::triggered, this, &OutputActions::exportQml);
+    connect(m_preview, &QAction::triggered, this, &OutputActions::preview);
+    connect(m_check, &QAction::triggered, this, &OutputActions::check);
+    connect(m_runner, &PreviewRunner::failed, this,
+            [this](const QString& message) { m_messages->showMessage(message, MessageBar::Kind::Error); });
+}
+
+void OutputActions::addTo(QMenu* menu)
+{
+    menu->addAction(m_export);
+    menu->addAction(m_preview);
+    menu->addAction(m_check);
+}
+
+void OutputActions::exportQml()
+{
+    PendingEdit::finish();
+    QString start = AppSettings().value(ExportFolderKey).toString();
+    if (start.isEmpty() || !QDir(start).exists())
+        start = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QString folder = m_prompts->chooseExportFolder(start);
+    if (folder.isEmpty())
+        return;
+    AppSettings().setValue(ExportFolderKey, folder);
+    const QList<Problem> problems = QmlExporter::exportProject(m_document->project(), folder);
+    if (problems.isEmpty()) {
+        m_messages->showMessage(coreText("The QML has been exported to \"%1\".").arg(QDir::toNativeSeparators(folder)),
+                                MessageBar::Kind::Information);
+    }
+    Q_EMIT problemsFound(problems);
+}
+
+void OutputActions::preview()
+{
+    PendingEdit::finish();
+    QList<Problem> problems;
+    const Screen* screen = m_document->session()->currentScreen();
+    m_runner->start(m_document->project(), screen ? screen->getIdName() : QString(), &problems);
+    if (!problems.isEmpty())
+        Q_EMIT problemsFound(problems);
+}
+
+void OutputActions::check()
+{
+    PendingEdit::finish();
+    const QList<Problem> problems = ProjectChecker::check(m_document->project());
+    if (problems.isEmpty())
+        m_messages->showMessage(coreText("The project has no problems."), MessageBar::Kind::Information);
+    Q_EMIT problemsFound(problems);
+}
+
+} // namespace Korvex::Meridane::Designer

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "host/core/project/Problem.h"
+
+#include <QObject>
+
+class QAction;
+class QMenu;
+
+namespace Korvex::Meridane::Designer {
+
+class MessageBar;
+class PreviewRunner;
+class ProjectDocument;
+class UserPrompts;
+
+/// The actions that make something of the open project: QML for the display, a preview, a list of what is wrong.
+class OutputActions : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// All arguments outlive the actions.
+    OutputActions(ProjectDocument* document, UserPrompts* prompts, MessageBar* messages, QObject* parent = nullptr);
+
+    void addTo(QMenu* menu);
+
+    [[nodiscard]] QAction* exportAction() const { return m_export; }
+    [[nodiscard]] QAction* previewAction() const { return m_preview; }
+    [[nodiscard]] QAction* checkAction() const { return m_check; }
+
+Q_SIGNALS:
+    /// What an export, a preview or a check has found; empty when all is well.
+    void problemsFound(const QList<Problem>& problems);
+
+private:
+    void exportQml();
+    void preview();
+    void check();
+
+    ProjectDocument* m_document;
+    UserPrompts* m_prompts;
+    MessageBar* m_messages;
+    PreviewRunner* m_runner;
+    QAction* m_export;
+    QAction* m_preview;
+    QAction* m_check;
+};
+
+} // namespace Korvex::Meridane::Designer

@@ -1,0 +1,425 @@
+#include "app/ProjectTreeModel.h"
+
+#include "app/CoreText.h"
+#include "app/ElementPicture.h"
+#include "app/SiblingOrder.h"
+#include "app/ThemedIcon.h"
+
+#include "host/core/canvas/EditSession.h"
+#include "host/core/objects/Screen.h"
+#include "host/core/objects/UnknownElement.h"
+#include "host/core/project/Project.h"
+#include "host/core/properties/ObjectListProperty.h"
+
+#include <QFont>
+#include <QGuiApplication>
+#include <QIcon>
+#include <QMimeData>
+#include <QPalette>
+
+namespace Korvex::Meridane::Designer {
+
+namespace {
+
+const QString RowsMimeType = QStringLiteral("application/x-meridane-tree-rows");
+
+const QString& unreadableReason(const DesignerObject* object)
+{
+    static const QString none;
+    const auto* screen = qobject_cast<const Screen*>(object);
+    return screen ? screen->contentError() : none;
+}
+
+} // namespace
+
+/// One row; the rows of a parent are numbered as they stand.
+struct ProjectTreeModel::Node {
+    DesignerObject* object = nullptr;
+    Node* parent = nullptr;
+    int row = 0;
+    bool populated = false;
+    std::vector<std::unique_ptr<Node>> children;
+
+    void renumber(std::size_t from = 0)
+    {
+        for (std::size_t i = from; i < children.size(); ++i)
+            children[i]->row = int(i);
+    }
+};
+
+ProjectTreeModel::ProjectTreeModel(EditSession* session, QObject* parent)
+    : QAbstractItemModel(parent)
+    , m_session(session)
+    , m_root(std::make_unique<Node>())
+{
+    Project* project = session->project();
+    m_root->populated = true;
+    m_root->children.push_back(makeNode(project, m_root.get()));
+    populate(m_root->children.front().get());
+
+    connect(project, &Project::objectAdded, this, &ProjectTreeModel::onAdded);
+    connect(project, &Project::objectRemoved, this, &ProjectTreeModel::onRemoved);
+    connect(project, &Project::objectReordered, this, &ProjectTreeModel::onReordered);
+    connect(project, &Project::objectRenamed, this, &ProjectTreeModel::refresh);
+    connect(project, &Project::objectPropertyChanged, this, [this](DesignerObject* object) {
+        // Of all values only the project's name is shown here.
+        if (object == m_session->project())
+            refresh(object);
+    });
+    connect(project, &Project::projectBrowserUpdateRequested, this, [this] { refreshBelow(m_root.get()); });
+    connect(session, &EditSession::currentScreenChanged, this, [this](Screen* screen) { refresh(screen); });
+}
+
+ProjectTreeModel::~ProjectTreeModel() = default;
+
+DesignerObject* ProjectTreeModel::object(const QModelIndex& index) const
+{
+    return index.isValid() ? node(index)->object : nullptr;
+}
+
+QModelIndex ProjectTreeModel::indexOf(DesignerObject* object)
+{
+    if (!object)
+        return {};
+    if (Node* known = m_nodes.value(object))
+        return nodeIndex(known);
+    DesignerObject* parent = object->parentObject();
+    if (!indexOf(parent).isValid())
+        return {};
+    populate(m_nodes.value(parent));
+    return nodeIndex(m_nodes.value(object));
+}
+
+QModelIndex ProjectTreeModel::index(int row, int column, const QModelIndex& parent) const
+{
+    const Node* above = node(parent);
+    if (column != 0 || row < 0 || row >= int(above->children.size()))
+        return {};
+    return createIndex(row, 0, above->children[std::size_t(row)].get());
+}
+
+QModelIndex ProjectTreeModel::parent(const QModelIndex& child) const
+{
+    return child.isValid() ? nodeIndex(node(child)->parent) : QModelIndex();
+}
+
+int ProjectTreeModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.column() > 0 ? 0 : int(node(parent)->children.size());
+}
+
+int ProjectTreeModel::columnCount(const QModelIndex&) const
+{
+    return 1;
+}
+
+bool ProjectTreeModel::hasChildren(const QModelIndex& parent) const
+{
+    const Node* above = node(parent);
+    return !above->children.empty() || !above->populated;
+}
+
+bool ProjectTreeModel::canFetchMore(const QModelIndex& parent) const
+{
+    return !node(parent)->populated;
+}
+
+void ProjectTreeModel::fetchMore(const QModelIndex& parent)
+{
+    populate(node(parent));
+}
+
+QVariant ProjectTreeModel::data(const QModelIndex& index, int role) const
+{
+    const DesignerObject* shown = object(index);
+    if (!shown)
+        return {};
+    const auto* project = qobject_cast<const Project*>(shown);
+    const auto* screen = qobject_cast<const Screen*>(shown);
+    const bool unreadable = !unreadableReason(shown).isEmpty();
+    switch (role) {
+    case Qt::DisplayRole:
+        if (project)
+            return project->name();
+        return unreadable ? coreText("%1 (unreadable)").arg(shown->getIdName()) : shown->getIdName();
+    case Qt::EditRole:
+        return project ? project->name() : shown->getIdName();
+    case Qt::DecorationRole:
+        if (unreadable)
+            return ThemedIcon::named(QStringLiteral("warning"));
+        if (project)
+            return ThemedIcon::named(QStringLiteral("project"));
+        if (screen)
+            return ThemedIcon::named(QStringLiteral("screen"));
+        if (!m_icons.contains(shown->className()))
+            m_icons.insert(shown->className(), ElementPicture::icon(shown->className()));
+        return m_icons.value(shown->className());
+    case Qt::ToolTipRole:
+        if (unreadable)
+            return unreadableReason(shown);
+        if (const auto* unknown = qobject_cast<const UnknownElement*>(shown)) {
+            return coreText("No plug-in serves the class \"%1\". The element is kept as it is in the file.")
+                .arg(unknown->wantedClassName());
+        }
+        return project ? project->folder() : shown->displayName();
+    case Qt::FontRole:
+        if (screen && screen == m_session->currentScreen()) {
+            QFont font;
+            font.setBold(true);
+            return font;
+        }
+        if (qobject_cast<const UnknownElement*>(shown)) {
+            QFont font;
+            font.setItalic(true);
+            return font;
+        }
+        return {};
+    case Qt::ForegroundRole:
+        if (unreadable || qobject_cast<const UnknownElement*>(shown))
+            return QGuiApplication::palette().brush(QPalette::PlaceholderText);
+        return {};
+    default:
+        return {};
+    }
+}
+
+bool ProjectTreeModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    DesignerObject* changed = object(index);
+    if (role != Qt::EditRole || !changed)
+        return false;
+    const QString text = value.toString().trimmed();
+    if (text == data(index, Qt::EditRole).toString())
+        return true;
+    const EditResult result = qobject_cast<Project*>(changed)
+        ? m_session->setProperty(changed, QStringLiteral("name"), text)
+        : m_session->rename(changed, text);
+    if (!result.message.isEmpty())
+        Q_EMIT refused(result.message);
+    return result.accepted;
+}
+
+Qt::ItemFlags ProjectTreeModel::flags(const QModelIndex& index) const
+{
+    const DesignerObject* shown = object(index);
+    if (!shown)
+        return {};
+    Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+    const bool movable = !qobject_cast<const Project*>(shown);
+    if (movable)
+        flags |= Qt::ItemIsDragEnabled;
+    if (!qobject_cast<const UnknownElement*>(shown) && unreadableReason(shown).isEmpty())
+        flags |= Qt::ItemIsEditable;
+    if (!node(index)->children.empty())
+        flags |= Qt::ItemIsDropEnabled;
+    return flags;
+}
+
+Qt::DropActions ProjectTreeModel::supportedDropActions() const
+{
+    return Qt::MoveAction;
+}
+
+QStringList ProjectTreeModel::mimeTypes() const
+{
+    return {RowsMimeType};
+}
+
+QMimeData* ProjectTreeModel::mimeData(const QModelIndexList& indexes) const
+{
+    // Each row is named by the rows above it, from the project on; the data is used inside this window only.
+    QStringList paths;
+    for (const QModelIndex& dragged : indexes) {
+        QStringList rows;
+        for (QModelIndex at = dragged; at.isValid(); at = at.parent())
+            rows.prepend(QString::number(at.row()));
+        paths.append(rows.join(QLatin1Char('/')));
+    }
+    auto* data = new QMimeData;
+    data->setData(RowsMimeType, paths.join(QLatin1Char('\n')).toUtf8());
+    return data;
+}
+
+bool ProjectTreeModel::canDropMimeData(const QMimeData* data, Qt::DropAction action, int row, int,
+                                       const QModelIndex& parent) const
+{
+    if (action != Qt::MoveAction || row < 0 || !parent.isValid())
+        return false;
+    const QList<DesignerObject*> objects = dragged(data);
+    return !objects.isEmpty() && std::all_of(objects.cbegin(), objects.cend(), [&](const DesignerObject* object) {
+        return object->parentObject() == this->object(parent);
+    });
+}
+
+bool ProjectTreeModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                                    const QModelIndex& parent)
+{
+    if (!canDropMimeData(data, action, row, column, parent))
+        return false;
+    const QList<DesignerObject*> objects = dragged(data);
+    DesignerObject* owner = object(parent);
+    // The gap at `row` as a place among the siblings that stay, counted as the list counts.
+    int staying = 0;
+    for (const auto& child : node(parent)->children) {
+        if (child->row < row && !objects.contains(child->object))
+            ++staying;
+    }
+    const int others = int(node(parent)->children.size()) - int(objects.size());
+    const int place = qobject_cast<Project*>(owner) ? staying : others - staying;
+    const EditResult result = SiblingOrder::moveTo(m_session->project(), owner, objects, place);
+    if (!result.message.isEmpty())
+        Q_EMIT refused(result.message);
+    return false;
+}
+
+ProjectTreeModel::Node* ProjectTreeModel::node(const QModelIndex& index) const
+{
+    return index.isValid() ? static_cast<Node*>(index.internalPointer()) : m_root.get();
+}
+
+QModelIndex ProjectTreeModel::nodeIndex(const Node* node) const
+{
+    return !node || node == m_root.get() ? QModelIndex() : createIndex(node->row, 0, node);
+}
+
+std::unique_ptr<ProjectTreeModel::Node> ProjectTreeModel::makeNode(DesignerObject* object, Node* parent)
+{
+    auto made = std::make_unique<Node>();
+    made->object = object;
+    made->parent = parent;
+    m_nodes.insert(object, made.get());
+    // A screen is read when it is opened; everything else is in memory.
+    if (const auto* screen = qobject_cast<const Screen*>(object); screen || qobject_cast<Project*>(object))
+        return made;
+    made->populated = true;
+    if (const ObjectListProperty* list = object->childList()) {
+        for (auto child = list->items().crbegin(); child != list->items().crend(); ++child)
+            made->children.push_back(makeNode(*child, made.get()));
+        made->renumber();
+    }
+    return made;
+}
+
+int ProjectTreeModel::rowInList(const DesignerObject* object) const
+{
+    const DesignerObject* parent = object->parentObject();
+    const auto& siblings = parent->childList()->items();
+    const auto place = siblings.lastIndexOf(const_cast<DesignerObject*>(object));
+    return int(qobject_cast<const Project*>(parent) ? place : siblings.size() - 1 - place);
+}
+
+void ProjectTreeModel::populate(Node* node)
+{
+    if (!node || node->populated)
+        return;
+    // Asking for the list reads the screen, which announces every element; all of them are inserted below.
+    const ObjectListProperty* list = node->object->childList();
+    node->populated = true;
+    if (!list || list->items().isEmpty()) {
+        // An empty or unreadable screen: the row itself may look different now.
+        refresh(node->object);
+        return;
+    }
+    const auto& items = list->items();
+    beginInsertRows(nodeIndex(node), 0, int(items.size()) - 1);
+    const bool inOrder = qobject_cast<const Project*>(node->object);
+    for (qsizetype i = 0; i < items.size(); ++i)
+        node->children.push_back(makeNode(items.at(inOrder ? i : items.size() - 1 - i), node));
+    node->renumber();
+    endInsertRows();
+}
+
+void ProjectTreeModel::forget(Node* node)
+{
+    m_nodes.remove(node->object);
+    for (const auto& child : node->children)
+        forget(child.get());
+}
+
+void ProjectTreeModel::onAdded(DesignerObject* object)
+{
+    Node* above = m_nodes.value(object->parentObject());
+    if (!above || !above->populated || m_nodes.contains(object))
+        return;
+    const int row = qBound(0, rowInList(object), int(above->children.size()));
+    beginInsertRows(nodeIndex(above), row, row);
+    above->children.insert(above->children.begin() + row, makeNode(object, above));
+    above->renumber(std::size_t(row));
+    endInsertRows();
+}
+
+void ProjectTreeModel::onRemoved(DesignerObject* object, DesignerObject*)
+{
+    Node* gone = m_nodes.value(object);
+    if (!gone)
+        return;
+    Node* above = gone->parent;
+    const int row = gone->row;
+    beginRemoveRows(nodeIndex(above), row, row);
+    forget(gone);
+    above->children.erase(above->children.begin() + row);
+    above->renumber(std::size_t(row));
+    endRemoveRows();
+}
+
+void ProjectTreeModel::onReordered(DesignerObject* object)
+{
+    Node* moved = m_nodes.value(object);
+    if (!moved)
+        return;
+    Node* above = moved->parent;
+    const int from = moved->row;
+    const int to = rowInList(object);
+    if (from == to)
+        return;
+    beginMoveRows(nodeIndex(above), from, from, nodeIndex(above), to > from ? to + 1 : to);
+    auto& rows = above->children;
+    if (from < to)
+        std::rotate(rows.begin() + from, rows.begin() + from + 1, rows.begin() + to + 1);
+    else
+        std::rotate(rows.begin() + to, rows.begin() + from, rows.begin() + from + 1);
+    above->renumber(std::size_t(qMin(from, to)));
+    endMoveRows();
+}
+
+void ProjectTreeModel::refresh(DesignerObject* object)
+{
+    if (qobject_cast<Screen*>(object)) {
+        // The mark of the current screen goes from one row to another.
+        const Node* project = m_root->children.front().get();
+        if (!project->children.empty()) {
+            Q_EMIT dataChanged(nodeIndex(project->children.front().get()), nodeIndex(project->children.back().get()));
+        }
+        return;
+    }
+    if (const Node* changed = m_nodes.value(object))
+        Q_EMIT dataChanged(nodeIndex(changed), nodeIndex(changed));
+}
+
+void ProjectTreeModel::refreshBelow(const Node* node)
+{
+    if (node->children.empty())
+        return;
+    Q_EMIT dataChanged(nodeIndex(node->children.front().get()), nodeIndex(node->children.back().get()));
+    for (const auto& child : node->children)
+        refreshBelow(child.get());
+}
+
+QList<DesignerObject*> ProjectTreeModel::dragged(const QMimeData* data) const
+{
+    QList<DesignerObject*> objects;
+    if (!data || !data->hasFormat(RowsMimeType))
+        return objects;
+    const QList<QByteArray> paths = data->data(RowsMimeType).split('\n');
+    for (const QByteArray& path : paths) {
+        QModelIndex at;
+        const QList<QByteArray> rows = path.split('/');
+        for (const QByteArray& row : rows)
+            at = index(row.toInt(), 0, at);
+        if (DesignerObject* named = object(at))
+            objects.append(named);
+    }
+    return objects;
+}
+
+} // namespace Korvex::Meridane::Designer

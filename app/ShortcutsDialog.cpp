@@ -1,0 +1,103 @@
+#include "app/ShortcutsDialog.h"
+
+#include "app/CoreText.h"
+
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace Korvex::Meridane::Designer {
+
+namespace {
+
+QString withoutMark(QString text)
+{
+    text.replace(QLatin1String("&&"), QLatin1String("\n"));
+    text.remove(QLatin1Char('&'));
+    text.remove(QChar(0x2026));
+    return text.replace(QLatin1Char('\n'), QLatin1Char('&'));
+}
+
+struct CanvasKey {
+    const char* keys;
+    const char* effect;
+};
+
+constexpr CanvasKey CanvasKeys[] = {
+    {"Arrow keys", "Move the selection by one pixel, with Shift by ten"},
+    {"Escape", "Take the running drag back; leave the placing of an element"},
+    {"Drag", "Move elements; on empty ground, select with a frame"},
+    {"Drag a handle", "Resize, or move a point"},
+    {"Ctrl+Click, Shift+Click", "Add an element to the selection or take it out"},
+    {"Space+Drag, middle button", "Scroll"},
+    {"Ctrl+Wheel", "Zoom at the pointer"},
+};
+
+} // namespace
+
+ShortcutsDialog::ShortcutsDialog(QMainWindow* window)
+    : QDialog(window)
+    , m_list(new QTreeWidget)
+{
+    setWindowTitle(coreText("Keyboard Shortcuts"));
+    m_list->setColumnCount(2);
+    m_list->setHeaderHidden(true);
+    m_list->setRootIsDecorated(false);
+    m_list->setItemsExpandable(false);
+    m_list->setSelectionMode(QAbstractItemView::NoSelection);
+    m_list->setFocusPolicy(Qt::NoFocus);
+    const QList<QAction*> menus = window->menuBar()->actions();
+    for (const QAction* menu : menus)
+        addMenu(menu->menu(), withoutMark(menu->text()));
+    addCanvas();
+    m_list->expandAll();
+    m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(16, 16, 16, 12);
+    layout->setSpacing(12);
+    layout->addWidget(m_list);
+    layout->addWidget(buttons);
+    resize(620, 560);
+}
+
+void ShortcutsDialog::addMenu(const QMenu* menu, const QString& title)
+{
+    auto* group = new QTreeWidgetItem({title});
+    QFont bold = font();
+    bold.setBold(true);
+    group->setFont(0, bold);
+    const QList<QAction*> actions = menu->actions();
+    for (const QAction* action : actions) {
+        if (action->shortcuts().isEmpty())
+            continue;
+        QStringList keys;
+        const QList<QKeySequence> shortcuts = action->shortcuts();
+        for (const QKeySequence& shortcut : shortcuts)
+            keys.append(shortcut.toString(QKeySequence::NativeText));
+        group->addChild(new QTreeWidgetItem({keys.join(QStringLiteral(", ")), withoutMark(action->text())}));
+    }
+    if (group->childCount() > 0)
+        m_list->addTopLevelItem(group);
+    else
+        delete group;
+}
+
+void ShortcutsDialog::addCanvas()
+{
+    auto* group = new QTreeWidgetItem({coreText("Canvas")});
+    QFont bold = font();
+    bold.setBold(true);
+    group->setFont(0, bold);
+    for (const CanvasKey& key : CanvasKeys)
+        group->addChild(new QTreeWidgetItem({coreText(key.keys), coreText(key.effect)}));
+    m_list->addTopLevelItem(group);
+}
+
+} // namespace Korvex::Meridane::Designer

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QSizeF>
+#include <QString>
+
+#include <optional>
+
+namespace Korvex::Meridane::Designer {
+
+/// What a new project is made of.
+struct NewProject {
+    QString name;
+    QSizeF displaySize; ///< pixels
+};
+
+/// The questions that stop the user. The window asks through this interface, so that tests can answer.
+class UserPrompts
+{
+public:
+    enum class SaveAnswer { Save, Discard, Cancel };
+
+    virtual ~UserPrompts() = default;
+
+    /// Whether the changes of the project \a name are to be saved before it is closed.
+    virtual SaveAnswer askSaveChanges(const QString& name) = 0;
+    /// Name and size of a new project, starting from \a proposal; none when the user cancels.
+    virtual std::optional<NewProject> askNewProject(const NewProject& proposal) = 0;
+    // Each of these gives an absolute path, or an empty text when the user cancels.
+    /// The project.json, or the folder, of a project to open.
+    virtual QString chooseProject(const QString& startFolder) = 0;
+    /// A new folder to save the project in.
+    virtual QString chooseSaveFolder(const QString& proposal) = 0;
+    /// The folder to export to.
+    virtual QString chooseExportFolder(const QString& startFolder) = 0;
+};
+
+} // namespace Korvex::Meridane::Designer

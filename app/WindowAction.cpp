@@ -1,0 +1,25 @@
+#include "app/WindowAction.h"
+
+#include "app/MenuText.h"
+#include "app/ThemedIcon.h"
+
+namespace Korvex::Meridane::Designer {
+
+WindowAction::WindowAction(const QString& iconName, const QString& text, const QList<QKeySequence>& shortcuts,
+                           QObject* parent)
+    : QAction(MenuText::withoutReservedMnemonic(text), parent)
+{
+    if (!iconName.isEmpty())
+        setIcon(ThemedIcon::named(iconName));
+    setShortcuts(shortcuts);
+    // Desktops move actions by their names into other menus otherwise.
+    setMenuRole(QAction::NoRole);
+}
+
+WindowAction::WindowAction(const QString& iconName, const QString& text, QKeySequence::StandardKey key,
+                           QObject* parent)
+    : WindowAction(iconName, text, QKeySequence::keyBindings(key), parent)
+{
+}
+
+} // namespace Korvex::Meridane::Designer

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QAction>
+#include <QKeySequence>
+
+namespace Korvex::Meridane::Designer {
+
+/// An action of the main window: icon of ours, text without a mnemonic that the canvas needs, standard or own shortcut.
+class WindowAction : public QAction
+{
+public:
+    /// \a iconName: a drawing of app/icons, or empty. \a text: localised.
+    WindowAction(const QString& iconName, const QString& text, const QList<QKeySequence>& shortcuts, QObject* parent);
+    /// The same with the platform's shortcuts for \a key.
+    WindowAction(const QString& iconName, const QString& text, QKeySequence::StandardKey key, QObject* parent);
+};
+
+} // namespace Korvex::Meridane::Designer

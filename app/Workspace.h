@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QObject>
+
+#include <memory>
+
+namespace Korvex::Meridane::Designer {
+
+class CanvasPanel;
+class CanvasView;
+class EditSession;
+class ElementPalette;
+class HistoryPanel;
+class ProjectTree;
+class PropertySheet;
+
+/**
+ * The widgets that show one editing session, connected to each other and to the palette.
+ *
+ * The window shows them in its docks and owns them there; the workspace goes, and they with it, before the session.
+ */
+class Workspace : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// \a session and \a palette outlive the workspace.
+    Workspace(EditSession* session, ElementPalette* palette);
+    ~Workspace() override;
+
+    [[nodiscard]] EditSession* session() const { return m_session; }
+    [[nodiscard]] CanvasPanel* canvasPanel() const { return m_canvasPanel; }
+    [[nodiscard]] CanvasView* canvas() const;
+    [[nodiscard]] ProjectTree* tree() const { return m_tree; }
+    [[nodiscard]] PropertySheet* sheet() const { return m_sheet; }
+    [[nodiscard]] HistoryPanel* history() const { return m_history; }
+
+    /// Selects the object that "screen/id" or the id of a screen names and brings it into view.
+    void goTo(const QString& object);
+
+Q_SIGNALS:
+    /// An edit was refused; \a message is for the user.
+    void refused(const QString& message);
+
+private:
+    void insertInView(const QString& className);
+
+    EditSession* m_session;
+    ElementPalette* m_palette;
+    CanvasPanel* m_canvasPanel;
+    ProjectTree* m_tree;
+    PropertySheet* m_sheet;
+    HistoryPanel* m_history;
+};
+
+} // namespace Korvex::Meridane::Designer
