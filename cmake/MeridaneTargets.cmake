@@ -30,9 +30,12 @@ function(meridane_test name)
     set_target_properties(${name} PROPERTIES
         AUTORCC OFF
         RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
-    # Of a test whose classes stand in its one source, this file of automoc's is empty.
-    set_source_files_properties("${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/mocs_compilation.cpp" PROPERTIES
-        SKIP_PRECOMPILE_HEADERS ON)
+    list(LENGTH arg_SOURCES sourceCount)
+    if(sourceCount EQUAL 1)
+        # The test's class stands in its one source, and this file of automoc's is empty.
+        set_source_files_properties("${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/mocs_compilation.cpp" PROPERTIES
+            SKIP_PRECOMPILE_HEADERS ON)
+    endif()
     if(arg_DEPENDS)
         add_dependencies(${name} ${arg_DEPENDS})
     endif()
