@@ -68,11 +68,11 @@ bool BorderEditor::showValue(const QString& value)
 {
     bool ok = false;
     const BorderInfo border = ValueConversion::toBorderInfo(value, &ok);
-    m_width->setMixed(isMixed(QStringLiteral("width")) || !ok);
     if (ok) {
         m_width->setValue(border.width());
         m_color->setColor(border.color());
     }
+    m_width->setMixed(isMixed(QStringLiteral("width")) || !ok);
     m_color->setMixed(isMixed(QStringLiteral("color")) || !ok);
     return ok;
 }

@@ -47,8 +47,12 @@ bool FontEditor::createEditorWidget()
         connect(m_widget->styleButtons().at(i), &FontStyleButton::userModified, this,
                 save(StyleComponents.at(static_cast<std::size_t>(i))));
     }
-    for (SpinBox* field : {m_widget->sizeField(), m_widget->letterSpacingField(), m_widget->wordSpacingField()})
+    // Wide enough for what fonts have in practice; the limits of the fields would ask for twice the width of a sheet.
+    const int fieldWidth = fontMetrics().horizontalAdvance(QStringLiteral("0.00 px")) + fontMetrics().height() * 3 / 2;
+    for (SpinBox* field : {m_widget->sizeField(), m_widget->letterSpacingField(), m_widget->wordSpacingField()}) {
+        field->setMinimumWidth(fieldWidth);
         joinSteps(field);
+    }
     setEditorWidget(m_widget);
     return true;
 }
@@ -58,7 +62,7 @@ bool FontEditor::showValue(const QString& value)
     bool ok = false;
     const QFont font = ValueConversion::toFont(value, &ok);
     if (ok)
-        m_widget->setFont(font);
+        m_widget->setValue(font);
     const auto mixed = [this, ok](const char* component) { return !ok || isMixed(QString::fromLatin1(component)); };
     m_widget->familyBox()->setMixed(mixed("family"));
     m_widget->sizeField()->setMixed(mixed("size"));
@@ -71,7 +75,7 @@ bool FontEditor::showValue(const QString& value)
 
 QString FontEditor::widgetValue() const
 {
-    return ValueConversion::toString(m_widget->font());
+    return ValueConversion::toString(m_widget->value());
 }
 
 } // namespace Korvex::Meridane::Designer

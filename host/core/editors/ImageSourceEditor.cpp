@@ -8,6 +8,7 @@
 
 #include "host/common/LocalizationHelper.h"
 
+#include <QAbstractItemView>
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QFileDialog>
@@ -60,7 +61,9 @@ bool ImageSourceEditor::createEditorWidget()
 {
     if (!LinkEditor::createEditorWidget())
         return false;
-    comboBox()->setIconSize(QSize(ImageThumbnails::Side, ImageThumbnails::Side));
+    // Small in the field, which is as high as every other one; larger in the list.
+    comboBox()->setIconSize(QSize(ImageThumbnails::Side / 2, ImageThumbnails::Side / 2));
+    comboBox()->view()->setIconSize(QSize(ImageThumbnails::Side, ImageThumbnails::Side));
     m_button = new QToolButton(this);
     m_button->setText(LocalizationHelper::coreString(QStringLiteral("Import\u2026")));
     m_button->setToolTip(LocalizationHelper::coreString(QStringLiteral("Copy an image file into the project")));

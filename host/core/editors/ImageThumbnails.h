@@ -12,7 +12,7 @@ public:
     ImageThumbnails() = delete;
 
     /// The side of a thumbnail, in pixels.
-    static constexpr int Side = 24;
+    static constexpr int Side = 32;
 
     /// The thumbnail of \a file in a square of Side; an empty icon when the file cannot be read, and for drawings that
     /// could take long to paint.

@@ -2,6 +2,7 @@
 
 #include "host/core/properties/DesignerProperty.h"
 #include "host/core/values/ValueConversion.h"
+#include "host/core/widgets/NumberSlider.h"
 #include "host/core/widgets/NumberWidget.h"
 
 #include <QVariant>
@@ -23,6 +24,7 @@ QStringList NumberEditor::classNames() const
 
 bool NumberEditor::createEditorWidget()
 {
+    constexpr int SmallestSlider = 48; // pixels
     m_widget = new NumberWidget(m_wholeNumbers, this);
     if (!m_wholeNumbers)
         m_widget->setDecimals(parameter("decimals", 2).toInt());
@@ -35,6 +37,7 @@ bool NumberEditor::createEditorWidget()
     m_widget->setSingleStep(parameter("singleStep", 1).toDouble());
     m_widget->setSuffix(parameter("suffix").toString());
     m_widget->showSlider(parameter("showSlider", false).toBool());
+    m_widget->slider()->setMinimumWidth(SmallestSlider);
     m_widget->setRelativeInputAllowed(true);
     m_widget->setAccessibleLabel(property()->name());
     joinSteps(m_widget);
@@ -57,9 +60,9 @@ bool NumberEditor::showValue(const QString& value)
 {
     bool ok = false;
     const double number = m_wholeNumbers ? ValueConversion::toInt(value, &ok) : ValueConversion::toReal(value, &ok);
-    m_widget->setMixed(isMixed() || !ok);
     if (ok)
         m_widget->setValue(number);
+    m_widget->setMixed(isMixed() || !ok);
     return ok;
 }
 

@@ -69,12 +69,12 @@ bool PointEditor::showValue(const QString& value)
 {
     bool ok = false;
     const QPointF point = ValueConversion::toPoint(value, &ok);
-    m_x->setMixed(isMixed(QStringLiteral("x")) || !ok);
-    m_y->setMixed(isMixed(QStringLiteral("y")) || !ok);
     if (ok) {
         m_x->setValue(point.x());
         m_y->setValue(point.y());
     }
+    m_x->setMixed(isMixed(QStringLiteral("x")) || !ok);
+    m_y->setMixed(isMixed(QStringLiteral("y")) || !ok);
     return ok;
 }
 

@@ -31,6 +31,7 @@ bool RotationEditor::createEditorWidget()
     constexpr double Limit = 99999;
     constexpr double FullTurn = 360;
     constexpr int Decimals = 2;
+    constexpr int SmallestSlider = 64; // pixels; a shorter one cannot be aimed with
     auto* widget = new QWidget(this);
     m_angle = new NumberWidget(false, widget);
     m_angle->setDecimals(Decimals);
@@ -41,6 +42,7 @@ bool RotationEditor::createEditorWidget()
     m_angle->setAccessibleLabel(LocalizationHelper::coreString(QStringLiteral("%1: angle")).arg(property()->name()));
     m_angle->showSlider(true);
     m_angle->slider()->setNumbers(0, FullTurn, 1, Decimals);
+    m_angle->slider()->setMinimumWidth(SmallestSlider);
     m_grid = new NineGrid(widget);
     m_grid->setToolTip(LocalizationHelper::coreString(QStringLiteral("The point that stays in place")));
 
@@ -74,11 +76,11 @@ bool RotationEditor::showValue(const QString& value)
 {
     bool ok = false;
     const RotationInfo rotation = ValueConversion::toRotationInfo(value, &ok);
-    m_angle->setMixed(isMixed(QStringLiteral("angle")) || !ok);
     if (ok) {
         m_angle->setValue(rotation.angle());
         m_grid->setFixedPoint(rotation.fixedPoint());
     }
+    m_angle->setMixed(isMixed(QStringLiteral("angle")) || !ok);
     m_grid->setMixed(isMixed(QStringLiteral("fixedPoint")) || !ok);
     return ok;
 }

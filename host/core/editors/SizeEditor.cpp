@@ -70,9 +70,9 @@ bool SizeEditor::showValue(const QString& value)
 {
     bool ok = false;
     const QSizeF size = ValueConversion::toSize(value, &ok);
-    m_widget->setMixed(isMixed(QStringLiteral("width")) || !ok, isMixed(QStringLiteral("height")) || !ok);
     if (ok)
         m_widget->setValue(size);
+    m_widget->setMixed(isMixed(QStringLiteral("width")) || !ok, isMixed(QStringLiteral("height")) || !ok);
     return ok;
 }
 

@@ -55,14 +55,6 @@ PropertyRow* PropertyPanel::rowOf(const QWidget* widget) const
     return row == m_rows.end() ? nullptr : *row;
 }
 
-int PropertyPanel::wantedLabelWidth() const
-{
-    int width = 0;
-    for (const PropertyRow* row : m_rows)
-        width = std::max(width, row->wantedLabelWidth());
-    return width;
-}
-
 void PropertyPanel::arrange(int labelWidth, int rowWidth)
 {
     for (PropertyRow* row : std::as_const(m_rows))

@@ -35,8 +35,7 @@ public:
     /// The row that holds \a widget, or null.
     [[nodiscard]] PropertyRow* rowOf(const QWidget* widget) const;
 
-    /// The width that the longest label would like, in pixels.
-    [[nodiscard]] int wantedLabelWidth() const;
+    /// Gives every row \a labelWidth of \a rowWidth for its label; in pixels.
     void arrange(int labelWidth, int rowWidth);
 
     /// The keyboard focus has moved.

@@ -63,11 +63,6 @@ void PropertyRow::addField(PropertyField* field)
     connect(field, &PropertyField::mixedChanged, this, &PropertyRow::updateMixedNote);
 }
 
-int PropertyRow::wantedLabelWidth() const
-{
-    return m_label->fontMetrics().horizontalAdvance(m_label->text()) + 1;
-}
-
 void PropertyRow::arrange(int labelWidth, int rowWidth)
 {
     int editorWidth = 0;
@@ -80,7 +75,8 @@ void PropertyRow::arrange(int labelWidth, int rowWidth)
     }
     const int width = stacked ? 0 : labelWidth;
     m_grid->setColumnMinimumWidth(0, width);
-    m_label->setFixedWidth(stacked ? rowWidth : width);
+    m_label->setMinimumWidth(width);
+    m_label->setMaximumWidth(stacked ? QWIDGETSIZE_MAX : width);
 }
 
 bool PropertyRow::holds(const QWidget* widget) const

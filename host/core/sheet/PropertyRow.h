@@ -27,8 +27,6 @@ public:
     /// Shows \a editor's messages and puts it into the row; the second one is the companion of the first.
     void addField(PropertyField* field);
 
-    /// The width that the label would like, in pixels.
-    [[nodiscard]] int wantedLabelWidth() const;
     /// Gives the label \a labelWidth of \a rowWidth and decides whether the label stands beside or above the editor.
     void arrange(int labelWidth, int rowWidth);
     [[nodiscard]] bool isStacked() const { return m_stacked; }

@@ -49,7 +49,6 @@ PropertySheet::PropertySheet(EditSession* session, QWidget* parent)
     setObjectName(QStringLiteral("propertySheet"));
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::NoFocus);
     m_hint->setText(LocalizationHelper::coreString(
         QStringLiteral("There is no screen yet. Add one, and its properties appear here.")));
@@ -323,10 +322,7 @@ void PropertySheet::rebuildIfNeeded()
 void PropertySheet::arrange()
 {
     const int width = viewport()->width() - 2 * SheetMetrics::Margin;
-    int label = m_heading->wantedLabelWidth();
-    if (m_panel)
-        label = std::max(label, m_panel->wantedLabelWidth());
-    label = std::min(label, SheetMetrics::largestLabelWidth(viewport()->width()));
+    const int label = SheetMetrics::labelWidth(viewport()->width());
     m_heading->arrange(label);
     if (m_panel)
         m_panel->arrange(label, width);

@@ -21,7 +21,7 @@ double luminance(const QColor& color)
 /// The contrast ratio of the same guidelines, 1 to 21.
 double contrast(const QColor& first, const QColor& second)
 {
-    const auto [dark, light] = std::minmax(luminance(first), luminance(second));
+    const auto [dark, light] = std::minmax({luminance(first), luminance(second)});
     return (light + 0.05) / (dark + 0.05);
 }
 

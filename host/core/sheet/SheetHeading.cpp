@@ -75,11 +75,6 @@ void SheetHeading::refresh()
         showId();
 }
 
-int SheetHeading::wantedLabelWidth() const
-{
-    return m_idLabel->sizeHint().width();
-}
-
 void SheetHeading::arrange(int labelWidth)
 {
     m_grid->setColumnMinimumWidth(0, labelWidth);

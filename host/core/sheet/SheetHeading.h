@@ -29,7 +29,6 @@ public:
     /// An id changed; a text that is being typed stays.
     void refresh();
 
-    [[nodiscard]] int wantedLabelWidth() const;
     void arrange(int labelWidth);
 
     [[nodiscard]] QString title() const;

@@ -12,8 +12,9 @@ struct SheetMetrics {
 
     /// The height of a one-line field in the style of \a widget; labels are centred on it.
     [[nodiscard]] static int fieldHeight(const QWidget* widget);
-    /// The widest label that a sheet of that width allows; longer ones break into lines.
-    [[nodiscard]] static int largestLabelWidth(int sheetWidth) { return sheetWidth * 36 / 100; }
+    /// The width of the labels in a sheet of that width: always the same, so that the columns stay where they are when
+    /// the selection changes. Longer labels break into lines.
+    [[nodiscard]] static int labelWidth(int sheetWidth) { return sheetWidth * 34 / 100; }
 };
 
 } // namespace Korvex::Meridane::Designer
