@@ -20,6 +20,7 @@ private Q_SLOTS:
     void everyKindOfFaultIsFound_data();
     void everyKindOfFaultIsFound();
     void unreadableScreensAndFaultyIdsAreFound();
+    void elementsThatCannotBeMadeAreFound();
     void missingFilesAreFound();
     void theDisplayNeedsASize();
     void faultsThatWereMendedAreGone();
@@ -122,6 +123,17 @@ void tst_ProjectChecker::unreadableScreensAndFaultyIdsAreFound()
     QVERIFY(text.contains(QLatin1String("error: screens/broken.json: broken: Line 1: This is not JSON")));
     QVERIFY(text.contains(QLatin1String("error: screens/gone.json: gone: The file of the screen is missing.")));
     QCOMPARE(text.count(QLatin1Char('\n')), 2);
+}
+
+void tst_ProjectChecker::elementsThatCannotBeMadeAreFound()
+{
+    const ProjectFixture fixture;
+    fixture.writeProject({QStringLiteral("main")});
+    fixture.writeScreen("main", R"({"class": "AllTypes", "id": "a", "properties": []}, {"id": "b"})");
+    const QString text = textOf(check(fixture));
+    QVERIFY(text.contains(QLatin1String("main/a: \"elements[0].properties\" must be an object, not a list.")));
+    QVERIFY(text.contains(QLatin1String("main/b: \"elements[1].class\" must be the name of a class.")));
+    QCOMPARE(text.count(QLatin1String("The element cannot be made from what the file says.")), 2);
 }
 
 void tst_ProjectChecker::missingFilesAreFound()

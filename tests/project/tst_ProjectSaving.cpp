@@ -428,7 +428,8 @@ void tst_ProjectSaving::aFileSizeLimitLeavesTheOldProject()
     const bool saved = save();
     QCOMPARE(::setrlimit(RLIMIT_FSIZE, &limit), 0);
     QVERIFY(!saved);
-    QVERIFY2(m_message.contains(QLatin1String("main.json")) && m_message.contains(QLatin1String("File too large")),
+    QVERIFY2(m_message.contains(QLatin1String("project/screens/main.json: "))
+                 && m_message.contains(QLatin1String("File too large")),
              qUtf8Printable(m_message));
     QCOMPARE(filesOf(m_fixture->folder()), before);
     QVERIFY(m_project->isModified());

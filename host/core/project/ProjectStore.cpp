@@ -19,9 +19,14 @@ std::unique_ptr<Project> ProjectStore::create(const QString& name, const QSizeF&
     auto project = std::make_unique<Project>();
     project->initialize();
     auto folder = std::make_unique<QTemporaryDir>(QDir::temp().filePath(QStringLiteral("meridane-XXXXXX")));
-    QDir(folder->path()).mkpath(QStringLiteral("images"));
-    QDir(folder->path()).mkpath(QStringLiteral("fonts"));
-    ProjectFiles::of(project.get())->setTemporaryFolder(std::move(folder));
+    if (folder->isValid()) {
+        QDir(folder->path()).mkpath(QStringLiteral("images"));
+        QDir(folder->path()).mkpath(QStringLiteral("fonts"));
+        ProjectFiles::of(project.get())->setTemporaryFolder(std::move(folder));
+    } else {
+        // Without a place for temporary files there is no importing, but everything else, saving included.
+        ProjectFiles::of(project.get())->setFolder(QDir::temp().filePath(QStringLiteral("meridane-unavailable")));
+    }
     project->getProperty(QStringLiteral("name"))->fill(name);
     project->getProperty(QStringLiteral("displaySize"))->fill(ValueConversion::toString(displaySize));
 

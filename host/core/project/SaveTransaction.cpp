@@ -154,8 +154,11 @@ bool SaveTransaction::stageFiles(QString* message)
     };
     for (const Write& write : std::as_const(m_writes)) {
         const QString path = SaveRecovery::newFile(root, write.file);
-        if (!folderFor(path) || !operations.createFile(path, write.content, message))
+        if (!folderFor(path) || !operations.createFile(path, write.content, message)) {
+            // The user knows the file that was to be written, not where it is prepared.
+            message->replace(QDir::toNativeSeparators(path), QDir::toNativeSeparators(m_folder.absolute(write.file)));
             return false;
+        }
         const QString copy = SaveRecovery::oldFile(root, write.file);
         if (write.exists && needsJournal() && (!folderFor(copy) || !operations.createFile(copy, write.before, message)))
             return false;

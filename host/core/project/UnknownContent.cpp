@@ -1,6 +1,7 @@
 #include "host/core/project/UnknownContent.h"
 
 #include "host/core/objects/UnknownElement.h"
+#include "host/core/plugins/DesignerFactory.h"
 #include "host/core/project/ObjectTree.h"
 #include "host/core/project/Project.h"
 #include "host/core/project/ProjectFolder.h"
@@ -52,18 +53,25 @@ QList<Problem> UnknownContent::find(const Screen* screen)
     QList<Problem> problems;
     const QString file = ProjectFolder::screenFile(screen->getIdName());
     ObjectTree::visitRead(screen, [&file, &problems](const DesignerObject* object) {
-        if (const auto* unknown = qobject_cast<const UnknownElement*>(object)) {
-            problems.append(Problem::error(
-                file, ObjectTree::name(object), {},
-                LocalizationHelper::coreString(
-                    QStringLiteral(
-                        "No loaded plug-in serves the class \"%1\". The element is kept, but neither shown nor "
-                        "exported: install the plug-in or remove the element."))
-                    .arg(unknown->wantedClassName())));
-        }
+        if (const auto* unknown = qobject_cast<const UnknownElement*>(object))
+            problems.append(Problem::error(file, ObjectTree::name(object), {}, explain(unknown)));
         findKeys(object, file, problems);
     });
     return problems;
+}
+
+QString UnknownContent::explain(const UnknownElement* element)
+{
+    const QString className = element->wantedClassName();
+    if (className.isEmpty() || DesignerFactory::instance()->hasDataObject(className)) {
+        return LocalizationHelper::coreString(QStringLiteral(
+            "The element cannot be made from what the file says. It is kept, but neither shown nor exported: correct it "
+            "in the file, or remove it."));
+    }
+    return LocalizationHelper::coreString(
+               QStringLiteral("No loaded plug-in serves the class \"%1\". The element is kept, but neither shown nor "
+                              "exported: install the plug-in or remove the element."))
+        .arg(className);
 }
 
 } // namespace Korvex::Meridane::Designer

@@ -6,6 +6,7 @@
 #include "host/core/project/ObjectTree.h"
 #include "host/core/project/Project.h"
 #include "host/core/project/ProjectFiles.h"
+#include "host/core/project/UnknownContent.h"
 #include "host/core/properties/FontProperty.h"
 #include "host/core/properties/LinkProperty.h"
 #include "host/core/values/ValueConversion.h"
@@ -65,15 +66,8 @@ void ExportContent::addScreen(const Screen* screen)
         return;
     }
     ObjectTree::visitRead(screen, [this, &file](const DesignerObject* object) {
-        if (const auto* unknown = qobject_cast<const UnknownElement*>(object)) {
-            m_problems.append(Problem::error(
-                file, ObjectTree::name(object), {},
-                LocalizationHelper::coreString(
-                    QStringLiteral(
-                        "No loaded plug-in serves the class \"%1\"; the display would lack the element. Install "
-                        "the plug-in or remove the element."))
-                    .arg(unknown->wantedClassName())));
-        }
+        if (const auto* unknown = qobject_cast<const UnknownElement*>(object))
+            m_problems.append(Problem::error(file, ObjectTree::name(object), {}, UnknownContent::explain(unknown)));
         addResources(object, file);
         addFonts(object);
     });
