@@ -12,6 +12,13 @@
 using namespace Korvex::Meridane::Designer;
 using namespace Korvex::Meridane::Designer::Test;
 
+static bool makeImage(const QString& file)
+{
+    QImage image(4, 4, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    return image.save(file);
+}
+
 /// Which image files a project keeps, and which ones go.
 class tst_ProjectImages : public QObject
 {
@@ -55,7 +62,7 @@ void tst_ProjectImages::init()
     m_fixture->writeProject({QStringLiteral("main")}, R"(, "images": ["used.png"])");
     m_fixture->writeScreen("main", R"({"class": "AllTypes", "id": "lamp", "properties": {"image": "used.png"}})");
     QDir(m_fixture->folder()).mkdir(QStringLiteral("images"));
-    QImage(4, 4, QImage::Format_RGB32).save(m_fixture->folder() + QStringLiteral("/images/used.png"));
+    QVERIFY(makeImage(m_fixture->folder() + QStringLiteral("/images/used.png")));
     m_project = load(m_fixture->folder());
     QVERIFY(m_project);
 }
@@ -63,7 +70,8 @@ void tst_ProjectImages::init()
 QString tst_ProjectImages::import(Project* project, const char* name) const
 {
     const QString file = m_fixture->path(name);
-    QImage(4, 4, QImage::Format_RGB32).save(file);
+    if (!makeImage(file))
+        return {};
     QString message;
     return ResourceImporter::importImage(project, file, &message);
 }

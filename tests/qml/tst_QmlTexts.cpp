@@ -8,7 +8,6 @@
 #include "tests/qml/QmlProbe.h"
 
 #include <QFont>
-#include <QImage>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QtTest>
