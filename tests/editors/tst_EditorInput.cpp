@@ -51,7 +51,7 @@ class tst_EditorInput : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        m_factory = std::make_unique<TestFactory>(QMap<QString, TestFactory::Maker> {
+        m_factory = std::make_unique<TestFactory>(QMap<QString, TestFactory::Maker>{
             {QStringLiteral("EditorTestElement"), [](QObject* parent) { return new EditorTestElement(parent); }}});
     }
 
@@ -328,9 +328,9 @@ private Q_SLOTS:
     void aLinkOffersTheObjectsOfItsScope()
     {
         auto* editor = show<LinkEditor>("link");
+        editor->comboBox()->setFocus();
         // "(none)" and the other element: no object links to itself.
         QCOMPARE(editor->comboBox()->count(), 2);
-        editor->comboBox()->setFocus();
         QTest::keyClick(editor->comboBox(), Qt::Key_Down);
         QCOMPARE(m_element->value("link"), QStringLiteral("test1"));
         QCOMPARE(stack()->count(), 1);

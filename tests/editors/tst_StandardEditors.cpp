@@ -21,16 +21,56 @@ namespace {
 QStringList valueStrings()
 {
     const char* const texts[] = {
-        "", "abc", "nan", "-", "0", "1", "-7", "12", "250", "99999999", "0.1", "43.301270189221931", "-0.000001", "1e-7",
-        "1e300", "true", "100,75", "0.5,0.25", "-3,1000000", "43.3333333,12.0000001", "1,2,3", "0,0 50,0 25,40",
-        "1.25,2 3,4.0000001", "1,2 3", "#ff8800", "#80ff8800", "red", "#12", "width: 2; color: #000000;",
-        "width: 5000; color: #80102030;", "width: -1; color: #000000;", "angle: 45; fixedPoint: Center;",
-        "angle: -725.123456; fixedPoint: BottomRight;", "angle: 1; fixedPoint: Middle;",
-        "family: DejaVu Sans; pointSize: 24;", "family: Not Installed\\: 1; pixelSize: 9; weight: 333;",
+        "",
+        "abc",
+        "nan",
+        "-",
+        "0",
+        "1",
+        "-7",
+        "12",
+        "250",
+        "99999999",
+        "0.1",
+        "43.301270189221931",
+        "-0.000001",
+        "1e-7",
+        "1e300",
+        "true",
+        "100,75",
+        "0.5,0.25",
+        "-3,1000000",
+        "43.3333333,12.0000001",
+        "1,2,3",
+        "0,0 50,0 25,40",
+        "1.25,2 3,4.0000001",
+        "1,2 3",
+        "#ff8800",
+        "#80ff8800",
+        "red",
+        "#12",
+        "width: 2; color: #000000;",
+        "width: 5000; color: #80102030;",
+        "width: -1; color: #000000;",
+        "angle: 45; fixedPoint: Center;",
+        "angle: -725.123456; fixedPoint: BottomRight;",
+        "angle: 1; fixedPoint: Middle;",
+        "family: DejaVu Sans; pointSize: 24;",
+        "family: Not Installed\\: 1; pixelSize: 9; weight: 333;",
         "family: DejaVu Sans; pointSize: 24.333; bold: true; italic: true; underline: true; overline: true; "
         "strikeOut: true; letterSpacing: 1; wordSpacing: 2;",
-        "family: A;", "PadSpread", "RepeatSpread", "NoSpread", "test1", "test2", "missing", "picture.png", "../up.png",
-        "a text with \"quotes\" and <b>markup</b>", "two\nlines", "tab\tand trailing blank ",
+        "family: A;",
+        "PadSpread",
+        "RepeatSpread",
+        "NoSpread",
+        "test1",
+        "test2",
+        "missing",
+        "picture.png",
+        "../up.png",
+        "a text with \"quotes\" and <b>markup</b>",
+        "two\nlines",
+        "tab\tand trailing blank ",
     };
     QStringList strings;
     for (const char* text : texts)
@@ -47,7 +87,7 @@ class tst_StandardEditors : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        m_factory = std::make_unique<TestFactory>(QMap<QString, TestFactory::Maker> {
+        m_factory = std::make_unique<TestFactory>(QMap<QString, TestFactory::Maker>{
             {QStringLiteral("EditorTestElement"), [](QObject* parent) { return new EditorTestElement(parent); }}});
     }
 
@@ -113,7 +153,8 @@ private Q_SLOTS:
                 property->fill(value);
                 const QString stored = property->valueString();
                 editor->load();
-                const QByteArray where = (editorClass + QLatin1Char(' ') + property->id() + QLatin1Char(' ') + value).toUtf8();
+                const QByteArray where =
+                    (editorClass + QLatin1Char(' ') + property->id() + QLatin1Char(' ') + value).toUtf8();
                 QVERIFY2(editor->editorValue() == stored, where.constData());
                 editor->save();
                 QVERIFY2(property->valueString() == stored, where.constData());

@@ -53,8 +53,8 @@ private Q_SLOTS:
             "family: Sans; pixelSize: 9;", "family: Sans; pointSize: 12; italic: true;");
         row("font size with its unit", "FontProperty", "family: Serif; pointSize: 12; bold: true;", "size",
             "family: Sans; pixelSize: 9;", "family: Serif; pixelSize: 9; bold: true;");
-        row("bold on", "FontProperty", "family: Serif; pointSize: 12;", "bold", "family: Sans; pixelSize: 9; bold: true;",
-            "family: Serif; pointSize: 12; bold: true;");
+        row("bold on", "FontProperty", "family: Serif; pointSize: 12;", "bold",
+            "family: Sans; pixelSize: 9; bold: true;", "family: Serif; pointSize: 12; bold: true;");
         row("bold off", "FontProperty", "family: Serif; pointSize: 12; weight: 600;", "bold",
             "family: Sans; pixelSize: 9;", "family: Serif; pointSize: 12;");
         row("underline off", "FontProperty", "family: Serif; pointSize: 12; underline: true; overline: true;",
@@ -81,9 +81,9 @@ private Q_SLOTS:
     {
         const QString size = latin("SizeProperty");
         QCOMPARE(ValueComponents::withOperation(size, latin("100,75"), latin("width"), add(10)), latin("110,75"));
-        QCOMPARE(ValueComponents::withOperation(size, latin("100,75"), latin("height"),
-                                                {NumberOperation::Kind::Divide, 3}),
-                 latin("100,25"));
+        QCOMPARE(
+            ValueComponents::withOperation(size, latin("100,75"), latin("height"), {NumberOperation::Kind::Divide, 3}),
+            latin("100,25"));
         QCOMPARE(ValueComponents::withOperation(latin("IntegerProperty"), latin("12"), {}, add(0.6)), latin("13"));
         QCOMPARE(ValueComponents::withOperation(latin("RealProperty"), latin("12"), {}, add(0.5)), latin("12.5"));
         QCOMPARE(ValueComponents::withOperation(latin("BorderProperty"), latin("width: 2; color: #ff0000;"),
@@ -99,9 +99,11 @@ private Q_SLOTS:
 
     void anOperationLeavesAloneWhatIsNoNumber()
     {
-        QCOMPARE(ValueComponents::withOperation(latin("SizeProperty"), latin("abc"), latin("width"), add(1)), latin("abc"));
+        QCOMPARE(ValueComponents::withOperation(latin("SizeProperty"), latin("abc"), latin("width"), add(1)),
+                 latin("abc"));
         QCOMPARE(ValueComponents::withOperation(latin("RealProperty"), latin("abc"), {}, add(1)), latin("abc"));
-        QCOMPARE(ValueComponents::withOperation(latin("ColorProperty"), latin("#ff0000"), {}, add(1)), latin("#ff0000"));
+        QCOMPARE(ValueComponents::withOperation(latin("ColorProperty"), latin("#ff0000"), {}, add(1)),
+                 latin("#ff0000"));
         QCOMPARE(ValueComponents::withOperation(latin("SizeProperty"), latin("1,2"), {}, add(1)), latin("1,2"));
     }
 
@@ -111,11 +113,11 @@ private Q_SLOTS:
             return ValueComponents::changedComponents(latin(type), latin(before), latin(after));
         };
         QCOMPARE(changed("SizeProperty", "100,75", "100,75"), QStringList());
-        QCOMPARE(changed("SizeProperty", "100,75", "50,75"), QStringList {latin("width")});
+        QCOMPARE(changed("SizeProperty", "100,75", "50,75"), QStringList{latin("width")});
         QCOMPARE(changed("SizeProperty", "100,75", "50,70"), QStringList({latin("width"), latin("height")}));
         QCOMPARE(changed("SizeProperty", "100,75", "100.0,75"), QStringList());
-        QCOMPARE(changed("SizeProperty", "abc", "100,75"), QStringList {QString()});
-        QCOMPARE(changed("IntegerProperty", "1", "2"), QStringList {QString()});
+        QCOMPARE(changed("SizeProperty", "abc", "100,75"), QStringList{QString()});
+        QCOMPARE(changed("IntegerProperty", "1", "2"), QStringList{QString()});
         QCOMPARE(changed("FontProperty", "family: A; pointSize: 9;", "family: A; pixelSize: 9; weight: 600;"),
                  QStringList({latin("size"), latin("bold")}));
     }

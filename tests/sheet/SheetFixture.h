@@ -41,7 +41,10 @@ public:
             qFatal("no such editor: %s", propertyId);
         return found;
     }
-    [[nodiscard]] QString message(const char* propertyId) const { return sheet->message(QString::fromLatin1(propertyId)); }
+    [[nodiscard]] QString message(const char* propertyId) const
+    {
+        return sheet->message(QString::fromLatin1(propertyId));
+    }
     [[nodiscard]] QLineEdit* idField() const;
 
     /// Clicks into the field, replaces its text and presses Enter.

@@ -37,7 +37,8 @@ private Q_SLOTS:
         for (const auto& property : m_element.properties())
             QVERIFY2(known.contains(EditorMatcher::defaultEditorClass(*property)), qPrintable(property->id()));
         QCOMPARE(EditorMatcher::defaultEditorClass(*m_element.property("boundingSize")), QStringLiteral("SizeEditor"));
-        QCOMPARE(EditorMatcher::defaultEditorClass(*m_element.property("points")), QStringLiteral("PointListTextEditor"));
+        QCOMPARE(EditorMatcher::defaultEditorClass(*m_element.property("points")),
+                 QStringLiteral("PointListTextEditor"));
         QCOMPARE(EditorMatcher::defaultEditorClass(*m_element.property("rotation")), QStringLiteral("RotationEditor"));
         QCOMPARE(EditorMatcher::defaultEditorClass(*m_element.property("text")), QStringLiteral("StringEditor"));
     }

@@ -191,7 +191,8 @@ private Q_SLOTS:
     void derivedValuesAreShown()
     {
         auto* size = m_fixture->editor<SizeEditor>("boundingSize");
-        m_fixture->session->setProperty(m_element, QStringLiteral("border"), QStringLiteral("width: 10; color: #000000;"));
+        m_fixture->session->setProperty(m_element, QStringLiteral("border"),
+                                        QStringLiteral("width: 10; color: #000000;"));
         QCOMPARE(m_element->value("boundingSize"), QStringLiteral("110,85"));
         QCOMPARE(size->sizeWidget()->value(), QSizeF(110, 85));
     }

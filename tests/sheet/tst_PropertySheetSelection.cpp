@@ -161,7 +161,7 @@ private Q_SLOTS:
     {
         DesignerObject* added = nullptr;
         m_fixture->session->addElement(QStringLiteral("Rectangle"), m_fixture->screen, {}, {}, &added);
-        QCOMPARE(m_fixture->sheet->objects(), QList<DesignerObject*> {added});
+        QCOMPARE(m_fixture->sheet->objects(), QList<DesignerObject*>{added});
         QCOMPARE(m_fixture->sheet->title(), QStringLiteral("Rectangle"));
         m_fixture->session->undo();
         QCOMPARE(m_fixture->sheet->title(), QStringLiteral("Screen"));

@@ -37,8 +37,7 @@ class PlainEditor : public PropertyEditor
 public:
     explicit PlainEditor(QWidget* parent)
         : PropertyEditor(parent)
-    {
-    }
+    {}
     bool createEditorWidget() override
     {
         auto* widget = new QWidget(this);
@@ -159,7 +158,8 @@ private Q_SLOTS:
         selectAll();
         auto* position = m_fixture->editor<PointEditor>("position");
         SheetFixture::enter(position->xField(), "+=10");
-        QCOMPARE(values("position"), QStringList({QStringLiteral("20,5"), QStringLiteral("30,6"), QStringLiteral("40,7")}));
+        QCOMPARE(values("position"),
+                 QStringList({QStringLiteral("20,5"), QStringLiteral("30,6"), QStringLiteral("40,7")}));
         SheetFixture::enter(position->yField(), "100");
         QCOMPARE(values("position"),
                  QStringList({QStringLiteral("20,100"), QStringLiteral("30,100"), QStringLiteral("40,100")}));
@@ -195,12 +195,13 @@ private Q_SLOTS:
     void partsOfABorderAndARotationAreEditedAlone()
     {
         fill("border", {"width: 1; color: #ff0000;", "width: 2; color: #00ff00;", "width: 3; color: #0000ff;"});
-        fill("rotation", {"angle: 1; fixedPoint: Top;", "angle: 2; fixedPoint: Left;", "angle: 3; fixedPoint: Center;"});
+        fill("rotation",
+             {"angle: 1; fixedPoint: Top;", "angle: 2; fixedPoint: Left;", "angle: 3; fixedPoint: Center;"});
         selectAll();
         SheetFixture::enter(m_fixture->editor<BorderEditor>("border")->widthField(), "9");
-        QCOMPARE(values("border"), QStringList({QStringLiteral("width: 9; color: #ff0000;"),
-                                                QStringLiteral("width: 9; color: #00ff00;"),
-                                                QStringLiteral("width: 9; color: #0000ff;")}));
+        QCOMPARE(values("border"),
+                 QStringList({QStringLiteral("width: 9; color: #ff0000;"), QStringLiteral("width: 9; color: #00ff00;"),
+                              QStringLiteral("width: 9; color: #0000ff;")}));
         auto* grid = m_fixture->editor<RotationEditor>("rotation")->fixedPointGrid();
         grid->setFocus();
         QTest::keyClick(grid, Qt::Key_End);
@@ -237,10 +238,9 @@ private Q_SLOTS:
     void eachKeepsItsOwnRatio()
     {
         for (int i = 0; i < 3; ++i)
-            m_fixture->session->setProperty(m_elements[i], QStringLiteral("boundingSize"),
-                                            QStringList({QStringLiteral("100,50"), QStringLiteral("100,200"),
-                                                         QStringLiteral("100,100")})
-                                                .at(i));
+            m_fixture->session->setProperty(
+                m_elements[i], QStringLiteral("boundingSize"),
+                QStringList({QStringLiteral("100,50"), QStringLiteral("100,200"), QStringLiteral("100,100")}).at(i));
         m_fixture->stack()->clear();
         selectAll();
         auto* lock = m_fixture->editor<KeepRatioEditor>("keepRatio")->lockToggle();
@@ -380,7 +380,7 @@ private:
     {
         m_plain = std::make_unique<TestFactory>(
             QMap<QString, TestFactory::Maker>(),
-            QMap<QString, TestFactory::EditorMaker> {
+            QMap<QString, TestFactory::EditorMaker>{
                 {QStringLiteral("PlainEditor"), [](QWidget* parent) { return new PlainEditor(parent); }}});
         for (EditorTestElement* element : m_elements)
             element->property("boundingSize")->setEditor(QStringLiteral("PlainEditor"));
@@ -393,7 +393,7 @@ private:
 
     std::unique_ptr<TestFactory> m_plain;
     std::unique_ptr<SheetFixture> m_fixture;
-    std::array<EditorTestElement*, 3> m_elements {};
+    std::array<EditorTestElement*, 3> m_elements{};
 };
 
 QTEST_MAIN(tst_PropertySheetSeveral)

@@ -16,8 +16,7 @@ using Common::LocalizationHelper;
 
 BorderEditor::BorderEditor(QWidget* parent)
     : StandardEditor(parent)
-{
-}
+{}
 
 BorderEditor::~BorderEditor() = default;
 

@@ -8,8 +8,7 @@ namespace Korvex::Meridane::Designer {
 
 ColorEditor::ColorEditor(QWidget* parent)
     : StandardEditor(parent)
-{
-}
+{}
 
 ColorEditor::~ColorEditor() = default;
 

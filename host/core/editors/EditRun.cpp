@@ -22,8 +22,7 @@ bool isSliderKey(int key)
 
 EditRun::EditRun(QObject* parent)
     : QObject(parent)
-{
-}
+{}
 
 EditRun::~EditRun() = default;
 

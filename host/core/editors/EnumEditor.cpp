@@ -13,8 +13,7 @@ using Common::EnumHelper;
 
 EnumEditor::EnumEditor(QWidget* parent)
     : StandardEditor(parent)
-{
-}
+{}
 
 EnumEditor::~EnumEditor() = default;
 

@@ -14,14 +14,13 @@ namespace Korvex::Meridane::Designer {
 namespace {
 
 /// The components in the order of FontWidget::styleButtons().
-constexpr std::array StyleComponents {"bold", "italic", "underline", "overline", "strikeOut"};
+constexpr std::array StyleComponents{"bold", "italic", "underline", "overline", "strikeOut"};
 
 } // namespace
 
 FontEditor::FontEditor(QWidget* parent)
     : StandardEditor(parent)
-{
-}
+{}
 
 FontEditor::~FontEditor() = default;
 

@@ -103,6 +103,11 @@ QStringList ImageSourceEditor::candidates() const
     return owner ? owner->imageResources() : QStringList();
 }
 
+bool ImageSourceEditor::isCandidate(const QString& id) const
+{
+    return candidates().contains(id);
+}
+
 void ImageSourceEditor::choicesReplaced()
 {
     m_nextThumbnail = 0;

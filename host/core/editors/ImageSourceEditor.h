@@ -32,6 +32,7 @@ public:
 
 protected:
     [[nodiscard]] QStringList candidates() const override;
+    [[nodiscard]] bool isCandidate(const QString& id) const override;
     void choicesReplaced() override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;

@@ -51,8 +51,9 @@ QIcon ImageThumbnails::thumbnail(const QString& file)
     constexpr int Kept = 500;
     static QCache<QString, QIcon> cache(Kept);
     const QFileInfo info(file);
-    const QString key = QStringLiteral("%1|%2|%3").arg(
-        file, QString::number(info.lastModified().toMSecsSinceEpoch()), QString::number(info.size()));
+    const QString key =
+        QStringLiteral("%1|%2|%3")
+            .arg(file, QString::number(info.lastModified().toMSecsSinceEpoch()), QString::number(info.size()));
     if (const QIcon* known = cache.object(key))
         return *known;
     QIcon icon = makeThumbnail(file);

@@ -4,8 +4,7 @@ namespace Korvex::Meridane::Designer {
 
 IntegerEditor::IntegerEditor(QWidget* parent)
     : NumberEditor(true, parent)
-{
-}
+{}
 
 IntegerEditor::~IntegerEditor() = default;
 

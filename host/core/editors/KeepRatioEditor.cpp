@@ -21,8 +21,7 @@ bool isLocked(const QString& value)
 
 KeepRatioEditor::KeepRatioEditor(QWidget* parent)
     : StandardEditor(parent)
-{
-}
+{}
 
 KeepRatioEditor::~KeepRatioEditor() = default;
 

@@ -21,7 +21,7 @@ class DesignerObject;
  * height follows when both differ. Neither becomes smaller than \a minimum. Rounded to 6 decimals, as derived outer
  * sizes are. \a wanted itself when the ratio is not above 0 or nothing differs.
  */
-[[nodiscard]] MERIDANE_CORE_EXPORT QSizeF sizeCompletedToRatio(const QSizeF& present, const QSizeF& wanted, double ratio,
-                                                               const QSizeF& minimum);
+[[nodiscard]] MERIDANE_CORE_EXPORT QSizeF sizeCompletedToRatio(const QSizeF& present, const QSizeF& wanted,
+                                                               double ratio, const QSizeF& minimum);
 
 } // namespace Korvex::Meridane::Designer

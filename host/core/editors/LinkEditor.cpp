@@ -1,6 +1,7 @@
 #include "host/core/editors/LinkEditor.h"
 
 #include "host/core/objects/DesignerObject.h"
+#include "host/core/objects/IdRegistry.h"
 #include "host/core/project/Project.h"
 #include "host/core/properties/LinkProperty.h"
 #include "host/core/properties/ObjectListProperty.h"
@@ -20,7 +21,7 @@ using Common::LocalizationHelper;
 namespace {
 
 /// The object that \a object's ids of that scope are unique in.
-const DesignerObject* scopeObject(DesignerObject* object, const QString& scopeType)
+DesignerObject* scopeObject(DesignerObject* object, const QString& scopeType)
 {
     if (scopeType == QLatin1String("Project"))
         return Project::parentProject(object);
@@ -49,8 +50,7 @@ void collectIds(const DesignerObject& parent, const QStringList& filter, const D
 
 LinkEditor::LinkEditor(QWidget* parent)
     : StandardEditor(parent)
-{
-}
+{}
 
 LinkEditor::~LinkEditor() = default;
 
@@ -85,7 +85,8 @@ bool LinkEditor::showValue(const QString& value)
 {
     bool ok = false;
     (void)ValueConversion::toLinkInfo(value, &ok);
-    fillChoices(value);
+    setChoices({QString()});
+    showChoice(value);
     return ok;
 }
 
@@ -103,7 +104,17 @@ QStringList LinkEditor::candidates() const
     return ids;
 }
 
-void LinkEditor::choicesReplaced() { }
+bool LinkEditor::isCandidate(const QString& id) const
+{
+    DesignerObject* object = property() ? property()->parentObject() : nullptr;
+    DesignerObject* scope = scopeObject(object, scopeType());
+    const IdRegistry* ids = scope ? scope->ownIdScope() : nullptr;
+    const DesignerObject* found = ids ? ids->find(id) : nullptr;
+    const QStringList filter = filterTypes();
+    return found && found != object && (filter.isEmpty() || filter.contains(found->idInfo().filterType()));
+}
+
+void LinkEditor::choicesReplaced() {}
 
 Project* LinkEditor::project() const
 {
@@ -124,27 +135,38 @@ QStringList LinkEditor::filterTypes() const
 
 void LinkEditor::fillChoices(const QString& value)
 {
-    const QStringList known = candidates();
-    QStringList choices {QString()};
-    choices += known;
-    if (!choices.contains(value))
-        choices.append(value);
-    if (choices != m_choices || m_box->count() != choices.size()) {
-        const QSignalBlocker silent(m_box);
-        m_choices = choices;
-        m_box->clear();
-        for (const QString& id : choices) {
-            QString text = id;
-            if (id.isEmpty())
-                text = LocalizationHelper::coreString(QStringLiteral("(none)"));
-            else if (!known.contains(id))
-                text = LocalizationHelper::coreString(QStringLiteral("%1 (missing)")).arg(id);
-            m_box->addKeyedItem(id, text);
-        }
-        choicesReplaced();
-    }
+    setChoices(QStringList(QString()) + candidates());
+    showChoice(value);
+}
+
+void LinkEditor::setChoices(const QStringList& choices)
+{
+    if (choices == m_choices)
+        return;
+    const QSignalBlocker silent(m_box);
+    m_choices = choices;
+    m_box->clear();
+    for (const QString& id : choices)
+        m_box->addKeyedItem(id, choiceText(id));
+    choicesReplaced();
+}
+
+void LinkEditor::showChoice(const QString& value)
+{
+    if (!m_choices.contains(value))
+        setChoices(QStringList(m_choices) << value);
     m_box->setCurrentItemKey(value);
+    const int index = m_box->currentIndex();
+    if (index >= 0)
+        m_box->setItemText(index, choiceText(value));
     m_box->setMixed(isMixed());
+}
+
+QString LinkEditor::choiceText(const QString& id) const
+{
+    if (id.isEmpty())
+        return LocalizationHelper::coreString(QStringLiteral("(none)"));
+    return isCandidate(id) ? id : LocalizationHelper::coreString(QStringLiteral("%1 (missing)")).arg(id);
 }
 
 } // namespace Korvex::Meridane::Designer

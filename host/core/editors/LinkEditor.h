@@ -34,16 +34,23 @@ protected:
 
     /// The ids that the list offers, in its order.
     [[nodiscard]] virtual QStringList candidates() const;
+    /// Whether \a id is among them; quicker than candidates().
+    [[nodiscard]] virtual bool isCandidate(const QString& id) const;
     /// Runs when the list was filled anew.
     virtual void choicesReplaced();
 
     [[nodiscard]] Project* project() const;
     [[nodiscard]] QString scopeType() const;
     [[nodiscard]] QStringList filterTypes() const;
-    /// Brings the list up to date and makes \a value current.
+    /// Brings the list up to date and makes \a value current. A project may have very many objects, so that this is
+    /// done when the user turns to the list; until then it holds little more than the value.
     void fillChoices(const QString& value);
 
 private:
+    void setChoices(const QStringList& choices);
+    void showChoice(const QString& value);
+    [[nodiscard]] QString choiceText(const QString& id) const;
+
     ComboBox* m_box = nullptr;
     QStringList m_choices;
 };

@@ -12,8 +12,7 @@ namespace Korvex::Meridane::Designer {
 NumberEditor::NumberEditor(bool wholeNumbers, QWidget* parent)
     : StandardEditor(parent)
     , m_wholeNumbers(wholeNumbers)
-{
-}
+{}
 
 NumberEditor::~NumberEditor() = default;
 

@@ -16,8 +16,7 @@ using Common::LocalizationHelper;
 
 PointEditor::PointEditor(QWidget* parent)
     : StandardEditor(parent)
-{
-}
+{}
 
 PointEditor::~PointEditor() = default;
 

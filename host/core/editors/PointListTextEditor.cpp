@@ -10,8 +10,7 @@ using Common::LocalizationHelper;
 
 PointListTextEditor::PointListTextEditor(QWidget* parent)
     : StringEditor(parent)
-{
-}
+{}
 
 PointListTextEditor::~PointListTextEditor() = default;
 
@@ -25,8 +24,8 @@ QString PointListTextEditor::problemOf(const QString& text) const
     bool ok = false;
     (void)ValueConversion::toPolygon(text, &ok);
     return ok ? QString()
-              : LocalizationHelper::coreString(
-                    QStringLiteral("Write points as \"x,y\" with one blank between them, for example \"0,0 50,0 25,40\"."));
+              : LocalizationHelper::coreString(QStringLiteral(
+                  "Write points as \"x,y\" with one blank between them, for example \"0,0 50,0 25,40\"."));
 }
 
 } // namespace Korvex::Meridane::Designer

@@ -46,8 +46,7 @@ EditResult executeDetached(UndoCommand& command)
 
 PropertyEditor::PropertyEditor(QWidget* parent)
     : QWidget(parent)
-{
-}
+{}
 
 PropertyEditor::~PropertyEditor()
 {
@@ -76,7 +75,7 @@ bool PropertyEditor::initialize()
 
 void PropertyEditor::setProperty(const QSharedPointer<DesignerProperty>& property)
 {
-    setProperties(property ? QList {property} : QList<QSharedPointer<DesignerProperty>>());
+    setProperties(property ? QList{property} : QList<QSharedPointer<DesignerProperty>>());
 }
 
 void PropertyEditor::setProperties(const QList<QSharedPointer<DesignerProperty>>& properties)
@@ -135,9 +134,8 @@ bool PropertyEditor::isTyping() const
     const auto* field = qobject_cast<const QLineEdit*>(focused);
     if (const auto* number = qobject_cast<const SpinBox*>(focused)) {
         // Its text may be rewritten as it stands when it is taken over, so that "modified" says nothing.
-        const QString shown = number->isMixed()
-            ? QString()
-            : number->textFromValue(number->QDoubleSpinBox::value()) + number->suffix();
+        const QString shown =
+            number->isMixed() ? QString() : number->textFromValue(number->QDoubleSpinBox::value()) + number->suffix();
         return number->text() != shown;
     }
     return field && field->isModified();
@@ -217,13 +215,13 @@ void PropertyEditor::setVerdict(bool accepted, const QString& message)
     Q_EMIT this->accepted();
 }
 
-UndoCommand* PropertyEditor::createUpdateCommand(const QSharedPointer<DesignerProperty>& property,
-                                                 const QString& value, UndoCommand* parent)
+UndoCommand* PropertyEditor::createUpdateCommand(const QSharedPointer<DesignerProperty>& property, const QString& value,
+                                                 UndoCommand* parent)
 {
     return new ChangeProperty(property, value, isSelected(property->parentObject()), parent);
 }
 
-void PropertyEditor::propertyReplaced() { }
+void PropertyEditor::propertyReplaced() {}
 
 bool PropertyEditor::showsMixed() const
 {

@@ -156,7 +156,6 @@ private:
     void applyToolTip();
     void forgetEdited();
 
-
     QSharedPointer<DesignerProperty> m_property;
     QList<QSharedPointer<DesignerProperty>> m_properties;
     QPointer<QWidget> m_editorWidget;

@@ -4,8 +4,7 @@ namespace Korvex::Meridane::Designer {
 
 RealEditor::RealEditor(QWidget* parent)
     : NumberEditor(false, parent)
-{
-}
+{}
 
 RealEditor::~RealEditor() = default;
 

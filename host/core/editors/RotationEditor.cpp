@@ -16,8 +16,7 @@ using Common::LocalizationHelper;
 
 RotationEditor::RotationEditor(QWidget* parent)
     : StandardEditor(parent)
-{
-}
+{}
 
 RotationEditor::~RotationEditor() = default;
 

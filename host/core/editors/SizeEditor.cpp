@@ -12,8 +12,7 @@ namespace Korvex::Meridane::Designer {
 
 SizeEditor::SizeEditor(QWidget* parent)
     : StandardEditor(parent)
-{
-}
+{}
 
 SizeEditor::~SizeEditor() = default;
 

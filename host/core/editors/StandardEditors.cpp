@@ -21,7 +21,8 @@ namespace Korvex::Meridane::Designer {
 
 namespace {
 
-struct EditorClass {
+struct EditorClass
+{
     const char* name;
     PropertyEditor* (*make)(QWidget* parent);
 };
@@ -32,7 +33,7 @@ PropertyEditor* make(QWidget* parent)
     return new Editor(parent);
 }
 
-constexpr std::array<EditorClass, 14> EditorClasses {{
+constexpr std::array<EditorClass, 14> EditorClasses{{
     {"IntegerEditor", make<IntegerEditor>},
     {"RealEditor", make<RealEditor>},
     {"SizeEditor", make<SizeEditor>},

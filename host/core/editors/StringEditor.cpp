@@ -8,8 +8,7 @@ namespace Korvex::Meridane::Designer {
 
 StringEditor::StringEditor(QWidget* parent)
     : StandardEditor(parent)
-{
-}
+{}
 
 StringEditor::~StringEditor() = default;
 

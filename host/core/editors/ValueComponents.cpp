@@ -14,7 +14,8 @@ namespace Korvex::Meridane::Designer {
 namespace {
 
 /// A component and the keys that hold it, of which a value has at most one (a font's size) or some (its weight).
-struct Component {
+struct Component
+{
     const char* name;
     std::array<const char*, 2> keys; // the second may be null
 };
@@ -23,7 +24,8 @@ struct Component {
 using Parts = QMap<QString, QString>;
 
 /// How the values of a property class are taken apart and put together again.
-struct Layout {
+struct Layout
+{
     const char* propertyClass;
     QList<Component> components;
     std::optional<Parts> (*split)(const QString& value);
@@ -80,8 +82,8 @@ std::optional<Parts> splitSize(const QString& value)
     const QSizeF size = ValueConversion::toSize(value, &ok);
     if (!ok)
         return std::nullopt;
-    return Parts {{key("width"), ValueConversion::toString(size.width())},
-                  {key("height"), ValueConversion::toString(size.height())}};
+    return Parts{{key("width"), ValueConversion::toString(size.width())},
+                 {key("height"), ValueConversion::toString(size.height())}};
 }
 
 QString joinSize(const Parts& parts)
@@ -99,7 +101,7 @@ std::optional<Parts> splitPoint(const QString& value)
     const QPointF point = ValueConversion::toPoint(value, &ok);
     if (!ok)
         return std::nullopt;
-    return Parts {{key("x"), ValueConversion::toString(point.x())}, {key("y"), ValueConversion::toString(point.y())}};
+    return Parts{{key("x"), ValueConversion::toString(point.x())}, {key("y"), ValueConversion::toString(point.y())}};
 }
 
 QString joinPoint(const Parts& parts)
@@ -113,7 +115,7 @@ QString joinPoint(const Parts& parts)
 
 const QList<Layout>& layouts()
 {
-    static const QList<Layout> list {
+    static const QList<Layout> list{
         {"SizeProperty", {{"width", {"width"}}, {"height", {"height"}}}, splitSize, joinSize},
         {"PointProperty", {{"x", {"x"}}, {"y", {"y"}}}, splitPoint, joinPoint},
         {"BorderProperty",

@@ -36,8 +36,7 @@ bool isInput(QEvent::Type type)
 DirectChangeRecorder::DirectChangeRecorder(QWidget* root)
     : QObject(root)
     , m_root(root)
-{
-}
+{}
 
 DirectChangeRecorder::~DirectChangeRecorder() = default;
 

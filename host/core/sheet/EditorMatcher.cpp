@@ -10,25 +10,26 @@ namespace Korvex::Meridane::Designer {
 
 namespace {
 
-struct Match {
+struct Match
+{
     const char* propertyClass;
     const char* editorClass;
 };
 
 /// Derived types stand before their bases; the root class ends the list.
-constexpr std::array Matches {
-    Match {"IntegerProperty", "IntegerEditor"},
-    Match {"RealProperty", "RealEditor"},
-    Match {"SizeProperty", "SizeEditor"},
-    Match {"PointProperty", "PointEditor"},
-    Match {"PointListProperty", "PointListTextEditor"},
-    Match {"ColorProperty", "ColorEditor"},
-    Match {"BorderProperty", "BorderEditor"},
-    Match {"RotationProperty", "RotationEditor"},
-    Match {"FontProperty", "FontEditor"},
-    Match {"EnumProperty", "EnumEditor"},
-    Match {"LinkProperty", "LinkEditor"},
-    Match {"DesignerProperty", "StringEditor"},
+constexpr std::array Matches{
+    Match{"IntegerProperty", "IntegerEditor"},
+    Match{"RealProperty", "RealEditor"},
+    Match{"SizeProperty", "SizeEditor"},
+    Match{"PointProperty", "PointEditor"},
+    Match{"PointListProperty", "PointListTextEditor"},
+    Match{"ColorProperty", "ColorEditor"},
+    Match{"BorderProperty", "BorderEditor"},
+    Match{"RotationProperty", "RotationEditor"},
+    Match{"FontProperty", "FontEditor"},
+    Match{"EnumProperty", "EnumEditor"},
+    Match{"LinkProperty", "LinkEditor"},
+    Match{"DesignerProperty", "StringEditor"},
 };
 
 } // namespace

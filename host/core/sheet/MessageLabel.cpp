@@ -35,9 +35,7 @@ void MessageLabel::setMessage(const QString& message)
 void MessageLabel::changeEvent(QEvent* event)
 {
     QLabel::changeEvent(event);
-    // Only the theme, not the colour that this very label set.
-    if (event->type() == QEvent::ApplicationPaletteChange
-        || (event->type() == QEvent::PaletteChange && palette().color(QPalette::WindowText) != errorColor(palette())))
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange)
         applyColor();
 }
 
@@ -47,7 +45,7 @@ void MessageLabel::applyColor()
     QPalette own = palette();
     const QColor color = errorColor(theme);
     if (own.color(QPalette::WindowText) == color)
-        return;
+        return; // also ends the change of palette that this function itself makes
     own.setColor(QPalette::WindowText, color);
     setPalette(own);
 }

@@ -115,7 +115,7 @@ void PropertyField::applyToAll()
     if (m_properties.isEmpty())
         return;
     const QString className = m_properties.first()->className();
-    QStringList components {m_editor->editedComponent()};
+    QStringList components{m_editor->editedComponent()};
     if (!m_editor->hasEditedComponent())
         components = ValueComponents::changedComponents(className, m_pending, m_editor->changedPropertyValue());
 
@@ -132,7 +132,7 @@ void PropertyField::applyToAll()
                       : LocalizationHelper::coreString(QStringLiteral("Change %1")).arg(m_properties.first()->name()));
     step->adopt(m_recorder->take());
 
-    EditResult result {true, false, {}};
+    EditResult result{true, false, {}};
     if (step->childCommandCount() > 0 || step->hasEffect()) {
         if (Project* project = Project::parentProject(m_properties.first()->parentObject()))
             result = project->execute(std::move(step));
@@ -160,8 +160,8 @@ QString PropertyField::editedValue(const DesignerProperty& property, const QStri
     QString value = property.valueString();
     for (const QString& component : components) {
         value = operation && operation->isRelative()
-            ? ValueComponents::withOperation(property.className(), value, component, *operation)
-            : ValueComponents::withComponent(property.className(), value, component, edited);
+                    ? ValueComponents::withOperation(property.className(), value, component, *operation)
+                    : ValueComponents::withComponent(property.className(), value, component, edited);
     }
     return value;
 }

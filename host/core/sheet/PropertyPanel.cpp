@@ -101,8 +101,8 @@ void PropertyPanel::addRow(const RowDescription& description, const DesignerProp
 bool PropertyPanel::joinsRowBefore(const RowDescription& description) const
 {
     return description.editorClass == QLatin1String("KeepRatioEditor")
-        && m_lastRowClass == QLatin1String("SizeProperty") && !m_rows.isEmpty()
-        && m_rows.last()->fields().size() == 1;
+           && m_lastRowClass == QLatin1String("SizeProperty") && !m_rows.isEmpty()
+           && m_rows.last()->fields().size() == 1;
 }
 
 } // namespace Korvex::Meridane::Designer

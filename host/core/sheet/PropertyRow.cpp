@@ -100,8 +100,8 @@ void PropertyRow::placeCells()
 {
     m_grid->removeItem(m_editorBox);
     m_editorBox->setParent(nullptr);
-    for (QWidget* widget : {static_cast<QWidget*>(m_label), static_cast<QWidget*>(m_mixedNote),
-                            static_cast<QWidget*>(m_message)})
+    for (QWidget* widget :
+         {static_cast<QWidget*>(m_label), static_cast<QWidget*>(m_mixedNote), static_cast<QWidget*>(m_message)})
         m_grid->removeWidget(widget);
     if (m_stacked) {
         m_grid->addWidget(m_label, 0, 0, 1, 2);

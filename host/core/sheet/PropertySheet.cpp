@@ -55,6 +55,7 @@ PropertySheet::PropertySheet(EditSession* session, QWidget* parent)
     m_hint->setTextFormat(Qt::PlainText);
     m_hint->setWordWrap(true);
     m_hint->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    m_hint->setContentsMargins(0, 2 * SheetMetrics::Margin, 0, 0);
     m_column->setContentsMargins(SheetMetrics::Margin, SheetMetrics::Margin, SheetMetrics::Margin,
                                  SheetMetrics::Margin);
     m_column->setSpacing(SheetMetrics::RowGap);

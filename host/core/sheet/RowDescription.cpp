@@ -14,8 +14,8 @@ QList<RowDescription> commonRows(const QList<DesignerObject*>& objects)
     for (const auto& property : objects.first()->properties()) {
         if (!property->hasFlag(Shown))
             continue;
-        RowDescription row {property->id(),    property->className(),        EditorMatcher::editorClass(*property),
-                            property->name(), property->editorParameters(), property->hasFlag(Editable)};
+        RowDescription row{property->id(),   property->className(),        EditorMatcher::editorClass(*property),
+                           property->name(), property->editorParameters(), property->hasFlag(Editable)};
         bool common = true;
         for (qsizetype i = 1; common && i < objects.size(); ++i) {
             const auto other = objects.at(i)->getProperty(row.propertyId);

@@ -14,7 +14,8 @@ class DesignerObject;
 class DesignerProperty;
 
 /// All that a row of the property sheet is built from. Objects with equal descriptions can share one set of rows.
-struct RowDescription {
+struct RowDescription
+{
     QString propertyId;
     QString propertyClass;
     QString editorClass;
