@@ -11,8 +11,9 @@ namespace {
 
 const QString SchemeKey = QStringLiteral("appearance/scheme");
 
-struct Colors {
-    QRgb window, base, alternate, button, text, dim, border, highlight, link, toolTip;
+struct Colors
+{
+    QRgb window, base, alternate, button, light, text, dim, border, highlight, link, toolTip;
 };
 
 QPalette paletteOf(const Colors& c)
@@ -31,6 +32,8 @@ QPalette paletteOf(const Colors& c)
     palette.setColor(QPalette::LinkVisited, QColor(c.link));
     palette.setColor(QPalette::ToolTipBase, QColor(c.toolTip));
     palette.setColor(QPalette::ToolTipText, QColor(c.text));
+    palette.setColor(QPalette::Light, QColor(c.light));
+    palette.setColor(QPalette::Midlight, QColor(c.button));
     palette.setColor(QPalette::Mid, QColor(c.border));
     palette.setColor(QPalette::Dark, QColor(c.border).darker(115));
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
@@ -54,18 +57,18 @@ Appearance::Scheme Appearance::stored()
 void Appearance::apply(Scheme scheme)
 {
     // An empty palette is the desktop's.
-    const QPalette palette = scheme == Scheme::Light ? lightPalette()
-        : scheme == Scheme::Dark                     ? darkPalette()
-                                                     : QPalette();
+    const QPalette palette = scheme == Scheme::Light  ? lightPalette()
+                             : scheme == Scheme::Dark ? darkPalette()
+                                                      : QPalette();
     QApplication::setPalette(palette);
     QToolTip::setPalette(QApplication::palette());
 }
 
 void Appearance::choose(Scheme scheme)
 {
-    const QString name = scheme == Scheme::Light ? QStringLiteral("light")
-        : scheme == Scheme::Dark                 ? QStringLiteral("dark")
-                                                 : QStringLiteral("desktop");
+    const QString name = scheme == Scheme::Light  ? QStringLiteral("light")
+                         : scheme == Scheme::Dark ? QStringLiteral("dark")
+                                                  : QStringLiteral("desktop");
     AppSettings().setValue(SchemeKey, name);
     apply(scheme);
 }
@@ -76,6 +79,7 @@ QPalette Appearance::lightPalette()
                       .base = 0xffffffff,
                       .alternate = 0xfff7f8fa,
                       .button = 0xfffafbfc,
+                      .light = 0xffffffff,
                       .text = 0xff1f2733,
                       .dim = 0xff8b93a0,
                       .border = 0xffc3c9d2,
@@ -90,6 +94,7 @@ QPalette Appearance::darkPalette()
                       .base = 0xff212429,
                       .alternate = 0xff262a30,
                       .button = 0xff363b44,
+                      .light = 0xff3a404a,
                       .text = 0xffe4e7ec,
                       .dim = 0xff868e9b,
                       .border = 0xff464c57,

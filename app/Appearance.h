@@ -8,7 +8,12 @@ namespace Korvex::Meridane::Designer {
 class Appearance
 {
 public:
-    enum class Scheme { Desktop, Light, Dark };
+    enum class Scheme
+    {
+        Desktop,
+        Light,
+        Dark
+    };
 
     /// The scheme that the user chose last; Desktop at the start.
     [[nodiscard]] static Scheme stored();

@@ -25,20 +25,20 @@ EditActions::EditActions(MessageBar* messages, QObject* parent)
 {
     const auto keys = [](QKeySequence::StandardKey key) { return QKeySequence::keyBindings(key); };
     m_undo = make("undo", "Un&do", keys(QKeySequence::Undo), &EditActions::undo);
-    m_redo = make("redo", "&Redo",
-                  {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)},
+    m_redo = make("redo", "&Redo", {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)},
                   &EditActions::redo);
     m_cut = make("cut", "Cu&t", keys(QKeySequence::Cut), &EditActions::cut);
     m_copy = make("copy", "&Copy", keys(QKeySequence::Copy), &EditActions::copy);
     m_paste = make("paste", "&Paste", keys(QKeySequence::Paste), &EditActions::paste);
     m_duplicate = make("duplicate", "Dup&licate", {QKeySequence(Qt::CTRL | Qt::Key_D)}, &EditActions::duplicate);
-    m_delete = make("delete", "D&elete", keys(QKeySequence::Delete), &EditActions::remove);
+    m_delete = make("delete", "D&elete", {QKeySequence(Qt::Key_Delete)}, &EditActions::remove);
     m_selectAll = make("select-all", "Select &All", keys(QKeySequence::SelectAll), &EditActions::selectAll);
     m_rename = make("rename", "Rena&me", {QKeySequence(Qt::Key_F2)}, &EditActions::renameRequested);
     m_addScreen = make("screen-add", "Add &New Screen", {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N)},
                        &EditActions::addScreen);
 
-    struct Order {
+    struct Order
+    {
         const char* icon;
         const char* text;
         QKeySequence shortcut;
@@ -48,14 +48,12 @@ EditActions::EditActions(MessageBar* messages, QObject* parent)
         {"order-front", "Bring to &Front", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_PageUp),
          SiblingOrder::Move::ToFront},
         {"order-forward", "Brin&g Forward", QKeySequence(Qt::CTRL | Qt::Key_PageUp), SiblingOrder::Move::Forward},
-        {"order-backward", "Send Back&ward", QKeySequence(Qt::CTRL | Qt::Key_PageDown),
-         SiblingOrder::Move::Backward},
+        {"order-backward", "Send Back&ward", QKeySequence(Qt::CTRL | Qt::Key_PageDown), SiblingOrder::Move::Backward},
         {"order-back", "Send to Bac&k", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_PageDown),
          SiblingOrder::Move::ToBack},
     };
     for (const Order& order : orders) {
-        auto* action
-            = new WindowAction(QString::fromLatin1(order.icon), coreText(order.text), {order.shortcut}, this);
+        auto* action = new WindowAction(QString::fromLatin1(order.icon), coreText(order.text), {order.shortcut}, this);
         connect(action, &QAction::triggered, this, [this, move = order.move] {
             if (m_session)
                 report(SiblingOrder::move(m_session->project(), elements(), move));
@@ -90,7 +88,7 @@ void EditActions::addTo(QMenu* menu)
 
 QList<QAction*> EditActions::treeActions() const
 {
-    QList<QAction*> actions {m_addScreen, m_rename, m_duplicate, m_delete};
+    QList<QAction*> actions{m_addScreen, m_rename, m_duplicate, m_delete};
     return actions + m_order;
 }
 

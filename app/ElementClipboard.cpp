@@ -69,7 +69,7 @@ QByteArray ElementClipboard::write(const EditSession* session, const QList<Desig
         entries.append(ElementJson::write(element));
     if (entries.isEmpty())
         return {};
-    return QJsonDocument(QJsonObject {{ElementsKey, entries}, {ImagesKey, session->project()->imagesPath()}}).toJson();
+    return QJsonDocument(QJsonObject{{ElementsKey, entries}, {ImagesKey, session->project()->imagesPath()}}).toJson();
 }
 
 EditResult ElementClipboard::insert(EditSession* session, const QByteArray& data, const QString& text)

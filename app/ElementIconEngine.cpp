@@ -1,21 +1,25 @@
 #include "app/ElementIconEngine.h"
 
+#include "app/Appearance.h"
+
 #include "host/core/canvas/GraphicsItem.h"
 #include "host/core/commands/ChangeScopes.h"
 #include "host/core/objects/DesignerObject.h"
 
 #include <QGraphicsItem>
+#include <QGuiApplication>
 #include <QPainter>
 #include <QStyleOptionGraphicsItem>
 
 namespace Korvex::Meridane::Designer {
 
 /// The element and its item, shared by the copies of an icon.
-struct ElementIconEngine::Model {
+struct ElementIconEngine::Model
+{
     std::unique_ptr<DesignerObject> object;
     std::unique_ptr<QGraphicsItem> graphic; // goes before the object that it shows
     GraphicsItem* item = nullptr;
-    QHash<std::pair<quint64, int>, QPixmap> pictures; // by width and height, and mode
+    QHash<std::pair<quint64, int>, QPixmap> pictures; // by width and height, and variant
 };
 
 ElementIconEngine::ElementIconEngine(std::unique_ptr<DesignerObject> object)
@@ -35,8 +39,7 @@ ElementIconEngine::ElementIconEngine(std::unique_ptr<DesignerObject> object)
 
 ElementIconEngine::ElementIconEngine(const std::shared_ptr<Model>& model)
     : m_model(model)
-{
-}
+{}
 
 ElementIconEngine::~ElementIconEngine() = default;
 
@@ -69,8 +72,11 @@ QIconEngine* ElementIconEngine::clone() const
 QPixmap ElementIconEngine::drawn(const QSize& pixels, QIcon::Mode mode) const
 {
     // A selected row or tile shows the same picture: a tinted one would show colours that the element does not have.
-    const int variant = mode == QIcon::Disabled ? 1 : 0;
-    const std::pair<quint64, int> key {quint64(pixels.width()) << 32 | quint64(pixels.height()), variant};
+    // On dark ground a white card would glare.
+    const bool disabled = mode == QIcon::Disabled;
+    const bool dark = Appearance::isDark(QGuiApplication::palette());
+    const int variant = (disabled ? 1 : 0) + (dark ? 2 : 0);
+    const std::pair<quint64, int> key{quint64(pixels.width()) << 32 | quint64(pixels.height()), variant};
     const auto known = m_model->pictures.constFind(key);
     if (known != m_model->pictures.cend())
         return *known;
@@ -79,20 +85,20 @@ QPixmap ElementIconEngine::drawn(const QSize& pixels, QIcon::Mode mode) const
     if (isUsable() && !pixmap.isNull()) {
         QPainter painter(&pixmap);
         painter.setRenderHint(QPainter::Antialiasing);
-        if (variant == 1)
+        if (disabled)
             painter.setOpacity(0.4);
         const QRectF card = QRectF(QPointF(0.5, 0.5), QSizeF(pixels) - QSizeF(1, 1));
         const double radius = qMin(card.width(), card.height()) / 10;
         painter.setPen(QColor(0, 0, 0, 45));
-        painter.setBrush(Qt::white);
+        painter.setBrush(dark ? QColor(QRgb(0xdfe3e9)) : QColor(Qt::white));
         painter.drawRoundedRect(card, radius, radius);
 
         const QRectF bounds = m_model->graphic->boundingRect();
         const double margin = qMax(1.5, qMin(card.width(), card.height()) / 8);
         const QRectF place = card.adjusted(margin, margin, -margin, -margin);
         if (!bounds.isEmpty() || bounds.width() > 0 || bounds.height() > 0) {
-            const double factor = qMin(place.width() / qMax(bounds.width(), 1.),
-                                       place.height() / qMax(bounds.height(), 1.));
+            const double factor =
+                qMin(place.width() / qMax(bounds.width(), 1.), place.height() / qMax(bounds.height(), 1.));
             painter.setClipRect(card);
             painter.translate(place.center());
             painter.scale(factor, factor);

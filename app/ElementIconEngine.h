@@ -11,7 +11,7 @@ namespace Korvex::Meridane::Designer {
 
 class DesignerObject;
 
-/// Draws an element of its own through the element's canvas item, on a card of the colour of a new screen.
+/// Draws an element of its own through the element's canvas item, on a light card as a new screen is.
 class ElementIconEngine : public QIconEngine
 {
 public:

@@ -2,6 +2,7 @@
 
 #include "app/CoreText.h"
 #include "app/ElementPicture.h"
+#include "app/TileDelegate.h"
 
 #include "host/core/canvas/CanvasView.h"
 #include "host/core/plugins/DesignerFactory.h"
@@ -31,14 +32,16 @@ ElementPalette::ElementPalette(QWidget* parent)
     setResizeMode(QListView::Adjust);
     setMovement(QListView::Static);
     setUniformItemSizes(true);
-    setWordWrap(true);
-    setTextElideMode(Qt::ElideRight);
+    setItemDelegate(new TileDelegate(this));
     setIconSize(PictureSize);
     setFrameShape(QFrame::NoFrame);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setDragEnabled(true);
     setDragDropMode(QAbstractItemView::DragOnly);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setViewportMargins(4, 8, 4, 0);
+    setBackgroundRole(QPalette::Base);
+    setAutoFillBackground(true);
     fill();
     arrangeTiles();
     connect(this, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
@@ -145,7 +148,6 @@ void ElementPalette::fill()
         const QString name = ElementPicture::displayName(className);
         auto* item = new QListWidgetItem(ElementPicture::icon(className), name, this);
         item->setData(ClassRole, className);
-        item->setTextAlignment(Qt::AlignHCenter | Qt::AlignTop);
         item->setToolTip(coreText("%1: drag it onto the screen, or click it and then the place for it.").arg(name));
     }
 }
@@ -162,7 +164,7 @@ void ElementPalette::arrangeTiles()
     const int width = viewport()->width();
     const int columns = qMax(1, width / SmallestTileWidth);
     const int textHeight = 2 * fontMetrics().lineSpacing();
-    const QSize tile((width - 1) / columns, PictureSize.height() + textHeight + 18);
+    const QSize tile((width - 1) / columns, PictureSize.height() + textHeight + 16);
     if (gridSize() != tile)
         setGridSize(tile);
     for (int row = 0; row < count(); ++row)

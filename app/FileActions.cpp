@@ -96,13 +96,13 @@ bool FileActions::openPath(const QString& path)
     if (!m_document->open(path, &problems)) {
         if (!QFileInfo::exists(path))
             m_recent->remove(path);
-        Q_EMIT problemsFound(problems);
+        Q_EMIT problemsFound(problems, coreText("The project has not been opened."));
         return false;
     }
     m_messages->hide();
     m_recent->add(m_document->project()->folder());
     rememberFolder(m_document->project()->folder());
-    Q_EMIT problemsFound(problems);
+    Q_EMIT problemsFound(problems, QString());
     return true;
 }
 
@@ -119,8 +119,8 @@ bool FileActions::save()
 bool FileActions::saveAs()
 {
     PendingEdit::finish();
-    const QString start
-        = m_document->isUntitled() ? projectsFolder() : QFileInfo(m_document->project()->folder()).absolutePath();
+    const QString start =
+        m_document->isUntitled() ? projectsFolder() : QFileInfo(m_document->project()->folder()).absolutePath();
     QString name = m_document->name().toLower();
     for (QChar& letter : name) {
         if (!letter.isLetterOrNumber() && letter != QLatin1Char('-') && letter != QLatin1Char('_'))
@@ -136,12 +136,12 @@ bool FileActions::saveAs()
 
 void FileActions::createProject()
 {
-    const std::optional<NewProject> wanted
-        = m_prompts->askNewProject({ProjectDocument::untitledName(), ProjectDocument::DefaultDisplaySize});
+    const std::optional<NewProject> wanted =
+        m_prompts->askNewProject({ProjectDocument::untitledName(), ProjectDocument::DefaultDisplaySize});
     if (wanted && mayClose()) {
         m_messages->hide();
         m_document->create(wanted->name, wanted->displaySize);
-        Q_EMIT problemsFound({});
+        Q_EMIT problemsFound({}, QString());
     }
 }
 
@@ -158,7 +158,7 @@ void FileActions::closeProject()
         return;
     m_messages->hide();
     m_document->create(ProjectDocument::untitledName(), ProjectDocument::DefaultDisplaySize);
-    Q_EMIT problemsFound({});
+    Q_EMIT problemsFound({}, QString());
 }
 
 void FileActions::fillRecentMenu()
@@ -192,8 +192,8 @@ QString FileActions::projectsFolder() const
 {
     const QString known = AppSettings().value(ProjectsFolderKey).toString();
     return !known.isEmpty() && QDir(known).exists()
-        ? known
-        : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+               ? known
+               : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
 }
 
 void FileActions::rememberFolder(const QString& folder)

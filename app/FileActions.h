@@ -43,8 +43,8 @@ public:
     bool saveAs();
 
 Q_SIGNALS:
-    /// Opening met \a problems, or could not open at all.
-    void problemsFound(const QList<Problem>& problems);
+    /// Opening met \a problems, or could not open at all, as \a consequence then says.
+    void problemsFound(const QList<Problem>& problems, const QString& consequence);
 
 private:
     void createProject();

@@ -13,13 +13,12 @@ namespace Korvex::Meridane::Designer {
 HelpActions::HelpActions(QMainWindow* window)
     : QObject(window)
     , m_window(window)
-{
-}
+{}
 
 void HelpActions::addTo(QMenu* menu)
 {
-    auto* shortcuts = new WindowAction(QStringLiteral("keyboard"), coreText("&Keyboard Shortcuts"),
-                                       {QKeySequence(Qt::Key_F1)}, this);
+    auto* shortcuts =
+        new WindowAction(QStringLiteral("keyboard"), coreText("&Keyboard Shortcuts"), {QKeySequence(Qt::Key_F1)}, this);
     auto* about = new WindowAction({}, coreText("&About Meridane Designer"), QList<QKeySequence>(), this);
     connect(shortcuts, &QAction::triggered, this, &HelpActions::showShortcuts);
     connect(about, &QAction::triggered, this, &HelpActions::showAbout);

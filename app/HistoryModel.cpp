@@ -4,11 +4,18 @@
 
 #include "host/core/commands/UndoStack.h"
 
-#include <QFont>
+#include <QFontMetrics>
 #include <QGuiApplication>
 #include <QPalette>
+#include <QSize>
 
 namespace Korvex::Meridane::Designer {
+
+namespace {
+
+constexpr int RowPadding = 6; // pixels, so that rows are as high as those of the project tree
+
+} // namespace
 
 HistoryModel::HistoryModel(UndoStack* stack, QObject* parent)
     : QAbstractListModel(parent)
@@ -47,6 +54,8 @@ QVariant HistoryModel::data(const QModelIndex& index, int role) const
         if (row > m_stack->index())
             return QGuiApplication::palette().brush(QPalette::PlaceholderText);
         return {};
+    case Qt::SizeHintRole:
+        return QSize(0, QFontMetrics(QGuiApplication::font()).height() + RowPadding);
     default:
         return {};
     }

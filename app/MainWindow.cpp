@@ -26,6 +26,7 @@
 #include "host/core/canvas/CanvasView.h"
 #include "host/core/canvas/EditSession.h"
 #include "host/core/project/Project.h"
+#include "host/core/project/ProjectStore.h"
 #include "host/core/sheet/PropertySheet.h"
 #include "host/core/widgets/RecentColors.h"
 
@@ -34,6 +35,7 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -43,6 +45,7 @@ namespace {
 
 constexpr int LeftWidth = 272;
 constexpr int RightWidth = 320;
+constexpr int ReadingDelay = 200; // ms
 
 } // namespace
 
@@ -260,6 +263,16 @@ void MainWindow::attach(EditSession* session)
     m_fitted = false;
     showWholeScreen();
     updateTitle();
+    // The window is usable before the screens that nobody looks at yet are read.
+    QTimer::singleShot(ReadingDelay, m_workspace.get(), [this] { readRemainingScreens(); });
+}
+
+void MainWindow::readRemainingScreens()
+{
+    Project* project = m_document->project();
+    const QList<Problem> problems = ProjectStore::readAllScreens(project);
+    project->notifyUpdateProjectBrowser();
+    addProblems(problems);
 }
 
 void MainWindow::showWholeScreen()
@@ -279,7 +292,7 @@ void MainWindow::detach()
     m_workspace.reset();
 }
 
-void MainWindow::showProblems(const QList<Problem>& problems)
+void MainWindow::showProblems(const QList<Problem>& problems, const QString& consequence)
 {
     m_problems->setProblems(problems);
     if (problems.isEmpty()) {
@@ -289,9 +302,9 @@ void MainWindow::showProblems(const QList<Problem>& problems)
     const bool hasError = std::any_of(problems.cbegin(), problems.cend(), [](const Problem& problem) {
         return problem.severity == Problem::Severity::Error;
     });
-    const QString text = problems.size() == 1
-        ? problems.constFirst().text()
-        : coreText("%1 problems were found. The first: %2").arg(problems.size()).arg(problems.constFirst().text());
+    const QString found =
+        problems.size() == 1 ? problems.constFirst().text() : coreText("%1 problems were found.").arg(problems.size());
+    const QString text = consequence.isEmpty() ? found : consequence + QLatin1Char(' ') + found;
     m_messages->showMessage(text, hasError ? MessageBar::Kind::Error : MessageBar::Kind::Warning, coreText("Details"),
                             [this] {
                                 m_problemsDock->show();

@@ -67,7 +67,8 @@ private:
     void attach(EditSession* session);
     void detach();
     void showWholeScreen();
-    void showProblems(const QList<Problem>& problems);
+    void readRemainingScreens();
+    void showProblems(const QList<Problem>& problems, const QString& consequence = {});
     void updateTitle();
     void editProperties();
 

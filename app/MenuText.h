@@ -9,7 +9,7 @@ class MenuText
 {
 public:
     /// The letters that canvas items use together with Alt; no mnemonic and no shortcut of the window takes them.
-    static constexpr QLatin1String ReservedLetters {"bisuo"};
+    static constexpr QLatin1String ReservedLetters{"bisuo"};
 
     /// \a text without its mnemonic mark where the marked letter is reserved; a translation may have chosen one.
     [[nodiscard]] static QString withoutReservedMnemonic(const QString& text);

@@ -16,7 +16,8 @@ namespace Korvex::Meridane::Designer {
 
 namespace {
 
-struct BarColors {
+struct BarColors
+{
     QColor ground, text;
 };
 
@@ -25,13 +26,16 @@ BarColors barColors(MessageBar::Kind kind, bool dark)
 {
     switch (kind) {
     case MessageBar::Kind::Error:
-        return dark ? BarColors {QColor(QRgb(0x552229)), QColor(QRgb(0xffdfe1))} : BarColors {QColor(QRgb(0xfde8e9)), QColor(QRgb(0x7c1019))};
+        return dark ? BarColors{QColor(QRgb(0x552229)), QColor(QRgb(0xffdfe1))}
+                    : BarColors{QColor(QRgb(0xfde8e9)), QColor(QRgb(0x7c1019))};
     case MessageBar::Kind::Warning:
-        return dark ? BarColors {QColor(QRgb(0x4a3a14)), QColor(QRgb(0xffecc0))} : BarColors {QColor(QRgb(0xfff5db)), QColor(QRgb(0x5c4300))};
+        return dark ? BarColors{QColor(QRgb(0x4a3a14)), QColor(QRgb(0xffecc0))}
+                    : BarColors{QColor(QRgb(0xfff5db)), QColor(QRgb(0x5c4300))};
     case MessageBar::Kind::Information:
         break;
     }
-    return dark ? BarColors {QColor(QRgb(0x233a52)), QColor(QRgb(0xdcebfb))} : BarColors {QColor(QRgb(0xe6f0fa)), QColor(QRgb(0x123d68))};
+    return dark ? BarColors{QColor(QRgb(0x233a52)), QColor(QRgb(0xdcebfb))}
+                : BarColors{QColor(QRgb(0xe6f0fa)), QColor(QRgb(0x123d68))};
 }
 
 QString iconName(MessageBar::Kind kind)

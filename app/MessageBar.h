@@ -22,7 +22,12 @@ class MessageBar : public QFrame
     Q_OBJECT
 
 public:
-    enum class Kind { Information, Warning, Error };
+    enum class Kind
+    {
+        Information,
+        Warning,
+        Error
+    };
 
     explicit MessageBar(QWidget* parent = nullptr);
 

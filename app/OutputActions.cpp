@@ -67,7 +67,7 @@ void OutputActions::exportQml()
         m_messages->showMessage(coreText("The QML has been exported to \"%1\".").arg(QDir::toNativeSeparators(folder)),
                                 MessageBar::Kind::Information);
     }
-    Q_EMIT problemsFound(problems);
+    Q_EMIT problemsFound(problems, coreText("The project has not been exported."));
 }
 
 void OutputActions::preview()
@@ -77,7 +77,7 @@ void OutputActions::preview()
     const Screen* screen = m_document->session()->currentScreen();
     m_runner->start(m_document->project(), screen ? screen->getIdName() : QString(), &problems);
     if (!problems.isEmpty())
-        Q_EMIT problemsFound(problems);
+        Q_EMIT problemsFound(problems, coreText("There is no preview of the project."));
 }
 
 void OutputActions::check()
@@ -86,7 +86,7 @@ void OutputActions::check()
     const QList<Problem> problems = ProjectChecker::check(m_document->project());
     if (problems.isEmpty())
         m_messages->showMessage(coreText("The project has no problems."), MessageBar::Kind::Information);
-    Q_EMIT problemsFound(problems);
+    Q_EMIT problemsFound(problems, QString());
 }
 
 } // namespace Korvex::Meridane::Designer

@@ -30,8 +30,9 @@ public:
     [[nodiscard]] QAction* checkAction() const { return m_check; }
 
 Q_SIGNALS:
-    /// What an export, a preview or a check has found; empty when all is well.
-    void problemsFound(const QList<Problem>& problems);
+    /// What an export, a preview or a check has found; empty when all is well. \a consequence: what could not be done
+    /// because of it, a sentence, or empty.
+    void problemsFound(const QList<Problem>& problems, const QString& consequence);
 
 private:
     void exportQml();

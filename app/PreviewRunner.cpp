@@ -30,8 +30,7 @@ constexpr int EndPatience = 2000; // ms that a viewer gets to close its window
 PreviewRunner::PreviewRunner(const QString& program, QObject* parent)
     : QObject(parent)
     , m_program(program.isEmpty() ? installedViewer() : program)
-{
-}
+{}
 
 PreviewRunner::~PreviewRunner()
 {
@@ -60,10 +59,9 @@ bool PreviewRunner::start(Project* project, const QString& screenId, QList<Probl
                               .arg(QDir::toNativeSeparators(m_program), m_process->errorString()));
         }
     });
-    connect(m_process.get(), &QProcess::finished, this, [this](int exitCode, QProcess::ExitStatus status) {
-        onEnded(exitCode, status == QProcess::CrashExit);
-    });
-    QStringList arguments {m_folder->path()};
+    connect(m_process.get(), &QProcess::finished, this,
+            [this](int exitCode, QProcess::ExitStatus status) { onEnded(exitCode, status == QProcess::CrashExit); });
+    QStringList arguments{m_folder->path()};
     if (!screenId.isEmpty())
         arguments << QStringLiteral("--screen") << screenId;
     m_process->start(m_program, arguments);

@@ -14,8 +14,7 @@ namespace Korvex::Meridane::Designer {
 
 ProjectDocument::ProjectDocument(QObject* parent)
     : QObject(parent)
-{
-}
+{}
 
 ProjectDocument::~ProjectDocument() = default;
 
@@ -69,8 +68,8 @@ bool ProjectDocument::saveAs(const QString& folder, QString* message)
 {
     const QString path = QDir::cleanPath(QDir(folder).absolutePath());
     const QFileInfo info(path);
-    const bool own = !m_untitled && info.exists()
-        && info.canonicalFilePath() == QFileInfo(project()->folder()).canonicalFilePath();
+    const bool own =
+        !m_untitled && info.exists() && info.canonicalFilePath() == QFileInfo(project()->folder()).canonicalFilePath();
     if (!own && info.exists() && !info.isDir()) {
         *message = coreText("\"%1\" is a file. A project is kept in a folder of its own.").arg(path);
         return false;

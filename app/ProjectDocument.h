@@ -23,7 +23,7 @@ class ProjectDocument : public QObject
 
 public:
     /// The display size of a new project, in pixels.
-    static constexpr QSizeF DefaultDisplaySize {800, 480};
+    static constexpr QSizeF DefaultDisplaySize{800, 480};
 
     explicit ProjectDocument(QObject* parent = nullptr);
     ~ProjectDocument() override;

@@ -33,7 +33,8 @@ const QString& unreadableReason(const DesignerObject* object)
 } // namespace
 
 /// One row; the rows of a parent are numbered as they stand.
-struct ProjectTreeModel::Node {
+struct ProjectTreeModel::Node
+{
     DesignerObject* object = nullptr;
     Node* parent = nullptr;
     int row = 0;
@@ -192,8 +193,8 @@ bool ProjectTreeModel::setData(const QModelIndex& index, const QVariant& value, 
     if (text == data(index, Qt::EditRole).toString())
         return true;
     const EditResult result = qobject_cast<Project*>(changed)
-        ? m_session->setProperty(changed, QStringLiteral("name"), text)
-        : m_session->rename(changed, text);
+                                  ? m_session->setProperty(changed, QStringLiteral("name"), text)
+                                  : m_session->rename(changed, text);
     if (!result.message.isEmpty())
         Q_EMIT refused(result.message);
     return result.accepted;

@@ -15,8 +15,7 @@ const QString FoldersKey = QStringLiteral("recent/folders");
 RecentFiles::RecentFiles(QObject* parent)
     : QObject(parent)
     , m_folders(AppSettings().value(FoldersKey).toStringList().mid(0, Limit))
-{
-}
+{}
 
 void RecentFiles::add(const QString& folder)
 {

@@ -30,6 +30,7 @@ ScreenTabs::ScreenTabs(EditSession* session, QWidget* parent)
     connect(project, &Project::objectRemoved, this, &ScreenTabs::refillLater);
     connect(project, &Project::objectReordered, this, &ScreenTabs::refillLater);
     connect(project, &Project::objectRenamed, this, &ScreenTabs::refillLater);
+    connect(project, &Project::projectBrowserUpdateRequested, this, &ScreenTabs::refillLater);
     connect(session, &EditSession::currentScreenChanged, this, &ScreenTabs::refill);
     connect(this, &QTabBar::currentChanged, this, [this](int index) {
         if (!m_following && screenAt(index))

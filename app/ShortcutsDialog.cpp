@@ -22,7 +22,8 @@ QString withoutMark(QString text)
     return text.replace(QLatin1Char('\n'), QLatin1Char('&'));
 }
 
-struct CanvasKey {
+struct CanvasKey
+{
     const char* keys;
     const char* effect;
 };
@@ -75,13 +76,11 @@ void ShortcutsDialog::addMenu(const QMenu* menu, const QString& title)
     group->setFont(0, bold);
     const QList<QAction*> actions = menu->actions();
     for (const QAction* action : actions) {
-        if (action->shortcuts().isEmpty())
-            continue;
-        QStringList keys;
-        const QList<QKeySequence> shortcuts = action->shortcuts();
-        for (const QKeySequence& shortcut : shortcuts)
-            keys.append(shortcut.toString(QKeySequence::NativeText));
-        group->addChild(new QTreeWidgetItem({keys.join(QStringLiteral(", ")), withoutMark(action->text())}));
+        // The first is the one that people use; others are for old or rare keyboards.
+        if (!action->shortcut().isEmpty()) {
+            group->addChild(new QTreeWidgetItem(
+                {action->shortcut().toString(QKeySequence::NativeText), withoutMark(action->text())}));
+        }
     }
     if (group->childCount() > 0)
         m_list->addTopLevelItem(group);

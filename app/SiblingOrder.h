@@ -18,7 +18,13 @@ class Project;
 class SiblingOrder
 {
 public:
-    enum class Move { ToFront, Forward, Backward, ToBack };
+    enum class Move
+    {
+        ToFront,
+        Forward,
+        Backward,
+        ToBack
+    };
 
     /// Moves \a objects of \a project; in an order that is as wanted already nothing is changed.
     static EditResult move(Project* project, const QList<DesignerObject*>& objects, Move move);

@@ -11,8 +11,7 @@ ThemedIcon::ThemedIcon(const QString& file, QPalette::ColorRole role)
     : m_file(file)
     , m_role(role)
     , m_renderer(std::make_shared<QSvgRenderer>(file))
-{
-}
+{}
 
 ThemedIcon::~ThemedIcon() = default;
 

@@ -8,7 +8,8 @@
 namespace Korvex::Meridane::Designer {
 
 /// What a new project is made of.
-struct NewProject {
+struct NewProject
+{
     QString name;
     QSizeF displaySize; ///< pixels
 };
@@ -17,7 +18,12 @@ struct NewProject {
 class UserPrompts
 {
 public:
-    enum class SaveAnswer { Save, Discard, Cancel };
+    enum class SaveAnswer
+    {
+        Save,
+        Discard,
+        Cancel
+    };
 
     virtual ~UserPrompts() = default;
 

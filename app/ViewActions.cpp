@@ -26,8 +26,8 @@ ViewActions::ViewActions(QObject* parent)
                                  {QKeySequence(Qt::CTRL | Qt::Key_Minus)}, this))
     , m_actual(new WindowAction(QStringLiteral("zoom-actual"), coreText("&Actual Size"),
                                 {QKeySequence(Qt::CTRL | Qt::Key_1)}, this))
-    , m_fit(new WindowAction(QStringLiteral("zoom-fit"), coreText("&Fit Screen"),
-                             {QKeySequence(Qt::CTRL | Qt::Key_0)}, this))
+    , m_fit(new WindowAction(QStringLiteral("zoom-fit"), coreText("&Fit Screen"), {QKeySequence(Qt::CTRL | Qt::Key_0)},
+                             this))
 {
     connect(m_zoomIn, &QAction::triggered, this, [this] {
         if (m_canvas)
@@ -99,7 +99,8 @@ void ViewActions::showWhole()
 
 void ViewActions::addAppearanceTo(QMenu* menu)
 {
-    struct Choice {
+    struct Choice
+    {
         Appearance::Scheme scheme;
         const char* text;
     };

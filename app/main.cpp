@@ -2,6 +2,7 @@
 
 #include "app/Appearance.h"
 #include "app/CoreText.h"
+#include "app/DesignerStyle.h"
 #include "app/DialogPrompts.h"
 #include "app/MainWindow.h"
 
@@ -26,8 +27,8 @@ void installTranslations(QApplication* application)
                       QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(toolkit);
     auto* own = new QTranslator(application);
-    const QString folder
-        = QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("../share/meridane/translations"));
+    const QString folder =
+        QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("../share/meridane/translations"));
     if (own->load(locale, QStringLiteral("meridane"), QStringLiteral("_"), folder))
         QCoreApplication::installTranslator(own);
 }
@@ -36,9 +37,8 @@ void installTranslations(QApplication* application)
 
 int main(int argc, char* argv[])
 {
-    // One look everywhere: dense property editors are laid out for it, and it follows light and dark palettes.
-    QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication application(argc, argv);
+    QApplication::setStyle(new DesignerStyle);
     QCoreApplication::setApplicationName(QStringLiteral("meridane-designer"));
     QCoreApplication::setApplicationVersion(QStringLiteral(MERIDANE_VERSION));
     QGuiApplication::setApplicationDisplayName(QString());

@@ -17,8 +17,7 @@ constexpr int LookInterval = 50; // ms between two looks
 DesignerWindow::DesignerWindow(XServer* server, const QString& settingsFolder)
     : m_server(server)
     , m_settingsFolder(settingsFolder)
-{
-}
+{}
 
 DesignerWindow::~DesignerWindow()
 {
@@ -35,8 +34,8 @@ bool DesignerWindow::start(const QString& project)
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
     m_program.setProcessEnvironment(environment);
     m_program.setProcessChannelMode(QProcess::ForwardedChannels);
-    const QString program = QDir(QCoreApplication::applicationDirPath())
-                                .filePath(QStringLiteral("../bin/meridane-designer"));
+    const QString program =
+        QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("../bin/meridane-designer"));
     m_program.start(program, {project});
     if (!m_program.waitForStarted(Patience)) {
         m_error = QStringLiteral("%1 does not start: %2").arg(program, m_program.errorString());
@@ -54,8 +53,7 @@ bool DesignerWindow::start(const QString& project)
 
 int DesignerWindow::waitForEnd()
 {
-    return m_program.state() == QProcess::NotRunning || m_program.waitForFinished(Patience) ? m_program.exitCode()
-                                                                                            : -1;
+    return m_program.state() == QProcess::NotRunning || m_program.waitForFinished(Patience) ? m_program.exitCode() : -1;
 }
 
 bool DesignerWindow::isRunning() const
@@ -66,11 +64,11 @@ bool DesignerWindow::isRunning() const
 bool DesignerWindow::waitForModified(bool modified)
 {
     QString title;
-    const bool seen
-        = waitFor(modified ? QStringLiteral("a change") : QStringLiteral("the saved state"), [this, modified, &title] {
-              title = m_server->xdotool({QStringLiteral("getwindowname"), m_window});
-              return !title.isEmpty() && title.contains(QLatin1Char('*')) == modified;
-          });
+    const bool seen =
+        waitFor(modified ? QStringLiteral("a change") : QStringLiteral("the saved state"), [this, modified, &title] {
+            title = m_server->xdotool({QStringLiteral("getwindowname"), m_window});
+            return !title.isEmpty() && title.contains(QLatin1Char('*')) == modified;
+        });
     if (!seen)
         m_error += QStringLiteral(" (the title is \"%1\")").arg(title);
     return seen;
@@ -80,13 +78,13 @@ bool DesignerWindow::waitForDialog(bool shown)
 {
     QString dialog;
     const bool seen = waitFor(shown ? QStringLiteral("the question") : QStringLiteral("the end of the question"), [&] {
-        dialog = m_server->xdotool({QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-                                    QStringLiteral("--name"), QStringLiteral("Unsaved Changes")});
+        dialog = m_server->xdotool({QStringLiteral("search"), QStringLiteral("--onlyvisible"), QStringLiteral("--name"),
+                                    QStringLiteral("Unsaved Changes")});
         return dialog.isEmpty() != shown;
     });
     return seen
-        && input({QStringLiteral("windowfocus"), QStringLiteral("--sync"),
-                  shown ? dialog.section(QLatin1Char('\n'), 0, 0) : m_window});
+           && input({QStringLiteral("windowfocus"), QStringLiteral("--sync"),
+                     shown ? dialog.section(QLatin1Char('\n'), 0, 0) : m_window});
 }
 
 QImage DesignerWindow::waitForPicture(const QString& what, const std::function<bool(const QImage&)>& seen)
@@ -109,7 +107,8 @@ QRect DesignerWindow::find(const QImage& picture, const QColor& color, const QRe
         for (int x = searched.left(); x <= searched.right(); ++x) {
             const QRgb pixel = picture.pixel(x, y);
             const bool matches = qAbs(qRed(pixel) - color.red()) <= Tolerance
-                && qAbs(qGreen(pixel) - color.green()) <= Tolerance && qAbs(qBlue(pixel) - color.blue()) <= Tolerance;
+                                 && qAbs(qGreen(pixel) - color.green()) <= Tolerance
+                                 && qAbs(qBlue(pixel) - color.blue()) <= Tolerance;
             run = matches ? run + 1 : 0;
             if (run >= length)
                 bounds |= QRect(x - run + 1, y, run, 1);
@@ -126,8 +125,8 @@ bool DesignerWindow::click(const QPoint& place)
 
 bool DesignerWindow::drag(const QPoint& from, const QPoint& to)
 {
-    QStringList arguments {QStringLiteral("mousemove"), QString::number(from.x()), QString::number(from.y()),
-                           QStringLiteral("mousedown"), QStringLiteral("1")};
+    QStringList arguments{QStringLiteral("mousemove"), QString::number(from.x()), QString::number(from.y()),
+                          QStringLiteral("mousedown"), QStringLiteral("1")};
     constexpr int Steps = 8;
     for (int step = 1; step <= Steps; ++step) {
         const QPoint at = from + (to - from) * step / Steps;

@@ -33,8 +33,7 @@ public:
     QImage waitForPicture(const QString& what, const std::function<bool(const QImage&)>& seen);
     /// The bounding rectangle of the pixels of about \a color within \a area (all of the picture when null); only rows
     /// of at least \a length such pixels side by side count.
-    [[nodiscard]] static QRect find(const QImage& picture, const QColor& color, const QRect& area = {},
-                                    int length = 1);
+    [[nodiscard]] static QRect find(const QImage& picture, const QColor& color, const QRect& area = {}, int length = 1);
 
     bool click(const QPoint& place);
     /// Presses at \a from, moves in steps to \a to and lets go there.

@@ -67,8 +67,8 @@ QString XServer::xdotool(const QStringList& arguments)
     tool.setProcessEnvironment(environment());
     tool.start(QStringLiteral("xdotool"), arguments);
     if (!tool.waitForFinished(Patience) || tool.exitCode() != 0) {
-        m_error = QStringLiteral("xdotool %1: %2").arg(arguments.join(QLatin1Char(' ')),
-                                                       QString::fromUtf8(tool.readAllStandardError()));
+        m_error = QStringLiteral("xdotool %1: %2")
+                      .arg(arguments.join(QLatin1Char(' ')), QString::fromUtf8(tool.readAllStandardError()));
         return {};
     }
     const QString output = QString::fromUtf8(tool.readAllStandardOutput()).trimmed();

@@ -1,5 +1,5 @@
-#include "app/Appearance.h"
 #include "app/AppSettings.h"
+#include "app/Appearance.h"
 #include "app/MenuText.h"
 #include "app/MessageBar.h"
 #include "app/NewProjectDialog.h"
@@ -79,13 +79,20 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("allowed") << "&File" << "&File";
-        QTest::newRow("B") << "&Bearbeiten" << "Bearbeiten";
-        QTest::newRow("inner i") << "Date&i" << "Datei";
-        QTest::newRow("S") << "&Save" << "Save";
-        QTest::newRow("U, O") << "&Undo && &Other" << "Undo && &Other";
-        QTest::newRow("plain ampersand") << "Cut && Saw" << "Cut && Saw";
-        QTest::newRow("none") << "View" << "View";
+        QTest::newRow("allowed") << "&File"
+                                 << "&File";
+        QTest::newRow("B") << "&Bearbeiten"
+                           << "Bearbeiten";
+        QTest::newRow("inner i") << "Date&i"
+                                 << "Datei";
+        QTest::newRow("S") << "&Save"
+                           << "Save";
+        QTest::newRow("U, O") << "&Undo && &Other"
+                              << "Undo && &Other";
+        QTest::newRow("plain ampersand") << "Cut && Saw"
+                                         << "Cut && Saw";
+        QTest::newRow("none") << "View"
+                              << "View";
     }
 
     void reservedMnemonicsAreTakenOut()
@@ -232,9 +239,10 @@ private Q_SLOTS:
     void aProblemLeadsToItsObject()
     {
         ProblemsPanel panel;
-        panel.setProblems({{Problem::Severity::Error, QStringLiteral("screens/main.json"), QStringLiteral("main/dial"),
-                            QStringLiteral("size"), QStringLiteral("is no size.")},
-                           {Problem::Severity::Warning, QStringLiteral("project.json"), {}, {}, QStringLiteral("Old.")}});
+        panel.setProblems(
+            {{Problem::Severity::Error, QStringLiteral("screens/main.json"), QStringLiteral("main/dial"),
+              QStringLiteral("size"), QStringLiteral("is no size.")},
+             {Problem::Severity::Warning, QStringLiteral("project.json"), {}, {}, QStringLiteral("Old.")}});
         QCOMPARE(panel.topLevelItemCount(), 2);
         QSignalSpy wanted(&panel, &ProblemsPanel::objectRequested);
         Q_EMIT panel.itemActivated(panel.topLevelItem(1), 0);

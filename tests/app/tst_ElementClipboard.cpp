@@ -35,8 +35,8 @@ private Q_SLOTS:
         QVERIFY2(result.accepted, qPrintable(result.message));
         QCOMPARE(m_session->undoStack()->count(), steps + 1);
         QCOMPARE(m_session->undoStack()->undoText(), QStringLiteral("Paste"));
-        QCOMPARE(ids(), (QStringList {QStringLiteral("rectangle1"), QStringLiteral("rectangle2"),
-                                      QStringLiteral("rectangle3"), QStringLiteral("rectangle4")}));
+        QCOMPARE(ids(), (QStringList{QStringLiteral("rectangle1"), QStringLiteral("rectangle2"),
+                                     QStringLiteral("rectangle3"), QStringLiteral("rectangle4")}));
         QCOMPARE(position("rectangle3"), QStringLiteral("20,30"));
         QCOMPARE(position("rectangle4"), QStringLiteral("60,30"));
         QCOMPARE(m_session->selection().size(), 2);
@@ -69,7 +69,7 @@ private Q_SLOTS:
         m_session->addScreen(QStringLiteral("other"));
         ElementClipboard::insert(m_session.get(), data, QStringLiteral("Paste"));
         QCOMPARE(m_session->currentScreen()->getIdName(), QStringLiteral("other"));
-        QCOMPARE(ids(), QStringList {QStringLiteral("rectangle1")});
+        QCOMPARE(ids(), QStringList{QStringLiteral("rectangle1")});
         QCOMPARE(position("rectangle1"), QStringLiteral("10,20"));
     }
 

@@ -1,4 +1,5 @@
 #include "app/AppSettings.h"
+#include "app/CanvasPanel.h"
 #include "app/EditActions.h"
 #include "app/FileActions.h"
 #include "app/MainWindow.h"
@@ -9,6 +10,7 @@
 #include "app/ProblemsPanel.h"
 #include "app/ProjectDocument.h"
 #include "app/RecentFiles.h"
+#include "app/ScreenTabs.h"
 #include "app/Workspace.h"
 #include "tests/app/FakePrompts.h"
 
@@ -84,7 +86,7 @@ private Q_SLOTS:
         m_prompts->saveAnswer = UserPrompts::SaveAnswer::Cancel;
         QVERIFY(!m_window->close());
         QVERIFY(m_window->isVisible());
-        QCOMPARE(m_prompts->asked, QStringList {QStringLiteral("save Untitled")});
+        QCOMPARE(m_prompts->asked, QStringList{QStringLiteral("save Untitled")});
         m_prompts->saveAnswer = UserPrompts::SaveAnswer::Discard;
         QVERIFY(m_window->close());
     }
@@ -123,7 +125,7 @@ private Q_SLOTS:
     {
         edit();
         const QPointer<EditSession> before = session();
-        m_prompts->newProject = NewProject {QStringLiteral("Oven"), QSizeF(480, 272)};
+        m_prompts->newProject = NewProject{QStringLiteral("Oven"), QSizeF(480, 272)};
         m_window->fileActions()->newAction()->trigger();
         QCOMPARE(session(), before.data());
         m_prompts->project = path("anything");
@@ -144,10 +146,10 @@ private Q_SLOTS:
         m_window->fileActions()->saveAction()->trigger();
         QVERIFY(!m_window->isWindowModified());
         QCOMPARE(QFileInfo(m_prompts->proposedFolder).fileName(), QStringLiteral("untitled"));
-        QCOMPARE(m_window->fileActions()->recentFiles()->folders(), QStringList {path("kettle")});
+        QCOMPARE(m_window->fileActions()->recentFiles()->folders(), QStringList{path("kettle")});
         QVERIFY(m_window->windowTitle().startsWith(QStringLiteral("kettle[*]")));
         m_window->fileActions()->newAction()->trigger(); // cancelled by the prompt
-        m_prompts->newProject = NewProject {QStringLiteral("Oven"), QSizeF(480, 272)};
+        m_prompts->newProject = NewProject{QStringLiteral("Oven"), QSizeF(480, 272)};
         m_window->fileActions()->newAction()->trigger();
         QVERIFY(m_window->openProject(path("kettle")));
         QVERIFY(session()->currentScreen()->element(QStringLiteral("rectangle1")));
@@ -163,6 +165,34 @@ private Q_SLOTS:
         QVERIFY(!dock->isVisible());
         m_window->messageBar()->findChild<QPushButton*>()->click();
         QVERIFY(dock->isVisible());
+    }
+
+    void problemsOfScreensThatNobodyLooksAtAreFoundToo()
+    {
+        edit();
+        session()->addScreen(QStringLiteral("second"));
+        m_prompts->saveFolder = path("kettle");
+        QVERIFY(m_window->fileActions()->save());
+        QFile file(path("kettle/screens/second.json"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("{ broken");
+        file.close();
+        QVERIFY(m_window->openProject(path("kettle")));
+        QTRY_VERIFY(!m_window->problemsPanel()->problems().isEmpty());
+        QCOMPARE(m_window->problemsPanel()->problems().size(), 1);
+        QCOMPARE(m_window->messageBar()->kind(), MessageBar::Kind::Error);
+        // The way to it: a row of the panel, and the marked tab.
+        m_window->problemsPanel()->itemActivated(m_window->problemsPanel()->topLevelItem(0), 0);
+        QCOMPARE(session()->currentScreen()->getIdName(), QStringLiteral("second"));
+        const ScreenTabs* tabs = m_window->workspace()->canvasPanel()->tabs();
+        QTRY_VERIFY(!tabs->tabIcon(1).isNull());
+        QVERIFY(tabs->tabIcon(0).isNull());
+        // The rest of the project can still be edited and saved, and the file stays as it is.
+        session()->setCurrentScreen(session()->project()->screen(QStringLiteral("main")));
+        edit();
+        QVERIFY(m_window->fileActions()->save());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), QByteArray("{ broken"));
     }
 
     void anExportTellsWhereItWent()
@@ -266,8 +296,8 @@ private:
 
     void edit() const
     {
-        const EditResult result
-            = session()->addElement(QStringLiteral("Rectangle"), session()->currentScreen(), {}, {});
+        const EditResult result =
+            session()->addElement(QStringLiteral("Rectangle"), session()->currentScreen(), {}, {});
         QVERIFY2(result.changed, qPrintable(result.message));
     }
 

@@ -84,7 +84,7 @@ private Q_SLOTS:
         QVERIFY(canvas()->placementClass().isEmpty());
         QVERIFY(m_window->palettePanel()->armedClass().isEmpty());
         QVERIFY(m_window->palettePanel()->selectedItems().isEmpty());
-        QCOMPARE(session()->selection(), QList<DesignerObject*> {screen()->element(QStringLiteral("rectangle1"))});
+        QCOMPARE(session()->selection(), QList<DesignerObject*>{screen()->element(QStringLiteral("rectangle1"))});
         QCOMPARE(m_window->editActions()->undoAction()->text().remove(QLatin1Char('&')),
                  QStringLiteral("Undo ") + session()->undoStack()->undoText());
     }
@@ -124,9 +124,9 @@ private Q_SLOTS:
         session()->setSelection({first, second});
         QCOMPARE(tree()->selectedObjects().size(), 2);
         session()->setSelection({first});
-        QCOMPARE(tree()->selectedObjects(), QList<DesignerObject*> {first});
+        QCOMPARE(tree()->selectedObjects(), QList<DesignerObject*>{first});
         clickRow(second, {});
-        QCOMPARE(session()->selection(), QList<DesignerObject*> {second});
+        QCOMPARE(session()->selection(), QList<DesignerObject*>{second});
         clickRow(first, Qt::ControlModifier);
         QCOMPARE(session()->selection().size(), 2);
         session()->setSelection({});
@@ -141,13 +141,12 @@ private Q_SLOTS:
         QCOMPARE(tabs()->currentIndex(), 1);
         clickRow(first, {});
         QCOMPARE(session()->currentScreen()->getIdName(), QStringLiteral("main"));
-        QCOMPARE(session()->selection(), QList<DesignerObject*> {first});
+        QCOMPARE(session()->selection(), QList<DesignerObject*>{first});
         QCOMPARE(tabs()->currentIndex(), 0);
         tabs()->setCurrentIndex(1);
         QCOMPARE(session()->currentScreen()->getIdName(), QStringLiteral("other"));
         clickRow(session()->project()->screen(QStringLiteral("main")), {});
-        QCOMPARE(session()->selection(),
-                 QList<DesignerObject*> {session()->project()->screen(QStringLiteral("main"))});
+        QCOMPARE(session()->selection(), QList<DesignerObject*>{session()->project()->screen(QStringLiteral("main"))});
     }
 
     void f2RenamesInTheTreeAndRefusalsAreShown()
@@ -208,7 +207,7 @@ private Q_SLOTS:
                           history->visualRect(history->model()->index(1, 0)).center());
         QTRY_COMPARE(session()->undoStack()->index(), 1);
         QCOMPARE(history->model()->rowCount(), 3);
-        QCOMPARE(screen()->childList()->items(), QVector<DesignerObject*> {first});
+        QCOMPARE(screen()->childList()->items(), QVector<DesignerObject*>{first});
         QTest::mouseClick(history->viewport(), Qt::LeftButton, {},
                           history->visualRect(history->model()->index(0, 0)).center());
         QTRY_COMPARE(session()->undoStack()->index(), 0);
@@ -239,9 +238,9 @@ private Q_SLOTS:
         DesignerObject* second = add();
         session()->setSelection({first});
         m_window->editActions()->orderActions().first()->trigger();
-        QCOMPARE(screen()->childList()->items(), (QVector<DesignerObject*> {second, first}));
+        QCOMPARE(screen()->childList()->items(), (QVector<DesignerObject*>{second, first}));
         m_window->editActions()->orderActions().last()->trigger();
-        QCOMPARE(screen()->childList()->items(), (QVector<DesignerObject*> {first, second}));
+        QCOMPARE(screen()->childList()->items(), (QVector<DesignerObject*>{first, second}));
     }
 
     void aProjectWithoutScreensInvitesToAddOne()

@@ -69,7 +69,7 @@ private Q_SLOTS:
         QVERIFY(message.contains(QStringLiteral("photos")));
         QVERIFY(m_document->isUntitled());
         QCOMPARE(m_document->name(), ProjectDocument::untitledName());
-        QCOMPARE(QDir(path("photos")).entryList(QDir::Files | QDir::Hidden), QStringList {QStringLiteral(".hidden")});
+        QCOMPARE(QDir(path("photos")).entryList(QDir::Files | QDir::Hidden), QStringList{QStringLiteral(".hidden")});
     }
 
     void aFileIsNotSavedOver()

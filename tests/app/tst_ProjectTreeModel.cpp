@@ -42,7 +42,7 @@ private Q_SLOTS:
     {
         add("Rectangle");
         add("Rectangle");
-        QCOMPARE(rows(), (QStringList {QStringLiteral("rectangle2"), QStringLiteral("rectangle1")}));
+        QCOMPARE(rows(), (QStringList{QStringLiteral("rectangle2"), QStringLiteral("rectangle1")}));
         QCOMPARE(m_model->data(m_model->index(0, 0)).toString(), QStringLiteral("Kettle"));
     }
 
@@ -51,13 +51,13 @@ private Q_SLOTS:
         add("Rectangle");
         add("Rectangle");
         m_session->undo();
-        QCOMPARE(rows(), QStringList {QStringLiteral("rectangle1")});
+        QCOMPARE(rows(), QStringList{QStringLiteral("rectangle1")});
         m_session->redo();
-        QCOMPARE(rows(), (QStringList {QStringLiteral("rectangle2"), QStringLiteral("rectangle1")}));
+        QCOMPARE(rows(), (QStringList{QStringLiteral("rectangle2"), QStringLiteral("rectangle1")}));
         m_session->removeElements({element("rectangle1")});
-        QCOMPARE(rows(), QStringList {QStringLiteral("rectangle2")});
+        QCOMPARE(rows(), QStringList{QStringLiteral("rectangle2")});
         m_session->undo();
-        QCOMPARE(rows(), (QStringList {QStringLiteral("rectangle2"), QStringLiteral("rectangle1")}));
+        QCOMPARE(rows(), (QStringList{QStringLiteral("rectangle2"), QStringLiteral("rectangle1")}));
     }
 
     void rowsFollowTheOrder()
@@ -69,8 +69,8 @@ private Q_SLOTS:
         QCOMPARE(rows().first(), QStringLiteral("rectangle1"));
         QCOMPARE(kept.row(), 0);
         m_session->reorder(element("rectangle1"), 1);
-        QCOMPARE(rows(), (QStringList {QStringLiteral("rectangle4"), QStringLiteral("rectangle3"),
-                                       QStringLiteral("rectangle1"), QStringLiteral("rectangle2")}));
+        QCOMPARE(rows(), (QStringList{QStringLiteral("rectangle4"), QStringLiteral("rectangle3"),
+                                      QStringLiteral("rectangle1"), QStringLiteral("rectangle2")}));
         QCOMPARE(kept.row(), 2);
     }
 
@@ -114,8 +114,8 @@ private Q_SLOTS:
         QVERIFY(!m_model->canDropMimeData(data.get(), Qt::MoveAction, -1, -1, main));
         QVERIFY(m_model->canDropMimeData(data.get(), Qt::MoveAction, 4, 0, main));
         QVERIFY(!m_model->dropMimeData(data.get(), Qt::MoveAction, 4, 0, main));
-        QCOMPARE(rows(), (QStringList {QStringLiteral("rectangle3"), QStringLiteral("rectangle1"),
-                                       QStringLiteral("rectangle4"), QStringLiteral("rectangle2")}));
+        QCOMPARE(rows(), (QStringList{QStringLiteral("rectangle3"), QStringLiteral("rectangle1"),
+                                      QStringLiteral("rectangle4"), QStringLiteral("rectangle2")}));
         m_session->undo();
         QCOMPARE(rows().first(), QStringLiteral("rectangle4"));
     }
@@ -195,8 +195,8 @@ private:
 
     void add(const char* className)
     {
-        const EditResult result = m_session->addElement(
-            QString::fromLatin1(className), m_session->project()->screen(QStringLiteral("main")), {}, {});
+        const EditResult result = m_session->addElement(QString::fromLatin1(className),
+                                                        m_session->project()->screen(QStringLiteral("main")), {}, {});
         QVERIFY2(result.accepted, qPrintable(result.message));
     }
 

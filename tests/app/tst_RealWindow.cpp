@@ -64,11 +64,12 @@ private Q_SLOTS:
     {
         // A screen that has come to rest: the same place twice.
         QRect last;
-        const QImage picture = m_window->waitForPicture(QStringLiteral("the screen on the canvas"), [&](const QImage& now) {
-            // The sheet shows the colour too, in a small field.
-            m_canvas = DesignerWindow::find(now, ScreenColor, {}, 200);
-            return m_canvas.isValid() && m_canvas == std::exchange(last, m_canvas);
-        });
+        const QImage picture =
+            m_window->waitForPicture(QStringLiteral("the screen on the canvas"), [&](const QImage& now) {
+                // The sheet shows the colour too, in a small field.
+                m_canvas = DesignerWindow::find(now, ScreenColor, {}, 200);
+                return m_canvas.isValid() && m_canvas == std::exchange(last, m_canvas);
+            });
         QVERIFY2(!picture.isNull(), qPrintable(m_window->error()));
         m_scale = m_canvas.width() / 640.;
         QVERIFY2(qAbs(m_canvas.height() / 400. - m_scale) < 0.02, "The screen is covered or cut off.");
@@ -141,6 +142,17 @@ private Q_SLOTS:
         QCOMPARE(size(), last);
     }
 
+    void itIsDuplicatedByItsKey()
+    {
+        QVERIFY2(m_window->key(QStringLiteral("F6")) && m_window->key(QStringLiteral("ctrl+d")),
+                 qPrintable(m_window->error()));
+        QVERIFY2(save(), qPrintable(m_window->error()));
+        QCOMPARE(elements().size(), 2);
+        QVERIFY2(m_window->key(QStringLiteral("ctrl+z")), qPrintable(m_window->error()));
+        QVERIFY2(save(), qPrintable(m_window->error()));
+        QCOMPARE(elements().size(), 1);
+    }
+
     void theCanvasShowsWhatTheFileSays()
     {
         QVERIFY2(m_window->key(QStringLiteral("F6")) && m_window->key(QStringLiteral("Escape")),
@@ -179,8 +191,8 @@ private Q_SLOTS:
 private:
     /// Rows of the sheet that take the focus before the width: id, x, y, slider and number of the angle, its fixed point.
     static constexpr int WidthRow = 6;
-    const QColor ScreenColor {0x20, 0x40, 0x60};
-    const QColor FillColor {248, 151, 29};
+    const QColor ScreenColor{0x20, 0x40, 0x60};
+    const QColor FillColor{248, 151, 29};
 
     static QString pictureFile()
     {
@@ -196,7 +208,7 @@ private:
     bool save()
     {
         return m_window->waitForModified(true) && m_window->key(QStringLiteral("ctrl+s"))
-            && m_window->waitForModified(false);
+               && m_window->waitForModified(false);
     }
 
     bool typeIntoRow(int row, const QString& text)
@@ -205,17 +217,21 @@ private:
         for (int i = 0; i < row; ++i)
             done = done && m_window->key(QStringLiteral("Tab"));
         return done && m_window->key(QStringLiteral("ctrl+a")) && m_window->type(text)
-            && m_window->key(QStringLiteral("Return"));
+               && m_window->key(QStringLiteral("Return"));
     }
 
-    QJsonObject element() const
+    QJsonArray elements() const
     {
         QFile file(m_screenFile);
         if (!file.open(QIODevice::ReadOnly))
             return {};
-        const QJsonArray elements
-            = QJsonDocument::fromJson(file.readAll()).object().value(QLatin1String("elements")).toArray();
-        return elements.size() == 1 ? elements.first().toObject() : QJsonObject();
+        return QJsonDocument::fromJson(file.readAll()).object().value(QLatin1String("elements")).toArray();
+    }
+
+    QJsonObject element() const
+    {
+        const QJsonArray all = elements();
+        return all.size() == 1 ? all.first().toObject() : QJsonObject();
     }
 
     QPointF position() const

@@ -1,0 +1,72 @@
+#include "app/DesignerStyle.h"
+
+#include "app/ThemedIcon.h"
+
+#include <QPainter>
+#include <QStyleOption>
+
+namespace Korvex::Meridane::Designer {
+
+namespace {
+
+constexpr int TitleMargin = 6; // pixels above and below the title of a panel
+constexpr int TitleIndent = 6; // pixels in front of it, beyond the style's own
+
+} // namespace
+
+DesignerStyle::DesignerStyle()
+    : QProxyStyle(QStringLiteral("Fusion"))
+{}
+
+QIcon DesignerStyle::standardIcon(StandardPixmap pixmap, const QStyleOption* option, const QWidget* widget) const
+{
+    switch (pixmap) {
+    case SP_TitleBarCloseButton:
+        return ThemedIcon::named(QStringLiteral("close"));
+    case SP_TitleBarNormalButton:
+        return ThemedIcon::named(QStringLiteral("float"));
+    default:
+        return QProxyStyle::standardIcon(pixmap, option, widget);
+    }
+}
+
+int DesignerStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
+{
+    switch (metric) {
+    case PM_DockWidgetTitleMargin:
+        return TitleMargin;
+    case PM_DockWidgetTitleBarButtonMargin:
+        return 2;
+    default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+int DesignerStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                             QStyleHintReturn* result) const
+{
+    // The words say it; the style's coloured pictures would be the only ones in the window.
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
+        return 0;
+    return QProxyStyle::styleHint(hint, option, widget, result);
+}
+
+void DesignerStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                                const QWidget* widget) const
+{
+    if (const auto* title = qstyleoption_cast<const QStyleOptionDockWidget*>(option);
+        title && element == CE_DockWidgetTitle) {
+        QStyleOptionDockWidget indented(*title);
+        indented.rect.adjust(TitleIndent, 0, 0, 0);
+        QProxyStyle::drawControl(element, &indented, painter, widget);
+        return;
+    }
+    if (element == CE_ToolBar) {
+        painter->fillRect(option->rect, option->palette.window());
+        painter->fillRect(QRect(option->rect.bottomLeft(), QSize(option->rect.width(), 1)), option->palette.mid());
+        return;
+    }
+    QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+} // namespace Korvex::Meridane::Designer
