@@ -55,7 +55,7 @@ CanvasPanel::CanvasPanel(EditSession* session, QWidget* parent)
     showRightPage();
 }
 
-QWidget* CanvasPanel::makeInvitation()
+QWidget* CanvasPanel::makeInvitation() const
 {
     auto* page = new QWidget;
     auto* text = new QLabel(coreText("This project has no screen yet."));

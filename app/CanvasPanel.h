@@ -26,7 +26,7 @@ Q_SIGNALS:
     void addScreenRequested();
 
 private:
-    [[nodiscard]] QWidget* makeInvitation();
+    [[nodiscard]] QWidget* makeInvitation() const;
     void showRightPage();
 
     EditSession* m_session;

@@ -83,7 +83,7 @@ EditResult ElementClipboard::insert(EditSession* session, const QByteArray& data
     const QJsonObject content = QJsonDocument::fromJson(data).object();
     const QJsonArray entries = content.value(ElementsKey).toArray();
     std::vector<std::unique_ptr<DesignerObject>> elements;
-    for (const QJsonValue& entry : entries) {
+    for (const auto& entry : entries) {
         if (auto element = ElementJson::read(entry.toObject())) {
             takeImages(session, element.get(), content.value(ImagesKey).toString());
             elements.push_back(std::move(element));
@@ -100,7 +100,7 @@ EditResult ElementClipboard::insert(EditSession* session, const QByteArray& data
         added.append(element.get());
         new AddObject(screen, std::move(element), -1, command.get());
     }
-    const EditResult result = session->project()->execute(std::move(command));
+    EditResult result = session->project()->execute(std::move(command));
     if (result.changed)
         session->setSelection(added);
     return result;

@@ -106,7 +106,7 @@ void ProjectDocument::replaceSession(std::unique_ptr<Project> project, bool unti
     Q_EMIT titleChanged();
 }
 
-void ProjectDocument::nameAfter(const QString& folder)
+void ProjectDocument::nameAfter(const QString& folder) const
 {
     // A project that nobody has named takes the name of its first folder; that is part of saving and no step.
     if (m_untitled && project()->name() == untitledName())

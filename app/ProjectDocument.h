@@ -58,7 +58,7 @@ Q_SIGNALS:
 
 private:
     void replaceSession(std::unique_ptr<Project> project, bool untitled);
-    void nameAfter(const QString& folder);
+    void nameAfter(const QString& folder) const;
 
     std::unique_ptr<EditSession> m_session;
     bool m_untitled = true;

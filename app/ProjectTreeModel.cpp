@@ -17,6 +17,8 @@
 #include <QMimeData>
 #include <QPalette>
 
+#include <algorithm>
+
 namespace Korvex::Meridane::Designer {
 
 namespace {
@@ -294,8 +296,8 @@ std::unique_ptr<ProjectTreeModel::Node> ProjectTreeModel::makeNode(DesignerObjec
         return made;
     made->populated = true;
     if (const ObjectListProperty* list = object->childList()) {
-        for (auto child = list->items().crbegin(); child != list->items().crend(); ++child)
-            made->children.push_back(makeNode(*child, made.get()));
+        for (qsizetype i = list->items().size(); i-- > 0;)
+            made->children.push_back(makeNode(list->items().at(i), made.get()));
         made->renumber();
     }
     return made;

@@ -23,6 +23,7 @@
 #include <QDockWidget>
 #include <QLabel>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QStandardPaths>
 #include <QTabBar>
 #include <QTemporaryDir>

@@ -25,7 +25,9 @@
 
 #include <QDockWidget>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QStandardPaths>
+#include <QStyleHints>
 #include <QtTest>
 
 using namespace Korvex::Meridane::Designer;

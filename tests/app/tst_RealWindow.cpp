@@ -30,7 +30,7 @@ private Q_SLOTS:
         (void)DesignerFactory::instance()->loadInstalledPlugins();
         const std::unique_ptr<Project> project = ProjectStore::create(QStringLiteral("Kettle"), QSizeF(640, 400));
         Screen* screen = project->screens().first();
-        QVERIFY(screen->changePropertyValue(screen->getProperty(QStringLiteral("color")), ScreenColor.name()));
+        QVERIFY(screen->changePropertyValue(screen->getProperty(QStringLiteral("color")), m_screenColor.name()));
         QString message;
         QVERIFY2(ProjectStore::save(project.get(), m_folder.filePath(QStringLiteral("kettle")), &message),
                  qPrintable(message));
@@ -44,7 +44,7 @@ private Q_SLOTS:
     void cleanupTestCase() { m_window.reset(); }
 
     /// Each step starts from what the one before has left.
-    void init()
+    void init() const
     {
         if (m_broken)
             QSKIP("An earlier step has failed.");
@@ -67,7 +67,7 @@ private Q_SLOTS:
         const QImage picture =
             m_window->waitForPicture(QStringLiteral("the screen on the canvas"), [&](const QImage& now) {
                 // The sheet shows the colour too, in a small field.
-                m_canvas = DesignerWindow::find(now, ScreenColor, {}, 200);
+                m_canvas = DesignerWindow::find(now, m_screenColor, {}, 200);
                 return m_canvas.isValid() && m_canvas == std::exchange(last, m_canvas);
             });
         QVERIFY2(!picture.isNull(), qPrintable(m_window->error()));
@@ -80,7 +80,7 @@ private Q_SLOTS:
         for (int sum = 0; tile.isNull() && sum < left.width() + left.height(); ++sum) {
             for (int y = 0; tile.isNull() && y <= sum; ++y) {
                 if (left.contains(sum - y, y)
-                    && !DesignerWindow::find(picture, FillColor, QRect(sum - y, y, 1, 1)).isNull())
+                    && !DesignerWindow::find(picture, m_fillColor, QRect(sum - y, y, 1, 1)).isNull())
                     tile = QPoint(sum - y + 8, y + 8);
             }
         }
@@ -161,7 +161,7 @@ private Q_SLOTS:
                             viewPoint(position().x() + size().x(), position().y() + size().y()));
         QRect shown;
         const QImage picture = m_window->waitForPicture(QStringLiteral("the rectangle"), [&](const QImage& now) {
-            shown = DesignerWindow::find(now, FillColor, m_canvas);
+            shown = DesignerWindow::find(now, m_fillColor, m_canvas);
             return qAbs(shown.width() - wanted.width()) <= 3 && qAbs(shown.height() - wanted.height()) <= 3;
         });
         QVERIFY2(!picture.isNull(), qPrintable(m_window->error()));
@@ -191,8 +191,8 @@ private Q_SLOTS:
 private:
     /// Rows of the sheet that take the focus before the width: id, x, y, slider and number of the angle, its fixed point.
     static constexpr int WidthRow = 6;
-    const QColor ScreenColor{0x20, 0x40, 0x60};
-    const QColor FillColor{248, 151, 29};
+    const QColor m_screenColor{0x20, 0x40, 0x60};
+    const QColor m_fillColor{248, 151, 29};
 
     static QString pictureFile()
     {
