@@ -75,6 +75,8 @@ PropertySheet::PropertySheet(EditSession* session, QWidget* parent)
 
 PropertySheet::~PropertySheet()
 {
+    // A sheet that is a window of its own closes while it is destroyed, and the focus with it.
+    disconnect(qApp, nullptr, this, nullptr);
     m_recorder->setActive(false);
 }
 
