@@ -37,9 +37,11 @@ target_compile_options(MeridaneOptions INTERFACE
     -Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Wcast-align -Wunused -Woverloaded-virtual
     $<$<BOOL:${MERIDANE_WERROR}>:-Werror>)
 if(MERIDANE_SANITIZERS)
-    # Undefined behaviour ends the program instead of printing a line that nobody reads.
+    # Undefined behaviour ends the program instead of printing a line that nobody reads. Qt's containers hand a null
+    # pointer with a length of 0 to memcpy, in headers that are compiled into our code.
     target_compile_options(MeridaneOptions INTERFACE
-        -fsanitize=${MERIDANE_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+        -fsanitize=${MERIDANE_SANITIZERS} -fno-sanitize=nonnull-attribute -fno-sanitize-recover=all
+        -fno-omit-frame-pointer)
     target_link_options(MeridaneOptions INTERFACE -fsanitize=${MERIDANE_SANITIZERS})
 endif()
 
