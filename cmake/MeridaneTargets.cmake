@@ -43,7 +43,8 @@ function(meridane_test name)
     if(NOT arg_TIMEOUT)
         set(arg_TIMEOUT 300)
     endif()
-    set(environment QT_QPA_PLATFORM=offscreen QT_QPA_UPDATE_IDLE_TIME=0 LC_ALL=C.UTF-8)
+    # Where a test crashes, Qt would wait for a debugger's report.
+    set(environment QTEST_DISABLE_STACK_DUMP=1 QT_QPA_PLATFORM=offscreen QT_QPA_UPDATE_IDLE_TIME=0 LC_ALL=C.UTF-8)
     if(MERIDANE_SANITIZERS)
         # Everything is several times slower, and leaks of the libraries below us are not ours to mend.
         math(EXPR arg_TIMEOUT "${arg_TIMEOUT} * 4")

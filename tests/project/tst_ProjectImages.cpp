@@ -31,7 +31,7 @@ private Q_SLOTS:
     void anImportedImageIsListedWhenItIsUsed();
     void anImageThatNothingNamesGoesWhenTheProjectIsClosed();
     void anImageStaysWhileTheHistoryMayAskForIt();
-    void anImportThatIsNeverUsedGoes();
+    void anImportStaysUntilItHasBeenUsed();
     void aListedImageThatIsNotUsedYetStays();
     void filesOfTheUserAreOfferedAndNeverRemoved();
     void anImageNamedByAnUnreadScreenStays();
@@ -123,15 +123,21 @@ void tst_ProjectImages::anImageStaysWhileTheHistoryMayAskForIt()
     QCOMPARE(images(), QStringList{QStringLiteral("used.png")});
 }
 
-void tst_ProjectImages::anImportThatIsNeverUsedGoes()
+void tst_ProjectImages::anImportStaysUntilItHasBeenUsed()
 {
     import(m_project.get(), "new.png");
     setValue(lamp(), "number", QStringLiteral("9"));
     QVERIFY(save());
-    QVERIFY(m_project->imageResources().contains(QStringLiteral("new.png"))); // still on offer
+    close();
+    QCOMPARE(images(), (QStringList{QStringLiteral("new.png"), QStringLiteral("used.png")}));
+    QCOMPARE(listed(), QByteArray("\"used.png\", \"new.png\""));
+    m_project = load(m_fixture->folder());
+    setValue(lamp(), "image", QStringLiteral("new.png"));
+    QVERIFY(save());
+    setValue(lamp(), "image", QStringLiteral("used.png"));
+    QVERIFY(save());
     close();
     QCOMPARE(images(), QStringList{QStringLiteral("used.png")});
-    QCOMPARE(listed(), QByteArray("\"used.png\""));
 }
 
 void tst_ProjectImages::aListedImageThatIsNotUsedYetStays()

@@ -104,6 +104,16 @@ private Q_SLOTS:
         QCOMPARE(value("size"), QStringLiteral("120,60"));
     }
 
+    void aTypedHeightStaysAsTypedWhenItsWidthWasCompletedAndRounded()
+    {
+        QVERIFY(set("size", "100,300"));
+        place();
+        QVERIFY(set("keepRatio", "0.3333333333333333"));
+        QVERIFY(set("boundingSize", "66.666667,200"));
+        QCOMPARE(value("size"), QStringLiteral("66.666667,200"));
+        QCOMPARE(value("boundingSize"), QStringLiteral("66.666667,200"));
+    }
+
     void onlyTheSideThatWasTouchedIsRaisedToTheSmallest()
     {
         QVERIFY(set("border", "width: 3; color: #000000;"));
@@ -213,7 +223,8 @@ private Q_SLOTS:
             if (!outer)
                 return;
             if (ratio > 0) {
-                RC_ASSERT(qAbs(outer->width() - outer->height() * ratio) <= 1e-9 * outer->width());
+                RC_ASSERT(qAbs(outer->width() - outer->height() * ratio) <= 1e-6 * std::max(1.0, ratio)
+                          || qAbs(outer->width() / ratio - outer->height()) <= 1e-6);
                 RC_ASSERT(std::min(outer->width() / std::min(ratio, 1.0), outer->height() * std::max(ratio, 1.0))
                           >= smallest * (1 - 1e-12));
             } else {

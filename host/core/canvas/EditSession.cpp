@@ -1,5 +1,6 @@
 #include "host/core/canvas/EditSession.h"
 
+#include "host/core/canvas/CanvasNumbers.h"
 #include "host/core/canvas/CanvasScene.h"
 #include "host/core/canvas/GraphicsItem.h"
 #include "host/core/commands/AddObject.h"
@@ -20,6 +21,8 @@
 #include "host/common/LocalizationHelper.h"
 
 #include <QScopedValueRollback>
+#include <QSet>
+#include <QSignalBlocker>
 
 namespace Korvex::Meridane::Designer {
 
@@ -50,6 +53,8 @@ EditSession::~EditSession()
 {
     m_project->disconnect(this);
     m_project->undoStack()->disconnect(this);
+    for (const auto& [screen, scene] : m_scenes)
+        scene->disconnect(this);
     m_scenes.clear();
 }
 
@@ -203,7 +208,16 @@ EditResult EditSession::removeElements(const QList<DesignerObject*>& elements)
     if (count == 0)
         return {true, false, {}};
     command->setText(count == 1 ? command->childCommand(0)->text() : text("Remove %1 Elements").arg(count));
-    return execute(std::move(command));
+    EditResult result;
+    {
+        // The selection follows once, at the end, instead of at each element that goes.
+        const QScopedValueRollback<bool> setting(m_settingSelection, true);
+        const QSignalBlocker silent(scene(m_currentScreen));
+        result = execute(std::move(command));
+    }
+    if (m_selection.removeIf([this](DesignerObject* object) { return !Project::parentProject(object); }) > 0)
+        Q_EMIT selectionChanged();
+    return result;
 }
 
 EditResult EditSession::setProperty(DesignerObject* object, const QString& propertyId, const QString& value)
@@ -216,13 +230,14 @@ EditResult EditSession::setProperties(const QList<DesignerObject*>& objects, con
 {
     auto command = std::make_unique<UndoCommand>();
     command->setAllOrNothing(true);
+    const QSet<DesignerObject*> selected(m_selection.begin(), m_selection.end());
     for (int i = 0; i < objects.size(); ++i) {
         DesignerObject* object = objects.at(i);
         const auto property = object->getProperty(propertyId);
         if (!property || dynamic_cast<const ObjectListProperty*>(property.data()))
             return refused(text("\"%1\" has no property \"%2\".").arg(object->getIdName(), propertyId));
         scene(screenOf(object));
-        const auto* change = new ChangeProperty(property, values.at(i), m_selection.contains(object), command.get());
+        const auto* change = new ChangeProperty(property, values.at(i), selected.contains(object), command.get());
         command->setText(change->text());
     }
     return execute(std::move(command));
@@ -232,8 +247,10 @@ EditResult EditSession::moveElements(const QList<DesignerObject*>& elements, con
                                      const QString& mergeKey)
 {
     auto command = std::make_unique<UndoCommand>();
-    command->setText(text("Move"));
+    command->setText(elements.size() == 1 ? text("Move %1").arg(elements.first()->getIdName())
+                                          : text("Move %1 Elements").arg(elements.size()));
     command->setMergeKey(mergeKey);
+    const QSet<DesignerObject*> selected(m_selection.begin(), m_selection.end());
     for (DesignerObject* object : elements) {
         const auto* element = qobject_cast<VisualElement*>(object);
         bool ok = false;
@@ -242,8 +259,8 @@ EditResult EditSession::moveElements(const QList<DesignerObject*>& elements, con
         if (!ok)
             continue;
         scene(screenOf(object));
-        new ChangeProperty(element->position(), ValueConversion::toString(position + distance),
-                           m_selection.contains(object), command.get());
+        new ChangeProperty(element->position(), ValueConversion::toString(withoutNoise(position + distance)),
+                           selected.contains(object), command.get());
     }
     if (command->childCommandCount() == 0)
         return {true, false, {}};
@@ -349,6 +366,8 @@ void EditSession::onObjectRemoved(DesignerObject* object)
         dropScene(screen);
         return;
     }
+    if (m_settingSelection)
+        return;
     const auto gone = [object](DesignerObject* selected) {
         for (DesignerObject* parent = selected; parent; parent = parent->parentObject()) {
             if (parent == object)
@@ -378,7 +397,12 @@ void EditSession::dropScene(Screen* screen)
         setCurrentScreen(screens.isEmpty() ? nullptr : screens.first());
         setSelection({});
     }
-    m_scenes.erase(screen);
+    const auto scene = m_scenes.find(screen);
+    if (scene == m_scenes.end())
+        return;
+    // The items of a scene that goes are deselected one by one.
+    scene->second->disconnect(this);
+    m_scenes.erase(scene);
 }
 
 } // namespace Korvex::Meridane::Designer

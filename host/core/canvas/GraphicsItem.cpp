@@ -97,6 +97,9 @@ void GraphicsItem::updateGraphicsItem(const QSharedPointer<DesignerProperty>& pr
             return;
         m_fixedPoint = transformOriginFromName(rotation.fixedPoint());
         setItemRotation(rotation.angle());
+    } else if (property->id() == boundingSizeId() && property->isConverted() && !m_changingSize) {
+        // The element has reacted by now; what it did not follow snaps back.
+        reportOuterSize();
     }
 }
 

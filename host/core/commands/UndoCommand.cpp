@@ -50,6 +50,7 @@ void UndoCommand::redo()
         break;
     case State::Undone: {
         const NotificationScope observersWait;
+        const ValueRestoreScope restoring;
         redoStructureTree();
         for (const PropertyChange& change : std::as_const(m_changes))
             restore(change, change.after);
@@ -66,6 +67,7 @@ void UndoCommand::undo()
     if (m_state == State::Fresh || m_state == State::Undone)
         return;
     const NotificationScope observersWait;
+    const ValueRestoreScope restoring;
     for (auto change = m_changes.crbegin(); change != m_changes.crend(); ++change)
         restore(*change, change->before);
     undoStructureTree();
@@ -84,7 +86,8 @@ bool UndoCommand::mergeWith(const QUndoCommand* other)
         || next->structureChangedInTree())
         return false;
     m_changes = ChangeRecording::joined(m_changes + next->m_changes);
-    m_joinedSelection += next->selectedItems();
+    if (const QList<DesignerObject*> more = next->selectedItems(); more != selectedItems())
+        m_joinedSelection += more;
     setObsolete(m_changes.isEmpty());
     return true;
 }

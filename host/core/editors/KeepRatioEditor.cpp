@@ -34,6 +34,8 @@ bool KeepRatioEditor::createEditorWidget()
 {
     m_toggle = new LockToggle(this);
     m_toggle->setAccessibleName(property()->name());
+    if (const QString tip = property()->editorParameters().value(QStringLiteral("tooltip")).toString(); !tip.isEmpty())
+        m_toggle->setToolTip(tip);
     connect(m_toggle, &LockToggle::userModified, this, [this] { edit(); });
     setEditorWidget(m_toggle);
     return true;

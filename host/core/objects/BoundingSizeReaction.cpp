@@ -1,6 +1,7 @@
 #include "host/core/objects/BoundingSizeReaction.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace Korvex::Meridane::Designer {
 
@@ -10,6 +11,15 @@ namespace {
 bool differs(double a, double b)
 {
     return a < b || a > b;
+}
+
+/// Whether \a size is what an editor makes of one typed dimension: the other one has been completed and rounded, and
+/// deriving it anew would take the typed one away again.
+bool keepsRatio(const QSizeF& size, double ratio)
+{
+    constexpr double Rounding = 1e-6;
+    return std::abs(size.height() * ratio - size.width()) <= Rounding
+        || std::abs(size.width() / ratio - size.height()) <= Rounding;
 }
 
 QSizeF heightFollows(double width, double ratio, double smallest)
@@ -33,6 +43,8 @@ std::optional<QSizeF> reactToBoundingSize(const QSizeF& before, const QSizeF& wa
     const bool heightChanged = differs(before.height(), wanted.height());
     const double width = widthChanged ? std::max(wanted.width(), smallest) : wanted.width();
     const double height = heightChanged ? std::max(wanted.height(), smallest) : wanted.height();
+    if (keep && widthChanged && heightChanged && keepsRatio({width, height}, ratio))
+        return QSizeF(width, height);
     if (widthChanged)
         return keep ? heightFollows(width, ratio, smallest) : QSizeF(width, height);
     if (heightChanged)

@@ -4,6 +4,7 @@
 #include "host/core/commands/ChangeRecording.h"
 #include "host/core/commands/ChangeScopes.h"
 #include "host/core/objects/IdRegistry.h"
+#include "host/core/objects/ObjectContainer.h"
 #include "host/core/objects/QmlIdentifier.h"
 #include "host/core/project/Project.h"
 #include "host/core/properties/LinkProperty.h"
@@ -59,7 +60,7 @@ QString DesignerObject::toQml(int indent) const
     const QString tabs = getTabs(indent);
     QString qml = tabs + qmlName() + QStringLiteral(" {\n");
     // The root of a file needs no id: it would only compete with those of the elements in it.
-    if (!m_idName.isEmpty() && !const_cast<DesignerObject*>(this)->ownIdScope())
+    if (!m_idName.isEmpty() && !ownIdScope())
         qml += getTabs(indent + 1) + QStringLiteral("id: ") + m_idName + QLatin1Char('\n');
     const auto append = [&qml](const QString& lines) {
         if (!lines.isEmpty())
@@ -234,9 +235,9 @@ IdRegistry* DesignerObject::idScope() const
     return nullptr;
 }
 
-IdRegistry* DesignerObject::ownIdScope()
+IdRegistry* DesignerObject::ownIdScope() const
 {
-    return nullptr;
+    return m_container ? m_container->containedIds() : nullptr;
 }
 
 QString DesignerObject::getTabs(int indent)
@@ -246,7 +247,7 @@ QString DesignerObject::getTabs(int indent)
 
 ObjectListProperty* DesignerObject::childList() const
 {
-    return nullptr;
+    return m_container ? m_container->containedObjects() : nullptr;
 }
 
 DesignerObject* DesignerObject::parentObject() const

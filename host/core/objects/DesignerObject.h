@@ -13,6 +13,7 @@ namespace Korvex::Meridane::Designer {
 class DesignerProperty;
 class GraphicsItem;
 class IdRegistry;
+class ObjectContainer;
 class ObjectListProperty;
 
 /**
@@ -92,7 +93,7 @@ public:
     /// The registry of the scope that the object's id is unique in, or null while the object stands in no scope.
     [[nodiscard]] IdRegistry* idScope() const;
     /// The registry of the ids below this object; null except for objects that are a scope.
-    [[nodiscard]] virtual IdRegistry* ownIdScope();
+    [[nodiscard]] IdRegistry* ownIdScope() const;
 
     /// \a indent tabs, the indentation of a QML line at that depth.
     [[nodiscard]] static QString getTabs(int indent);
@@ -103,7 +104,7 @@ public:
     void setGraphicsItem(GraphicsItem* item) { m_graphicsItem = item; }
 
     /// The list of the object's child elements, or null for objects without children.
-    [[nodiscard]] virtual ObjectListProperty* childList() const;
+    [[nodiscard]] ObjectListProperty* childList() const;
     /// The object whose list holds this one, or null.
     [[nodiscard]] DesignerObject* parentObject() const;
     /// Adds \a object (ownership passes to this) to \a list at \a index, running the list hooks and giving it a free
@@ -126,6 +127,8 @@ Q_SIGNALS:
     void childrenChanged();
 
 protected:
+    /// Called once by the constructor of an object that holds others.
+    void setContainer(ObjectContainer* container) { m_container = container; }
     /// Adds a declared property; the object shares its ownership. Kept sorted by rank.
     void addProperty(const QSharedPointer<DesignerProperty>& property);
 
@@ -140,6 +143,7 @@ private:
     IdentifierInfo m_idInfo;
     QJsonObject m_unknownKeys;
     GraphicsItem* m_graphicsItem = nullptr;
+    ObjectContainer* m_container = nullptr; // this object's own face as a container
 };
 
 } // namespace Korvex::Meridane::Designer

@@ -27,7 +27,10 @@ void visitScope(DesignerObject* object, const Visitor& visit)
 
 bool DesignerObject::addListItem(ObjectListProperty* list, DesignerObject* object, int index)
 {
-    if (!list || !object || list->parentObject() != this || !beforeListItemAdded(list, object))
+    if (!list || !object || list->parentObject() != this)
+        return false;
+    const bool isHeld = object->parentObject() == this && list->m_items.contains(object);
+    if (isHeld || !beforeListItemAdded(list, object))
         return false;
     const int last = int(list->m_items.size());
     object->setParent(this);

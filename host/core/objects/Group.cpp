@@ -9,13 +9,17 @@
 
 #include <QGraphicsItem>
 
+#include <algorithm>
+
 namespace Korvex::Meridane::Designer {
 
 using Common::LocalizationHelper;
 
 Group::Group(QObject* parent)
     : VisualElement(parent)
-{}
+{
+    setContainer(this);
+}
 
 Group::~Group() = default;
 
@@ -64,18 +68,23 @@ GraphicsItem* Group::createGraphicsItem()
     return item;
 }
 
-ObjectListProperty* Group::childList() const
+ObjectListProperty* Group::containedObjects() const
 {
     return m_elements.data();
 }
 
 QString Group::onCompletedQml(int indent) const
 {
-    // The size places the fixed point of the rotation; it reaches from the group's origin over all its children.
-    const QRectF bounds = getBoundingRect();
+    const QRectF content = contentRect();
     return QStringLiteral("%1width: %2\n%1height: %3")
-        .arg(getTabs(indent), ValueConversion::toQmlString(std::max(bounds.right(), 0.0), 4),
-             ValueConversion::toQmlString(std::max(bounds.bottom(), 0.0), 4));
+        .arg(getTabs(indent), ValueConversion::toQmlString(content.width(), 4),
+             ValueConversion::toQmlString(content.height(), 4));
+}
+
+QRectF Group::contentRect() const
+{
+    const QRectF bounds = getBoundingRect();
+    return {0, 0, std::max(bounds.right(), 0.0), std::max(bounds.bottom(), 0.0)};
 }
 
 QRectF Group::getBoundingRect() const

@@ -36,7 +36,9 @@ bool screenSizeValidator(const DesignerProperty* property, QString& message)
 
 Screen::Screen(QObject* parent)
     : DesignerObject(parent)
-{}
+{
+    setContainer(this);
+}
 
 Screen::~Screen() = default;
 
@@ -94,12 +96,23 @@ GraphicsItem* Screen::createGraphicsItem()
     return DesignerFactory::instance()->createGraphicsItem(QStringLiteral("GraphicsScreen"), this);
 }
 
-IdRegistry* Screen::ownIdScope()
+bool Screen::beforePropertyChanged(const DesignerProperty* property, const QString& newValue)
+{
+    readContent();
+    return m_contentError.isEmpty() && DesignerObject::beforePropertyChanged(property, newValue);
+}
+
+bool Screen::beforeListItemAdded(const DesignerProperty* property, const DesignerObject* object)
+{
+    return m_contentError.isEmpty() && DesignerObject::beforeListItemAdded(property, object);
+}
+
+IdRegistry* Screen::containedIds()
 {
     return &m_ids;
 }
 
-ObjectListProperty* Screen::childList() const
+ObjectListProperty* Screen::containedObjects() const
 {
     readContent();
     return m_elements.data();

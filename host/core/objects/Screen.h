@@ -2,6 +2,7 @@
 
 #include "host/core/objects/DesignerObject.h"
 #include "host/core/objects/IdRegistry.h"
+#include "host/core/objects/ObjectContainer.h"
 
 #include <QSizeF>
 
@@ -15,7 +16,7 @@ namespace Korvex::Meridane::Designer {
  * A screen is the scope "Screen": the ids of all elements below it are unique in it. Its content is read when it is
  * first needed (setContentReader()).
  */
-class MERIDANE_CORE_EXPORT Screen : public DesignerObject
+class MERIDANE_CORE_EXPORT Screen : public DesignerObject, public ObjectContainer
 {
     Q_OBJECT
 
@@ -28,9 +29,12 @@ public:
     [[nodiscard]] QString displayName() const override;
     bool initializeProperties() override;
     GraphicsItem* createGraphicsItem() override;
-    [[nodiscard]] IdRegistry* ownIdScope() override;
+    /// An unreadable screen refuses every edit: none of it could be saved.
+    bool beforePropertyChanged(const DesignerProperty* property, const QString& newValue) override;
+    bool beforeListItemAdded(const DesignerProperty* property, const DesignerObject* object) override;
+    [[nodiscard]] IdRegistry* containedIds() override;
     /// Reads the content first if that has not been done.
-    [[nodiscard]] ObjectListProperty* childList() const override;
+    [[nodiscard]] ObjectListProperty* containedObjects() const override;
 
     /// Width and height in pixels; the default of a new screen is the project's display size.
     [[nodiscard]] QSizeF size() const;

@@ -20,6 +20,7 @@ Project::Project(QObject* parent)
     : DesignerObject(parent)
     , m_undoStack(new UndoStack(this))
 {
+    setContainer(this);
     connect(m_undoStack, &QUndoStack::cleanChanged, this, &Project::updateModified);
 }
 
@@ -86,12 +87,12 @@ GraphicsItem* Project::createGraphicsItem()
     return nullptr;
 }
 
-IdRegistry* Project::ownIdScope()
+IdRegistry* Project::containedIds()
 {
     return &m_ids;
 }
 
-ObjectListProperty* Project::childList() const
+ObjectListProperty* Project::containedObjects() const
 {
     return m_screens.data();
 }

@@ -3,6 +3,7 @@
 #include "host/core/commands/UndoStack.h"
 #include "host/core/objects/DesignerObject.h"
 #include "host/core/objects/IdRegistry.h"
+#include "host/core/objects/ObjectContainer.h"
 
 #include <QSizeF>
 
@@ -15,7 +16,7 @@ class Screen;
  *
  * A project lives in a folder (see ProjectStore); a new one in a temporary folder until it is saved.
  */
-class MERIDANE_CORE_EXPORT Project : public DesignerObject
+class MERIDANE_CORE_EXPORT Project : public DesignerObject, public ObjectContainer
 {
     Q_OBJECT
 
@@ -32,8 +33,8 @@ public:
     [[nodiscard]] QString displayName() const override;
     bool initializeProperties() override;
     GraphicsItem* createGraphicsItem() override;
-    [[nodiscard]] IdRegistry* ownIdScope() override;
-    [[nodiscard]] ObjectListProperty* childList() const override;
+    [[nodiscard]] IdRegistry* containedIds() override;
+    [[nodiscard]] ObjectListProperty* containedObjects() const override;
 
     [[nodiscard]] QString name() const;
     [[nodiscard]] QSizeF displaySize() const;

@@ -134,13 +134,16 @@ bool ProjectFiles::readScreenFile(ScreenFile& entry, Screen* screen, QString* er
     return true;
 }
 
-/// An image is the project's own from the moment at which it is offered and was not found in the folder.
+/// An image is the project's own from the moment at which it is offered and was not found in the folder. It is kept for
+/// whoever imported it, until it has been used.
 void ProjectFiles::noteImages()
 {
     const QStringList& images = m_project->imageResources();
     for (const QString& image : images) {
-        if (!m_foreignImages.contains(image))
-            m_ownImages.insert(image);
+        if (m_foreignImages.contains(image) || m_ownImages.contains(image))
+            continue;
+        m_ownImages.insert(image);
+        m_reservedImages.insert(image);
     }
 }
 

@@ -48,7 +48,8 @@ QString freeName(const Project& project, const QFileInfo& file)
 QString ResourceImporter::importImage(Project* project, const QString& file, QString* message)
 {
     const auto refuse = [&](const char* reason, const QString& detail = {}) {
-        *message = LocalizationHelper::coreString(QString::fromLatin1(reason)).arg(file, detail);
+        QString text = LocalizationHelper::coreString(QString::fromLatin1(reason));
+        *message = detail.isEmpty() ? text.arg(file) : text.arg(file, detail);
         return QString();
     };
     QFile source(file);

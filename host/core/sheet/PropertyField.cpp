@@ -123,8 +123,11 @@ void PropertyField::applyToAll()
     step->setAllOrNothing(true);
     step->setMergeKey(m_editor->mergeKey());
     if (!components.isEmpty()) {
-        for (const auto& property : std::as_const(m_properties))
-            m_editor->createUpdateCommand(property, editedValue(*property, components), step.get());
+        for (const auto& property : std::as_const(m_properties)) {
+            const QString value = editedValue(*property, components);
+            if (!property->equalsValue(value))
+                m_editor->createUpdateCommand(property, value, step.get());
+        }
     }
     const UndoCommand* child = step->childCommand(0);
     step->setText(child && !child->text().isEmpty()
