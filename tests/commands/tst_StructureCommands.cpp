@@ -122,8 +122,8 @@ private Q_SLOTS:
         const int before = m_project->undoStack()->count();
         m_project->setUserModificationKey(QStringLiteral("key"));
         for (DesignerObject* element : {first, second})
-            m_project->emitUserModified(new ChangeProperty(element->getProperty(QStringLiteral("number")),
-                                                           QStringLiteral("7"), true, nullptr));
+            m_project->emitUserModified(
+                new ChangeProperty(element->getProperty(QStringLiteral("number")), QStringLiteral("7"), true, nullptr));
         m_project->setUserModificationKey({});
         QCOMPARE(m_project->undoStack()->count(), before + 1);
         QCOMPARE(m_project->undoStack()->undoCommand()->selectedItems(), (QList<DesignerObject*>{first, second}));

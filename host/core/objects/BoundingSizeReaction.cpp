@@ -19,7 +19,7 @@ bool keepsRatio(const QSizeF& size, double ratio)
 {
     constexpr double Rounding = 1e-6;
     return std::abs(size.height() * ratio - size.width()) <= Rounding
-        || std::abs(size.width() / ratio - size.height()) <= Rounding;
+           || std::abs(size.width() / ratio - size.height()) <= Rounding;
 }
 
 QSizeF heightFollows(double width, double ratio, double smallest)
