@@ -254,6 +254,11 @@ void MainWindow::attach(EditSession* session)
     });
     connect(m_workspace.get(), &Workspace::refused, this,
             [this](const QString& message) { m_messages->showMessage(message, MessageBar::Kind::Error); });
+    // What was complained about is settled or left behind by the next step.
+    connect(m_workspace->session()->undoStack(), &QUndoStack::indexChanged, m_messages, [this] {
+        if (m_messages->kind() == MessageBar::Kind::Error)
+            m_messages->hide();
+    });
     for (QWidget* panel : {static_cast<QWidget*>(m_workspace->tree()), static_cast<QWidget*>(m_workspace->sheet()),
                            static_cast<QWidget*>(m_workspace->history())})
         panel->show();

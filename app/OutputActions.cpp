@@ -58,6 +58,8 @@ void OutputActions::exportQml()
     QString start = AppSettings().value(ExportFolderKey).toString();
     if (start.isEmpty() || !QDir(start).exists())
         start = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    if (!QDir(start).exists())
+        start = QDir::homePath();
     const QString folder = m_prompts->chooseExportFolder(start);
     if (folder.isEmpty())
         return;

@@ -2,6 +2,7 @@
 
 #include "app/CoreText.h"
 
+#include "host/core/project/Project.h"
 #include "host/core/qml/QmlExporter.h"
 
 #include <QCoreApplication>
@@ -64,6 +65,7 @@ bool PreviewRunner::start(Project* project, const QString& screenId, QList<Probl
     QStringList arguments{m_folder->path()};
     if (!screenId.isEmpty())
         arguments << QStringLiteral("--screen") << screenId;
+    arguments << QStringLiteral("--title") << project->name();
     m_process->start(m_program, arguments);
     return true;
 }

@@ -77,8 +77,12 @@ QList<DesignerObject*> ProjectTree::selectedObjects() const
 
 void ProjectTree::renameCurrent()
 {
-    const QModelIndex current = currentIndex();
-    if (current.isValid() && m_model->flags(current).testFlag(Qt::ItemIsEditable)) {
+    // The current row may be one that is not selected any more.
+    const QModelIndexList rows = selectionModel()->selectedRows();
+    if (rows.size() != 1)
+        return;
+    const QModelIndex current = rows.first();
+    if (m_model->flags(current).testFlag(Qt::ItemIsEditable)) {
         setFocus();
         edit(current);
     }

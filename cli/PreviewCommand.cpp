@@ -69,6 +69,14 @@ ExitStatus PreviewCommand::run(StandardOutput&)
         return ExitStatus::Fault;
     }
 
+    if (!m_grab.isEmpty()) {
+        // A link is followed: what counts is the file that would be written.
+        const QFileInfo target(m_grab);
+        const QString file = target.exists() ? target.canonicalFilePath() : target.absoluteFilePath();
+        if (!ProjectArgument::isOutside(*project, QFileInfo(file).path()))
+            return ExitStatus::Fault;
+    }
+
     // From here on there is something to tidy up, whatever ends the preview.
     ForegroundProgram display;
     const QTemporaryDir temporary(QDir::temp().filePath(QStringLiteral("meridane-preview-XXXXXX")));
@@ -83,7 +91,7 @@ ExitStatus PreviewCommand::run(StandardOutput&)
     if (Messages::hasError(problems))
         return ExitStatus::Fault;
 
-    QStringList arguments{exported};
+    QStringList arguments{exported, QStringLiteral("--title"), project->name()};
     if (!m_screen.isEmpty())
         arguments << QStringLiteral("--screen") << m_screen;
     if (!m_grab.isEmpty())

@@ -39,6 +39,16 @@ std::unique_ptr<Project> ProjectArgument::open(const QString& folder, QList<Prob
     return std::move(loaded.project);
 }
 
+bool ProjectArgument::isOutside(const Project& project, const QString& folder)
+{
+    if (!ProjectStore::isProjectFolder(&project, folder))
+        return true;
+    Messages::print(LocalizationHelper::coreString(
+                        QStringLiteral("%1: this folder belongs to the project itself. Choose another one."))
+                        .arg(folder));
+    return false;
+}
+
 void ProjectArgument::printMissingScreen(const QString& folder, const QString& id)
 {
     Messages::print(LocalizationHelper::coreString(QStringLiteral("%1: there is no screen \"%2\" in this project"))

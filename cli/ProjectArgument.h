@@ -26,6 +26,8 @@ public:
     /// The same, giving the problems to the caller instead of printing them.
     [[nodiscard]] static std::unique_ptr<Project> open(const QString& folder, QList<Problem>* problems);
 
+    /// Whether results may be written into \a folder; says why not where it is a folder of the project's own files.
+    [[nodiscard]] static bool isOutside(const Project& project, const QString& folder);
     /// Says that the project in \a folder has no screen \a id.
     static void printMissingScreen(const QString& folder, const QString& id);
     /// Reads every screen and prints what is wrong with their files; false when one cannot be read.

@@ -100,6 +100,8 @@ ExitStatus RenderCommand::run(StandardOutput& output)
     std::unique_ptr<Project> opened = ProjectArgument::open(m_project);
     if (!opened)
         return ExitStatus::Fault;
+    if (!ProjectArgument::isOutside(*opened, m_output))
+        return ExitStatus::Fault;
     EditSession session(std::move(opened));
     QVector<Screen*> screens = session.project()->screens();
     if (!m_screen.isEmpty()) {

@@ -25,6 +25,8 @@ QString place(const QString& name, const QByteArray& text, qsizetype count)
     return QStringLiteral("%1:%2:%3").arg(name).arg(before.count('\n') + 1).arg(before.size() - lineStart + 1);
 }
 
+constexpr qint64 LargestFile = 64 * 1024 * 1024;
+
 } // namespace
 
 std::optional<QJsonArray> EditFile::read(const QString& file, QString* message)
@@ -34,7 +36,12 @@ std::optional<QJsonArray> EditFile::read(const QString& file, QString* message)
     QFile source(file);
     const bool opened = isStandardInput ? source.open(STDIN_FILENO, QIODevice::ReadOnly)
                                         : !QFileInfo(file).isDir() && source.open(QIODevice::ReadOnly);
-    const QByteArray text = opened ? source.readAll() : QByteArray();
+    const QByteArray text = opened ? source.read(LargestFile + 1) : QByteArray();
+    if (text.size() > LargestFile) {
+        *message =
+            LocalizationHelper::coreString(QStringLiteral("%1: is larger than 64 MiB; split the edits")).arg(name);
+        return std::nullopt;
+    }
     if (!opened || source.error() != QFileDevice::NoError) {
         const QString reason = QFileInfo(file).isDir()
                                    ? LocalizationHelper::coreString(QStringLiteral("it is a folder"))

@@ -36,7 +36,7 @@ DisplayViewer::DisplayViewer(const ViewerOptions& options)
         m_view.setInitialProperties({{QStringLiteral("currentScreen"), options.screen}});
     }
     m_view.setResizeMode(QQuickView::SizeViewToRootObject);
-    m_view.setTitle(QFileInfo(QDir(m_folder).absolutePath()).fileName());
+    m_view.setTitle(options.title.isEmpty() ? QFileInfo(QDir(m_folder).absolutePath()).fileName() : options.title);
 }
 
 bool DisplayViewer::load()

@@ -15,7 +15,10 @@ ViewerOptions parseViewerOptions(const QStringList& arguments)
                                   QStringLiteral("FILE.png"));
     const QCommandLineOption import(QStringLiteral("import"), QStringLiteral("Look for QML modules in PATH, too."),
                                     QStringLiteral("PATH"));
-    parser.addOptions({help, screen, grab, import});
+    const QCommandLineOption title(QStringLiteral("title"),
+                                   QStringLiteral("Name the window TEXT instead of after the folder."),
+                                   QStringLiteral("TEXT"));
+    parser.addOptions({help, screen, grab, import, title});
     parser.addPositionalArgument(QStringLiteral("FOLDER"), QStringLiteral("The exported folder: it holds Main.qml."));
 
     ViewerOptions options;
@@ -45,6 +48,7 @@ ViewerOptions parseViewerOptions(const QStringList& arguments)
     options.folder = folders.constFirst();
     options.screen = parser.value(screen);
     options.grabFile = parser.value(grab);
+    options.title = parser.value(title);
     options.importPaths = parser.values(import);
     return options;
 }

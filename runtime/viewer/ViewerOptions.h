@@ -25,6 +25,8 @@ struct ViewerOptions
     QString screen;
     /** The picture file to be written instead of showing a window; empty to show one. */
     QString grabFile;
+    /** The title of the window; empty for the folder's name. */
+    QString title;
     /** Further folders in which QML modules are looked for. */
     QStringList importPaths;
 };

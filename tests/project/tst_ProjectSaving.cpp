@@ -2,7 +2,9 @@
 #include "host/core/commands/RenameObject.h"
 #include "host/core/objects/Screen.h"
 #include "host/core/project/Project.h"
+#include "host/core/project/ProjectFolder.h"
 #include "host/core/project/ProjectStore.h"
+#include "host/core/project/SaveTransaction.h"
 #include "host/core/properties/DesignerProperty.h"
 #include "host/core/properties/ObjectListProperty.h"
 #include "tests/project/ProjectTestSupport.h"
@@ -82,6 +84,7 @@ private Q_SLOTS:
     void valuesThatDoNotConvertSurvive();
     void unknownContentSurvives();
     void aChangeByAnotherProgramIsNotOverwritten();
+    void aFileThatWasSavedSinceTheChangeWasPlannedIsNotOverwritten();
     void aScreenThatWasNotChangedHereNeedsNoPeaceWithOthers();
     void anotherProjectIsNotOverwritten();
     void aLostFileIsWrittenAgain();
@@ -340,6 +343,24 @@ void tst_ProjectSaving::aChangeByAnotherProgramIsNotOverwritten()
     QVERIFY(m_project->isModified());
     QVERIFY2(ProjectStore::save(m_project.get(), m_fixture->path("mine"), &m_message), qUtf8Printable(m_message));
     QVERIFY(readFile(m_fixture->path("mine/screens/main.json")).contains("\"number\": \"9\""));
+}
+
+void tst_ProjectSaving::aFileThatWasSavedSinceTheChangeWasPlannedIsNotOverwritten()
+{
+    const ProjectFolder folder(m_fixture->folder());
+    const QByteArray theirs = m_fixture->read("screens/main.json");
+    SaveTransaction late(folder);
+    late.write(QStringLiteral("screens/main.json"), "mine", "what stood there");
+    QVERIFY(!late.commit(&m_message));
+    QVERIFY2(m_message.contains(SaveTransaction::changedElsewhere()), qUtf8Printable(m_message));
+    SaveTransaction unexpected(folder);
+    unexpected.write(QStringLiteral("screens/main.json"), "mine", {});
+    QVERIFY(!unexpected.commit(&m_message));
+    QCOMPARE(m_fixture->read("screens/main.json"), theirs);
+    SaveTransaction timely(folder);
+    timely.write(QStringLiteral("screens/main.json"), "mine", theirs);
+    QVERIFY2(timely.commit(&m_message), qUtf8Printable(m_message));
+    QCOMPARE(m_fixture->read("screens/main.json"), QByteArray("mine"));
 }
 
 void tst_ProjectSaving::aScreenThatWasNotChangedHereNeedsNoPeaceWithOthers()

@@ -181,9 +181,18 @@ void CanvasView::showSelection()
     updateHandles();
 }
 
-/// Repaints what is drawn on top of the items where it was and where it is.
+/// Asks for repaintHandles() once the scene has taken note of the items that moved. A paint that came in between would
+/// make it forget where they stood, and their old pictures would stay.
 void CanvasView::updateHandles()
 {
+    if (!std::exchange(m_handlesPending, true))
+        QMetaObject::invokeMethod(this, &CanvasView::repaintHandles, Qt::QueuedConnection);
+}
+
+/// Repaints what is drawn on top of the items where it was and where it is.
+void CanvasView::repaintHandles()
+{
+    m_handlesPending = false;
     QRegion now = SelectionHandles(this).region();
     if (m_gesture)
         now += m_gesture->paintedRect();

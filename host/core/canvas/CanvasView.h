@@ -98,6 +98,7 @@ private:
     void leaveHandle();
     void updateCursor(const HandleHit* hit);
     void updateHandles();
+    void repaintHandles();
     [[nodiscard]] bool acceptsDrop(const QDropEvent* event) const;
 
     EditSession* m_session;
@@ -106,6 +107,7 @@ private:
     std::unique_ptr<CanvasKeys> m_keys;
     QPointer<DesignerObject> m_hovered; // whose handle is under the mouse
     QRegion m_paintedHandles; // where handles and the gesture's own marks stand on the viewport
+    bool m_handlesPending = false;
     QPointF m_lastViewPos;
     Qt::MouseButton m_gestureButton = Qt::NoButton;
     bool m_spaceHeld = false;

@@ -11,6 +11,7 @@
 #include "host/core/values/ValueConversion.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 namespace Korvex::Meridane::Designer {
 
@@ -48,6 +49,22 @@ ProjectStore::Loaded ProjectStore::load(const QString& folder)
     if (loaded.project)
         loaded.problems.append(UnknownContent::find(loaded.project.get()));
     return loaded;
+}
+
+bool ProjectStore::isProjectFolder(const Project* project, const QString& folder)
+{
+    if (project->folder().isEmpty())
+        return false;
+    const QDir own(project->folder());
+    const QFileInfo target(folder);
+    for (const char* subfolder : {".", "screens", "images", "fonts"}) {
+        // A folder that does not exist yet has a plain path only.
+        const QFileInfo owned(QDir::cleanPath(own.absoluteFilePath(QLatin1String(subfolder))));
+        if (QDir::cleanPath(target.absoluteFilePath()) == owned.filePath()
+            || (target.exists() && target.canonicalFilePath() == owned.canonicalFilePath()))
+            return true;
+    }
+    return false;
 }
 
 QList<Problem> ProjectStore::readAllScreens(Project* project)

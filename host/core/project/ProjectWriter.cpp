@@ -200,13 +200,8 @@ bool ProjectWriter::planFile(const QString& file, const QByteArray& content, con
         // A screen that was not changed here stays as its file stands, whoever wrote that.
         if (screen && meansTheSame(known, screen, content))
             return true;
-        if (known != present) {
-            return refuse(m_target, file,
-                          LocalizationHelper::coreString(QStringLiteral(
-                              "The file was changed by another program after it had been opened here. Save into "
-                              "another folder to keep both versions.")),
-                          message);
-        }
+        if (known != present)
+            return refuse(m_target, file, SaveTransaction::changedElsewhere(), message);
     }
     if (screen && QJsonDocument::fromJson(content).isNull()) {
         return refuse(m_target, file,
@@ -216,7 +211,7 @@ bool ProjectWriter::planFile(const QString& file, const QByteArray& content, con
     }
     m_contents.insert(file, content);
     m_writtenFiles.insert(file);
-    m_transaction.write(file, content);
+    m_transaction.write(file, content, present);
     return true;
 }
 

@@ -43,14 +43,21 @@ SaveTransaction::SaveTransaction(const ProjectFolder& folder)
     : m_folder(folder)
 {}
 
-void SaveTransaction::write(const QString& file, const QByteArray& content)
+void SaveTransaction::write(const QString& file, const QByteArray& content, const QByteArray& expected)
 {
-    m_writes.append({file, content, {}, false});
+    m_writes.append({file, content, expected, {}, false});
 }
 
 void SaveTransaction::remove(const QString& file, const QByteArray& fingerprint)
 {
     m_removals.append({file, fingerprint});
+}
+
+QString SaveTransaction::changedElsewhere()
+{
+    return LocalizationHelper::coreString(QStringLiteral(
+        "The file was changed by another program after it had been opened here. Save into another folder "
+        "to keep both versions."));
 }
 
 bool SaveTransaction::commit(QString* message)
@@ -97,6 +104,9 @@ bool SaveTransaction::inspectTargets(QString* message)
         if (found == ProjectFolder::Found::Refused)
             return refuse(path, reason, message);
         write.exists = found == ProjectFolder::Found::File;
+        // Asked again now that the folder is locked: another program may have saved since the change was planned.
+        if (write.exists == write.expected.isNull() || (write.exists && write.before != write.expected))
+            return refuse(path, changedElsewhere(), message);
         if (write.exists && QFileInfo(path).isSymLink()) {
             return refuse(path, LocalizationHelper::coreString(QStringLiteral("This symbolic link is not replaced.")),
                           message);

@@ -24,10 +24,13 @@ class MERIDANE_CORE_EXPORT SaveTransaction
 public:
     explicit SaveTransaction(const ProjectFolder& folder);
 
-    /// \a file (relative) is to hold \a content.
-    void write(const QString& file, const QByteArray& content);
+    /// \a file (relative) is to hold \a content in place of \a expected, which is null where there is no file yet. A file
+    /// that another program has written meanwhile refuses the change.
+    void write(const QString& file, const QByteArray& content, const QByteArray& expected);
     /// \a file is to go, if it then still holds what \a fingerprint was made of.
     void remove(const QString& file, const QByteArray& fingerprint);
+    /// What the user is told where another program has written a file.
+    [[nodiscard]] static QString changedElsewhere();
     [[nodiscard]] bool isEmpty() const { return m_writes.isEmpty() && m_removals.isEmpty(); }
 
     /// Makes the change. False with a message that names file and reason; everything is then as it was before, folders
@@ -43,6 +46,7 @@ private:
     {
         QString file;
         QByteArray content;
+        QByteArray expected; // what stood there when the change was planned; null for no file
         QByteArray before; // what stands there now
         bool exists = false;
     };
