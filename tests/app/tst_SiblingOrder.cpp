@@ -91,7 +91,7 @@ private Q_SLOTS:
             RC_ASSERT(places.size() == chosen.size());
             for (qsizetype i = 0; i < places.size(); ++i) {
                 RC_ASSERT(places.at(i) >= 0 && places.at(i) < count);
-                RC_ASSERT(i == 0 || places.at(i) > places.at(i - 1));
+                RC_ASSERT((i == 0 || places.at(i) > places.at(i - 1)));
             }
         });
         QVERIFY(holds);
