@@ -1,5 +1,9 @@
 #include "plugin/VisualElements.h"
 
+#include "shapes/Ellipse.h"
+#include "shapes/GraphicsEllipse.h"
+#include "shapes/GraphicsPolygon.h"
+#include "shapes/Polygon.h"
 #include "shapes/Rectangle.h"
 
 namespace Korvex::Meridane::Designer {
@@ -13,12 +17,12 @@ VisualElements::~VisualElements() = default;
 
 QStringList VisualElements::dataObjectClassNames() const
 {
-    return {QStringLiteral("Rectangle")};
+    return {QStringLiteral("Rectangle"), QStringLiteral("Ellipse"), QStringLiteral("Polygon")};
 }
 
 QStringList VisualElements::graphicsItemClassNames() const
 {
-    return {};
+    return {QStringLiteral("GraphicsEllipse"), QStringLiteral("GraphicsPolygon")};
 }
 
 QStringList VisualElements::propertyEditorClassNames() const
@@ -40,11 +44,19 @@ DesignerObject* VisualElements::createDataObject(const QString& className, QObje
 {
     if (className == QLatin1String("Rectangle"))
         return new Rectangle(parent);
+    if (className == QLatin1String("Ellipse"))
+        return new Ellipse(parent);
+    if (className == QLatin1String("Polygon"))
+        return new Polygon(parent);
     return nullptr;
 }
 
-GraphicsItem* VisualElements::createGraphicsItem(const QString&, DesignerObject*)
+GraphicsItem* VisualElements::createGraphicsItem(const QString& className, DesignerObject* dataObject)
 {
+    if (className == QLatin1String("GraphicsEllipse"))
+        return new GraphicsEllipse(dataObject);
+    if (className == QLatin1String("GraphicsPolygon"))
+        return new GraphicsPolygon(dataObject);
     return nullptr;
 }
 

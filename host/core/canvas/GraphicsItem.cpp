@@ -368,19 +368,23 @@ GraphicsItem* GraphicsItem::fromGraphic(QGraphicsItem* graphic)
 
 GraphicsItem::FrameChange GraphicsItem::frameChange(int handle, const QSizeF& outerSize) const
 {
-    const QPointF position = m_graphic->pos();
-    const QRectF frame = outerRect().translated(position);
     const double ratio = keptRatio();
     QSizeF size = sizeKeepingRatio(handle, outerSize, ratio, minSize());
     if (ratio > 0)
         size = withoutNoise(size);
-    const QRectF kept = resizedFrame(cornerKeptBy(handle), frame, size);
+    return {size, positionKeepingOpposite(handle, size)};
+}
+
+QPointF GraphicsItem::positionKeepingOpposite(int handle, const QSizeF& outerSize) const
+{
+    const QPointF position = m_graphic->pos();
+    const QRectF frame = outerRect().translated(position);
+    const QRectF kept = resizedFrame(cornerKeptBy(handle), frame, outerSize);
     // Where nothing moves the position keeps its very value.
     const auto moved = [](double coordinate, double distance) {
         return distance == 0 ? coordinate : withoutNoise(coordinate + distance);
     };
-    return {size,
-            QPointF(moved(position.x(), kept.left() - frame.left()), moved(position.y(), kept.top() - frame.top()))};
+    return {moved(position.x(), kept.left() - frame.left()), moved(position.y(), kept.top() - frame.top())};
 }
 
 void GraphicsItem::updateTransformOrigin()

@@ -1,5 +1,11 @@
 #include "host/core/objects/BoundingSizeReaction.h"
 
+#include "host/core/objects/DesignerObject.h"
+#include "host/core/properties/DesignerProperty.h"
+#include "host/core/values/ValueConversion.h"
+
+#include <QDebug>
+
 #include <algorithm>
 #include <cmath>
 
@@ -50,6 +56,23 @@ std::optional<QSizeF> reactToBoundingSize(const QSizeF& before, const QSizeF& wa
     if (heightChanged)
         return keep ? widthFollows(height, ratio, smallest) : QSizeF(width, height);
     return std::nullopt;
+}
+
+void followBoundingSize(DesignerObject* element, const DesignerProperty* boundingSize, const QString& oldValue,
+                        double border, double smallest)
+{
+    const auto keepRatio = element->getProperty(QStringLiteral("keepRatio"));
+    bool ratioOk = false;
+    const double ratio = keepRatio ? ValueConversion::toReal(keepRatio->valueString(), &ratioOk) : 0;
+    const auto outer =
+        reactToBoundingSize(ValueConversion::toSize(oldValue), ValueConversion::toSize(boundingSize->valueString()),
+                            smallest, ratioOk ? ratio : 0);
+    if (!outer) {
+        qDebug("Should not reach here");
+        return;
+    }
+    element->changePropertyValue(element->getProperty(QStringLiteral("size")),
+                                 ValueConversion::toString(*outer - QSizeF(border, border)));
 }
 
 } // namespace Korvex::Meridane::Designer

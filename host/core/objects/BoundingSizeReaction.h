@@ -3,10 +3,14 @@
 #include "host/core/CoreExport.h"
 
 #include <QSizeF>
+#include <QString>
 
 #include <optional>
 
 namespace Korvex::Meridane::Designer {
+
+class DesignerObject;
+class DesignerProperty;
 
 /**
  * The outer size that an element takes on when its outer size is changed from \a before to \a wanted, in pixels.
@@ -18,5 +22,13 @@ namespace Korvex::Meridane::Designer {
  */
 [[nodiscard]] MERIDANE_CORE_EXPORT std::optional<QSizeF> reactToBoundingSize(const QSizeF& before, const QSizeF& wanted,
                                                                              double smallest, double ratio);
+
+/**
+ * Lets the "size" of \a element follow its new \a boundingSize, which was \a oldValue before: the outer size that
+ * reactToBoundingSize() finds with the element's "keepRatio", less \a border pixels in each direction. Changes nothing,
+ * with a line in the debug output, when neither dimension changed.
+ */
+MERIDANE_CORE_EXPORT void followBoundingSize(DesignerObject* element, const DesignerProperty* boundingSize,
+                                             const QString& oldValue, double border, double smallest);
 
 } // namespace Korvex::Meridane::Designer

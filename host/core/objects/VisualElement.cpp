@@ -1,11 +1,15 @@
 #include "host/core/objects/VisualElement.h"
 
+#include "host/core/canvas/GraphicsItem.h"
+#include "host/core/plugins/DesignerFactory.h"
 #include "host/core/properties/PointProperty.h"
 #include "host/core/properties/PropertyDeclaration.h"
 #include "host/core/properties/RotationProperty.h"
 #include "host/core/properties/RuntimeProperty.h"
 
 #include "host/common/LocalizationHelper.h"
+
+#include <QGraphicsItem>
 
 namespace Korvex::Meridane::Designer {
 
@@ -64,6 +68,28 @@ QList<RuntimeProperty> VisualElement::runtimeProperties() const
 QRectF VisualElement::getBoundingRect() const
 {
     return {};
+}
+
+bool VisualElement::declareIdentity(const QString& className, const QString& base)
+{
+    IdentifierInfo info;
+    info.setScopeType(QStringLiteral("Screen"));
+    info.setFilterType(className);
+    info.setBase(base);
+    info.setName(base);
+    return setIdInfo(info);
+}
+
+GraphicsItem* VisualElement::createEditableItem(const QString& itemClass, bool rotatable)
+{
+    GraphicsItem* item = DesignerFactory::instance()->createGraphicsItem(itemClass, this);
+    if (!item)
+        return nullptr;
+    item->graphic()->setFlag(QGraphicsItem::ItemIsSelectable, true);
+    item->graphic()->setFlag(QGraphicsItem::ItemIsMovable, true);
+    item->setResizable(true);
+    item->setRotatable(rotatable);
+    return item;
 }
 
 } // namespace Korvex::Meridane::Designer

@@ -31,6 +31,14 @@ public:
     /// Angle and fixed point; rank 2.
     [[nodiscard]] const QSharedPointer<DesignerProperty>& rotation() const { return m_rotation; }
 
+protected:
+    /// Takes ids of the form \a base1, unique in the screen; links find the element by its class name. False when the
+    /// information is refused.
+    bool declareIdentity(const QString& className, const QString& base);
+    /// An item of \a itemClass for this element that can be selected, moved and resized and, unless \a rotatable is
+    /// false, turned; null when no plug-in makes one. The caller owns it.
+    [[nodiscard]] GraphicsItem* createEditableItem(const QString& itemClass, bool rotatable = true);
+
 private:
     QSharedPointer<DesignerProperty> m_position;
     QSharedPointer<DesignerProperty> m_rotation;
