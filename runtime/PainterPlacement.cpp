@@ -22,6 +22,12 @@ bool keepsShapes(const QTransform& transform)
            && std::abs(transform.m12() + transform.m21()) <= tolerance;
 }
 
+bool isFinite(const QRectF& rect)
+{
+    return std::isfinite(rect.left()) && std::isfinite(rect.top()) && std::isfinite(rect.right())
+           && std::isfinite(rect.bottom());
+}
+
 QRectF roundedOut(const QRectF& rect, int margin)
 {
     const double left = std::floor(rect.left() + EdgeTolerance) - margin;
@@ -36,7 +42,10 @@ PainterPlacement placePainter(const QRectF& outer, const QTransform& itemToScene
                               const QSizeF& window)
 {
     PainterPlacement placement;
-    if (outer.isEmpty()) {
+    const QTransform toPixels = itemToScene * QTransform::fromScale(pixelRatio, pixelRatio);
+    const QRectF onScreen = toPixels.mapRect(outer);
+    // What has no end, or stands nowhere, cannot be covered by pixels.
+    if (outer.isEmpty() || !isFinite(onScreen)) {
         return placement;
     }
     if (!keepsShapes(itemToScene)) {
@@ -47,9 +56,8 @@ PainterPlacement placePainter(const QRectF& outer, const QTransform& itemToScene
         placement.turnedToScene = false;
         return placement;
     }
-    const QTransform toPixels = itemToScene * QTransform::fromScale(pixelRatio, pixelRatio);
     // The antialiasing of a slanted edge may reach into the next pixel.
-    QRectF pixels = roundedOut(toPixels.mapRect(outer), itemToScene.type() > QTransform::TxTranslate ? 1 : 0);
+    QRectF pixels = roundedOut(onScreen, itemToScene.type() > QTransform::TxTranslate ? 1 : 0);
     const QSizeF windowPixels = window * pixelRatio;
     if (pixels.width() > LargestUncutWindows * windowPixels.width()
         || pixels.height() > LargestUncutWindows * windowPixels.height()) {

@@ -33,7 +33,7 @@ struct PainterPlacement
  * outline much larger than the window only what the window can show is covered. An item whose transformation is more
  * than moving, turning and even scaling is covered in its own coordinates instead.
  *
- * @param outer the rectangle that the item paints into, in its coordinates; an empty one gives an empty size
+ * @param outer the rectangle that the item paints into, in its coordinates; an empty or infinite one gives an empty size
  * @param itemToScene the transformation from the item to the scene
  * @param pixelRatio pixels of the screen per unit of the scene
  * @param window the size of the window, in units of the scene

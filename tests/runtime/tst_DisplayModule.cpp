@@ -53,6 +53,30 @@ Screen {
 			borderColor: "#80000000"
 		}
 	}
+
+	Ellipse {
+		id: ellipse1
+		x: 150.25
+		y: 20
+		rotation: -12.5
+		fixedPoint: "BottomRight"
+		width: 60.5
+		height: 40
+		color: "#80f8971d"
+		borderWidth: 3
+		borderColor: "#ffffff"
+	}
+
+	Polygon {
+		id: polygon1
+		x: 300
+		y: 20
+		edges: 8
+		edgeLength: 24.5
+		color: "#f8971d"
+		borderWidth: 1
+		borderColor: "#000000"
+	}
 }
 )";
 } // namespace
@@ -64,6 +88,7 @@ class TestDisplayModule : public QObject
 private Q_SLOTS:
     void needsNoWidgets();
     void typesAreKnownToQmllint();
+    void qmllintFindsMistakes_data();
     void qmllintFindsMistakes();
     void importBringsNothingElse();
     void baseTypesCannotBeCreated();
@@ -113,14 +138,26 @@ void TestDisplayModule::typesAreKnownToQmllint()
     QVERIFY2(exitCode == 0 && main.isEmpty(), qPrintable(main));
 }
 
+void TestDisplayModule::qmllintFindsMistakes_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    // Properties of each type, of its bases and of the library below.
+    for (const char* name : {"cornerRadius", "edgeLength", "borderColor", "fixedPoint", "rotation"}) {
+        QTest::newRow(name) << QByteArray(name);
+    }
+}
+
 void TestDisplayModule::qmllintFindsMistakes()
 {
     if (QByteArrayLiteral(MERIDANE_QMLLINT).isEmpty()) {
         QSKIP("qmllint is not at hand");
     }
+    QFETCH(QByteArray, name);
+    QVERIFY(Sample.contains(name + ':'));
+    const QByteArray mistake = name + 'X';
     int exitCode = -1;
-    const QString output = lint(QByteArray(Sample).replace("cornerRadius", "cornerRadios"), &exitCode);
-    QVERIFY(output.contains(QLatin1String("cornerRadios")));
+    const QString output = lint(QByteArray(Sample).replace(name + ':', mistake + ':'), &exitCode);
+    QVERIFY2(output.contains(QString::fromLatin1(mistake)), qPrintable(output));
 }
 
 void TestDisplayModule::importBringsNothingElse()
@@ -139,7 +176,7 @@ void TestDisplayModule::baseTypesCannotBeCreated()
 {
     QQmlEngine engine;
     engine.addImportPath(importPath());
-    for (const char* type : {"DisplayItem", "DisplayElement", "OutlinePainter"}) {
+    for (const char* type : {"BorderedItem", "DisplayItem", "DisplayElement", "OutlinePainter"}) {
         QQmlComponent component(&engine);
         component.setData(QByteArray("import Meridane.Display\n") + type + " { }\n", QUrl());
         QVERIFY(component.isError());

@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include <cmath>
+#include <limits>
 
 #include <rapidcheck.h>
 
@@ -39,6 +40,8 @@ private Q_SLOTS:
     void skewedItemsAreCoveredInTheirOwnCoordinates();
     void hugeOutlinesAreCutDownToTheWindow();
     void emptyOutlineHasNoSize();
+    void infiniteOutlineHasNoSize();
+    void outlineAtNoFinitePlaceHasNoSize();
 };
 
 void TestPainterPlacement::wholePositionsAreCoveredExactly()
@@ -123,6 +126,23 @@ void TestPainterPlacement::hugeOutlinesAreCutDownToTheWindow()
 void TestPainterPlacement::emptyOutlineHasNoSize()
 {
     QVERIFY(placePainter(QRectF(), QTransform(), 1, Window).size.isEmpty());
+}
+
+void TestPainterPlacement::infiniteOutlineHasNoSize()
+{
+    const double infinity = std::numeric_limits<double>::infinity();
+    for (const QTransform& transform : {QTransform(), QTransform().rotate(30), QTransform::fromScale(2, 1)}) {
+        for (const QRectF& outer : {QRectF(0, 0, infinity, 40), QRectF(0, 0, 40, infinity),
+                                    QRectF(0, 0, 40, std::nan("")), QRectF(-infinity, 0, infinity, 40)}) {
+            QVERIFY(placePainter(outer, transform, 1, Window).size.isEmpty());
+        }
+    }
+}
+
+void TestPainterPlacement::outlineAtNoFinitePlaceHasNoSize()
+{
+    const QTransform nowhere = QTransform::fromTranslate(std::numeric_limits<double>::infinity(), 0);
+    QVERIFY(placePainter(QRectF(0, 0, 40, 30), nowhere, 1, Window).size.isEmpty());
 }
 
 QTEST_APPLESS_MAIN(TestPainterPlacement)
