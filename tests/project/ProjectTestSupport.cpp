@@ -60,7 +60,8 @@ bool AllTypesElement::initializeProperties()
         return message.isEmpty();
     };
     declare(PropertyDeclaration<SizeProperty>(this, QLatin1String("size"), label("Size"), QSizeF(20, 10))
-                .flags(Stored | Exported));
+                .flags(Stored | Exported)
+                .parameters({{QStringLiteral("minimumValue"), QSizeF(1, 1)}}));
     declare(PropertyDeclaration<SizeProperty>(this, QLatin1String("boundingSize"), label("Size"), QSizeF(20, 10))
                 .flags(Shown | Editable));
     declare(PropertyDeclaration<RealProperty>(this, QLatin1String("keepRatio"), label("Ratio"), 0.0)
@@ -70,8 +71,13 @@ bool AllTypesElement::initializeProperties()
         PropertyDeclaration<BorderProperty>(this, QLatin1String("border"), label("Border"), BorderInfo(0, Qt::black)));
     declare(
         PropertyDeclaration<IntegerProperty>(this, QLatin1String("number"), label("Number"), 1).validator(notAbove100));
-    declare(PropertyDeclaration<RealProperty>(this, QLatin1String("real"), label("Real"), 1.5));
-    declare(PropertyDeclaration<StringProperty>(this, QLatin1String("text"), label("Text"), QString()));
+    declare(PropertyDeclaration<RealProperty>(this, QLatin1String("real"), label("Real"), 1.5)
+                .parameters({{QStringLiteral("minimum"), 0}, {QStringLiteral("maximum"), 359.99}}));
+    const auto longText = [](const DesignerProperty* property) {
+        return property->valueString().size() > 40 ? QStringLiteral("Is the text not too long?") : QString();
+    };
+    declare(PropertyDeclaration<StringProperty>(this, QLatin1String("text"), label("Text"), QString())
+                .advisor(longText));
     declare(PropertyDeclaration<FontProperty>(this, QLatin1String("font"), label("Font"), font));
     declare(PropertyDeclaration<PointProperty>(this, QLatin1String("point"), label("Point"), QPointF(0, 0))
                 .flags(Stored | Shown));

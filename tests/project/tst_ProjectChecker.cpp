@@ -66,6 +66,14 @@ void tst_ProjectChecker::everyKindOfFaultIsFound_data()
         "error: screens/main.json: main/a.keepRatio: \"x\" is not a valid value");
     row("value that a validator refuses", with(R"("number": "101")"),
         "error: screens/main.json: main/a.number: The number must not be above 100.");
+    row("number below what can be entered", with(R"("real": "-0.5")"),
+        "warning: screens/main.json: main/a.real: -0.5 is below 0, the smallest value that can be entered.");
+    row("number above what can be entered", with(R"("real": "360")"),
+        "warning: screens/main.json: main/a.real: 360 is above 359.99, the largest value that can be entered.");
+    row("size below what can be entered", with(R"("size": "20,0.5")"),
+        "warning: screens/main.json: main/a.size: 20,0.5 is smaller than 1,1, the smallest size");
+    row("value that is unusual", with(R"("text": "0123456789012345678901234567890123456789!")"),
+        "warning: screens/main.json: main/a.text: Is the text not too long?");
     row("link to nothing", with(R"("target": "nobody")"),
         "error: screens/main.json: main/a.target: \"nobody\" does not exist");
     row("link to an object of another class", with(R"("target": "box")"),

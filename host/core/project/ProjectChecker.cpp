@@ -2,6 +2,7 @@
 
 #include "host/core/objects/Screen.h"
 #include "host/core/objects/VisualElement.h"
+#include "host/core/project/EditorRange.h"
 #include "host/core/project/ElementPlacement.h"
 #include "host/core/project/ImageReferences.h"
 #include "host/core/project/ObjectTree.h"
@@ -137,6 +138,10 @@ void ProjectChecker::checkProperty(const DesignerProperty& property)
         || !property.validateListItems(message)) {
         report(Problem::Severity::Error, property, message);
         return;
+    }
+    for (const QString& advice : {property.advice(), editorRangeAdvice(property)}) {
+        if (!advice.isEmpty())
+            report(Problem::Severity::Warning, property, advice);
     }
     checkFont(property);
     checkImageFile(property);

@@ -15,7 +15,8 @@ class Screen;
  * screen, missing fonts and images, unknown classes and keys, unreadable screens.
  *
  * Errors are what cannot be shown or exported as it was meant; warnings what can, but looks like an oversight: unknown
- * keys, elements off their screen, fonts that the machine at hand lacks, listed files that are missing.
+ * keys, elements off their screen, fonts that the machine at hand lacks, listed files that are missing, values beyond what
+ * an editor takes, and what a property's advisor says.
  */
 class MERIDANE_CORE_EXPORT ProjectChecker
 {

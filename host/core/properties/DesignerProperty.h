@@ -25,6 +25,8 @@ public:
     /// Refuses a value by returning false and filling the message, which is shown to the user as it stands.
     /// It sees the candidate through the property's valueString().
     using Validator = bool (*)(const DesignerProperty* property, QString& message);
+    /// Says what is unusual about a value that is accepted all the same, and what to do; empty where nothing is.
+    using Advisor = QString (*)(const DesignerProperty* property);
     /// Replaces the property's QML line; an empty result writes nothing. \a indent counts tabs.
     using QmlCreator = QString (*)(const DesignerProperty* property, int indent);
 
@@ -91,6 +93,10 @@ public:
 
     void setValidator(Validator validator) { m_validator = validator; }
     [[nodiscard]] bool hasValidator() const { return m_validator != nullptr; }
+    void setAdvisor(Advisor advisor) { m_advisor = advisor; }
+    /// What the advisor says of the present value, for a check of the project; empty without one and while the value
+    /// does not convert.
+    [[nodiscard]] QString advice() const { return m_advisor && isConverted() ? m_advisor(this) : QString(); }
     void setQmlCreator(QmlCreator creator) { m_qmlCreator = creator; }
     [[nodiscard]] bool hasQmlCreator() const { return m_qmlCreator != nullptr; }
 
@@ -113,6 +119,7 @@ private:
     QMap<QString, QVariant> m_editorParameters;
     PropertyEditor* m_editorWidget = nullptr;
     Validator m_validator = nullptr;
+    Advisor m_advisor = nullptr;
     QmlCreator m_qmlCreator = nullptr;
     int m_rank = 0;
     PropertyFlags m_flags = PropertyFlags(Stored | Exported | Shown | Editable);

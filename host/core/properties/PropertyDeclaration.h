@@ -61,6 +61,11 @@ public:
         m_property->setValidator(validator);
         return std::move(*this);
     }
+    PropertyDeclaration&& advisor(DesignerProperty::Advisor advisor) &&
+    {
+        m_property->setAdvisor(advisor);
+        return std::move(*this);
+    }
     PropertyDeclaration&& qmlCreator(DesignerProperty::QmlCreator creator) &&
     {
         m_property->setQmlCreator(creator);
