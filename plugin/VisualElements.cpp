@@ -1,5 +1,10 @@
 #include "plugin/VisualElements.h"
 
+#include "lines/FocusRealEditor.h"
+#include "lines/GraphicsIrregularPolygon.h"
+#include "lines/GraphicsLine.h"
+#include "lines/IrregularPolygon.h"
+#include "lines/Line.h"
 #include "shapes/Ellipse.h"
 #include "shapes/GraphicsEllipse.h"
 #include "shapes/GraphicsPolygon.h"
@@ -17,17 +22,19 @@ VisualElements::~VisualElements() = default;
 
 QStringList VisualElements::dataObjectClassNames() const
 {
-    return {QStringLiteral("Rectangle"), QStringLiteral("Ellipse"), QStringLiteral("Polygon")};
+    return {QStringLiteral("Rectangle"), QStringLiteral("Ellipse"), QStringLiteral("Line"), QStringLiteral("Polygon"),
+            QStringLiteral("IrregularPolygon")};
 }
 
 QStringList VisualElements::graphicsItemClassNames() const
 {
-    return {QStringLiteral("GraphicsEllipse"), QStringLiteral("GraphicsPolygon")};
+    return {QStringLiteral("GraphicsEllipse"), QStringLiteral("GraphicsLine"), QStringLiteral("GraphicsPolygon"),
+            QStringLiteral("GraphicsIrregularPolygon")};
 }
 
 QStringList VisualElements::propertyEditorClassNames() const
 {
-    return {};
+    return {QStringLiteral("FocusRealEditor")};
 }
 
 QStringList VisualElements::propertyClassNames() const
@@ -46,8 +53,12 @@ DesignerObject* VisualElements::createDataObject(const QString& className, QObje
         return new Rectangle(parent);
     if (className == QLatin1String("Ellipse"))
         return new Ellipse(parent);
+    if (className == QLatin1String("Line"))
+        return new Line(parent);
     if (className == QLatin1String("Polygon"))
         return new Polygon(parent);
+    if (className == QLatin1String("IrregularPolygon"))
+        return new IrregularPolygon(parent);
     return nullptr;
 }
 
@@ -55,13 +66,19 @@ GraphicsItem* VisualElements::createGraphicsItem(const QString& className, Desig
 {
     if (className == QLatin1String("GraphicsEllipse"))
         return new GraphicsEllipse(dataObject);
+    if (className == QLatin1String("GraphicsLine"))
+        return new GraphicsLine(dataObject);
     if (className == QLatin1String("GraphicsPolygon"))
         return new GraphicsPolygon(dataObject);
+    if (className == QLatin1String("GraphicsIrregularPolygon"))
+        return new GraphicsIrregularPolygon(dataObject);
     return nullptr;
 }
 
-PropertyEditor* VisualElements::createPropertyEditor(const QString&, QWidget*)
+PropertyEditor* VisualElements::createPropertyEditor(const QString& className, QWidget* parent)
 {
+    if (className == QLatin1String("FocusRealEditor"))
+        return new FocusRealEditor(parent);
     return nullptr;
 }
 

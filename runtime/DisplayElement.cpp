@@ -12,13 +12,11 @@ static_assert(static_cast<int>(QQuickItem::BottomRight) == Common::BottomRight);
 
 DisplayElement::DisplayElement(QQuickItem* parent)
     : QQuickItem(parent)
-{
-    connect(this, &QQuickItem::transformOriginChanged, this, &DisplayElement::fixedPointChanged);
-}
+{}
 
 QString DisplayElement::fixedPoint() const
 {
-    return Common::transformOriginName(static_cast<Common::TransformOrigin>(transformOrigin()));
+    return Common::transformOriginName(m_fixedOrigin);
 }
 
 void DisplayElement::setFixedPoint(const QString& name)
@@ -29,6 +27,16 @@ void DisplayElement::setFixedPoint(const QString& name)
         qmlWarning(this) << "fixedPoint: there is no point \"" << name << '"';
         return;
     }
-    setTransformOrigin(static_cast<TransformOrigin>(origin));
+    if (origin == m_fixedOrigin) {
+        return;
+    }
+    m_fixedOrigin = origin;
+    applyFixedPoint();
+    Q_EMIT fixedPointChanged();
+}
+
+void DisplayElement::applyFixedPoint()
+{
+    setTransformOrigin(static_cast<TransformOrigin>(m_fixedOrigin));
 }
 } // namespace Korvex::Meridane::Display

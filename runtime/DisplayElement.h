@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/common/TransformOrigin.h"
+
 #include <QtQml/qqmlregistration.h>
 #include <QtQuick/QQuickItem>
 
@@ -23,5 +25,13 @@ public:
 
 Q_SIGNALS:
     void fixedPointChanged();
+
+protected:
+    [[nodiscard]] Common::TransformOrigin fixedOrigin() const { return m_fixedOrigin; }
+    /** Makes the item turn about fixedOrigin(): of its own rectangle, unless overridden. */
+    virtual void applyFixedPoint();
+
+private:
+    Common::TransformOrigin m_fixedOrigin = Common::Center;
 };
 } // namespace Korvex::Meridane::Display

@@ -66,7 +66,7 @@ void Ellipse::afterPropertyChanged(const DesignerProperty* property, const QStri
     if (!item || item->isChangingSize())
         return;
     // A thick border would close over the content of a smaller ellipse.
-    const int border = ValueConversion::toBorderInfo(m_border->valueString()).width();
+    const double border = ValueConversion::toBorderInfo(m_border->valueString()).width();
     followBoundingSize(this, property, oldValue, border, border > 1 ? 2 * border : border + 1);
 }
 

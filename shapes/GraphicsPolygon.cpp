@@ -30,16 +30,16 @@ QRectF GraphicsPolygon::boundingRect() const
 QPainterPath GraphicsPolygon::shape() const
 {
     QPainterPath path;
-    const QRectF content = contentRect();
     const QRectF outer = outerRect();
-    if (content.isEmpty())
+    if (outer.isEmpty())
         return path;
-    path.addPolygon(Common::regularPolygon(m_edges, m_edgeLength));
+    path.addPolygon(Common::regularPolygon(m_edges, 1));
     path.closeSubpath();
-    // The mitred outer edge of the border is the outline enlarged.
-    QTransform enlarged = QTransform::fromTranslate(outer.x(), outer.y());
-    enlarged.scale(outer.width() / content.width(), outer.height() / content.height());
-    return enlarged.map(path);
+    // The mitred outer edge of the border has the outline's form.
+    const QSizeF unit = Common::regularPolygonSize(m_edges, 1);
+    QTransform toFrame = QTransform::fromTranslate(outer.x(), outer.y());
+    toFrame.scale(outer.width() / unit.width(), outer.height() / unit.height());
+    return toFrame.map(path);
 }
 
 void GraphicsPolygon::paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget*)
@@ -100,8 +100,8 @@ void GraphicsPolygon::resizeGraphicsItem(int handle, const QSizeF& outerSize, co
     const double length = Common::handleChangesWidth(handle) ? edgeLengthFromWidth(outerSize.width())
                                                              : edgeLengthFromHeight(outerSize.height());
     const double possible = std::clamp(length, ShortestEdge, LongestEdge);
-    const QSizeF size = PaintHelper::getPolygonBoundingRect(m_edges, possible, m_style.penWidth()).size();
-    setItemPosition(positionKeepingOpposite(handle, size));
+    setItemPosition(positionKeepingOpposite(
+        handle, PaintHelper::getPolygonBoundingRect(m_edges, possible, m_style.penWidth())));
     setGeometry(m_edges, possible);
 }
 

@@ -117,15 +117,10 @@ QList<RuntimeProperty> Polygon::runtimeProperties() const
 
 QRectF Polygon::getBoundingRect() const
 {
-    bool edgesOk = false;
-    bool lengthOk = false;
-    bool borderOk = false;
-    const int edges = ValueConversion::toInt(m_edges->valueString(), &edgesOk);
-    const double length = ValueConversion::toReal(m_edgeLength->valueString(), &lengthOk);
-    const BorderInfo border = ValueConversion::toBorderInfo(m_border->valueString(), &borderOk);
-    if (!edgesOk || !lengthOk || !borderOk)
-        return {};
-    return PaintHelper::getPolygonBoundingRect(edges, length, border.width());
+    // What does not convert counts as 0: no polygon, or no border.
+    return PaintHelper::getPolygonBoundingRect(ValueConversion::toInt(m_edges->valueString()),
+                                               ValueConversion::toReal(m_edgeLength->valueString()),
+                                               ValueConversion::toBorderInfo(m_border->valueString()).width());
 }
 
 } // namespace Korvex::Meridane::Designer

@@ -124,7 +124,7 @@ void Rectangle::afterPropertyChanged(const DesignerProperty* property, const QSt
     if (!item || item->isChangingSize())
         return;
 
-    const int border = ValueConversion::toBorderInfo(m_border->valueString()).width();
+    const double border = ValueConversion::toBorderInfo(m_border->valueString()).width();
     followBoundingSize(this, property, oldValue, border, border + 1);
 }
 

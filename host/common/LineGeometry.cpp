@@ -5,15 +5,24 @@
 #include <cmath>
 
 namespace Korvex::Meridane::Common {
-QPolygonF lineOutline(double length, double angle, int thickness)
+namespace {
+/** @p value without the noise that sine and cosine leave at multiples of 90 degrees. */
+double exactAtAxes(double value)
 {
-    if (thickness < 1 || !(length > 0)) {
+    constexpr double Noise = 1e-15;
+    return std::abs(value) < Noise ? 0 : value;
+}
+} // namespace
+
+QPolygonF lineOutline(double length, double angle, double thickness)
+{
+    if (!(thickness >= 1) || !(length > 0)) {
         return QPolygonF();
     }
     const double half = thickness * 0.5;
     const double radians = angle * M_PI / 180;
-    const double c = std::cos(radians);
-    const double s = std::sin(radians);
+    const double c = exactAtAxes(std::cos(radians));
+    const double s = exactAtAxes(std::sin(radians));
     const QPointF end(length * c, length * s);
     const QPointF side(half * s, -half * c);
     return QPolygonF({QPointF(0, 0), side, end + side, end, end - side, -side});

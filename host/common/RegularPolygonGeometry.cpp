@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <limits>
 
 namespace Korvex::Meridane::Common {
 namespace {
@@ -41,7 +42,9 @@ double mitreLength(int edges, int borderWidth)
 
 int evenPenWidth(int width)
 {
-    return width > 0 ? width + width % 2 : 0;
+    constexpr int Largest = std::numeric_limits<int>::max() - 1;
+    const int limited = qBound(0, width, Largest);
+    return limited + limited % 2;
 }
 
 int widestVertex(int edges)

@@ -30,6 +30,14 @@ QString boundingSizeId()
     return QStringLiteral("boundingSize");
 }
 
+/// \a length as "boundingSize" holds it.
+double roundedOuterLength(double length)
+{
+    constexpr double Factor = 1e6; // ten to the power of OuterSizeDecimals
+    constexpr double Largest = 1e9; // from here on a double has hardly that many decimals
+    return std::abs(length) < Largest ? roundedToWhole(length * Factor) / Factor : length;
+}
+
 } // namespace
 
 GraphicsItem::GraphicsItem(DesignerObject* dataObject, QGraphicsItem* graphic)
@@ -294,14 +302,14 @@ QString GraphicsItem::outerSizeText(const QSharedPointer<DesignerProperty>& boun
     if (!boundingSize)
         return {};
     const QSizeF outer = outerRect().size();
+    if (!std::isfinite(outer.width()) || !std::isfinite(outer.height()))
+        return {};
     bool ok = false;
     const QSizeF stored = ValueConversion::toSize(boundingSize->valueString(), &ok);
     if (ok && equalToDecimals(outer.width(), stored.width(), OuterSizeDecimals)
         && equalToDecimals(outer.height(), stored.height(), OuterSizeDecimals))
         return {};
-    constexpr double Factor = 1e6; // ten to the power of OuterSizeDecimals
-    return ValueConversion::toString(
-        QSizeF(roundedToWhole(outer.width() * Factor) / Factor, roundedToWhole(outer.height() * Factor) / Factor));
+    return ValueConversion::toString(QSizeF(roundedOuterLength(outer.width()), roundedOuterLength(outer.height())));
 }
 
 void GraphicsItem::updateFromDataObject()
@@ -372,19 +380,19 @@ GraphicsItem::FrameChange GraphicsItem::frameChange(int handle, const QSizeF& ou
     QSizeF size = sizeKeepingRatio(handle, outerSize, ratio, minSize());
     if (ratio > 0)
         size = withoutNoise(size);
-    return {size, positionKeepingOpposite(handle, size)};
+    return {size, positionKeepingOpposite(handle, {outerRect().topLeft(), size})};
 }
 
-QPointF GraphicsItem::positionKeepingOpposite(int handle, const QSizeF& outerSize) const
+QPointF GraphicsItem::positionKeepingOpposite(int handle, const QRectF& outerRect) const
 {
+    const TransformOrigin kept = cornerKeptBy(handle);
     const QPointF position = m_graphic->pos();
-    const QRectF frame = outerRect().translated(position);
-    const QRectF kept = resizedFrame(cornerKeptBy(handle), frame, outerSize);
+    const QPointF shift = fixedPointPosition(kept, this->outerRect()) - fixedPointPosition(kept, outerRect);
     // Where nothing moves the position keeps its very value.
     const auto moved = [](double coordinate, double distance) {
         return distance == 0 ? coordinate : withoutNoise(coordinate + distance);
     };
-    return {moved(position.x(), kept.left() - frame.left()), moved(position.y(), kept.top() - frame.top())};
+    return {moved(position.x(), shift.x()), moved(position.y(), shift.y())};
 }
 
 void GraphicsItem::updateTransformOrigin()

@@ -135,9 +135,9 @@ protected:
     /// The frame resize that resizeGraphicsItem() is asked for, with the kept ratio and minSize() observed and the side
     /// or corner opposite \a handle in place. For items whose outer rectangle keeps its offset from the item's origin.
     [[nodiscard]] FrameChange frameChange(int handle, const QSizeF& outerSize) const;
-    /// The item position with which an outer rectangle of \a outerSize leaves the side or corner opposite \a handle where
-    /// it is. For items whose outer rectangle keeps its offset from the item's origin.
-    [[nodiscard]] QPointF positionKeepingOpposite(int handle, const QSizeF& outerSize) const;
+    /// The item position with which the side or corner opposite \a handle stays where it is when the outer rectangle, in
+    /// item coordinates, becomes \a outerRect.
+    [[nodiscard]] QPointF positionKeepingOpposite(int handle, const QRectF& outerRect) const;
     /// Puts the rotation's fixed point where it belongs on the present content; called after the geometry changed.
     void updateTransformOrigin();
     /// "keepRatio" when it converts and is above 0, else 0.

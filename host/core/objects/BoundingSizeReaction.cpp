@@ -67,7 +67,7 @@ void followBoundingSize(DesignerObject* element, const DesignerProperty* boundin
     const auto outer =
         reactToBoundingSize(ValueConversion::toSize(oldValue), ValueConversion::toSize(boundingSize->valueString()),
                             smallest, ratioOk ? ratio : 0);
-    if (!outer) {
+    if (!outer || !std::isfinite(outer->width()) || !std::isfinite(outer->height())) {
         qDebug("Should not reach here");
         return;
     }

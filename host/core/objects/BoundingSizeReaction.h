@@ -26,7 +26,7 @@ class DesignerProperty;
 /**
  * Lets the "size" of \a element follow its new \a boundingSize, which was \a oldValue before: the outer size that
  * reactToBoundingSize() finds with the element's "keepRatio", less \a border pixels in each direction. Changes nothing,
- * with a line in the debug output, when neither dimension changed.
+ * with a line in the debug output, when neither dimension changed, or when an absurd ratio takes one beyond all numbers.
  */
 MERIDANE_CORE_EXPORT void followBoundingSize(DesignerObject* element, const DesignerProperty* boundingSize,
                                              const QString& oldValue, double border, double smallest);
