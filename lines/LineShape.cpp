@@ -22,6 +22,8 @@ namespace {
 constexpr double FitTolerance = 0.25;
 /// Outer sizes are kept with 6 decimals.
 constexpr int SizeDecimals = 6;
+/// How finely the search divides a quadrant, in degrees.
+constexpr double SearchStep = 0.01;
 
 /// \a angle as 0 to below 360 degrees, exact on the axes.
 double normalized(double angle)
@@ -119,17 +121,22 @@ std::optional<LineShape> fittedLine(const LineShape& line, const QSizeF& box)
         if (const auto along = lineAlongAxis(line, box, isVertical(line.angle)))
             return along;
     }
-    const auto found = lineIn(line, box, lineDirection(box, line.thickness));
-    if (fits(found, box))
-        return found;
+    const QPointF direction = lineDirection(box, line.thickness);
+    const auto found = lineIn(line, box, direction);
+    if (fits(found, box)) {
+        // The search knows no axes; back on the axis with which its quadrant begins the line is exact again. At the other
+        // end the axis belongs to the next quadrant, in which a drag must not go on.
+        const auto along = lineAlongAxis(line, box, quadrantOf(line.angle) % 2 == 1);
+        return along && std::abs(along->angle - found->angle) < SearchStep ? along : found;
+    }
     // The direction with the smallest f may belong to a line below the limits while another one fits.
-    for (const auto& other :
-         {lineIn(line, box, lineDirection(box, line.thickness, LineShape::Shortest)), lineAlongAxis(line, box, false),
-          lineAlongAxis(line, box, true)}) {
+    for (const auto& other : {lineIn(line, box, lineDirection(box, line.thickness, LineShape::Shortest)),
+                              lineAlongAxis(line, box, false), lineAlongAxis(line, box, true)}) {
         if (fits(other, box))
             return other;
     }
-    return found;
+    const bool limited = found && (found->length == LineShape::Shortest || found->length == LineShape::Longest);
+    return limited || direction.isNull() ? found : std::nullopt;
 }
 
 } // namespace
@@ -165,7 +172,8 @@ std::optional<LineShape> LineShape::scaled(double factor) const
         k = Longest / length;
     if (fuzzyEqual(k, 1))
         return std::nullopt;
-    return LineShape{withoutNoise(length * k), angle, withoutNoise(thickness * k)};
+    // What was far outside of one limit may have been taken out of the other one.
+    return LineShape{limitedLength(length * k), angle, std::clamp(withoutNoise(thickness * k), Thinnest, Thickest)};
 }
 
 double lineAngle(const QPointF& start, const QPointF& end)

@@ -28,7 +28,7 @@ QStringList GraphicsEllipse::classNames() const
     return GraphicsItem::classNames() << QStringLiteral("GraphicsEllipse");
 }
 
-void GraphicsEllipse::paintShape(QPainter* painter) const
+void GraphicsEllipse::paintContent(QPainter* painter)
 {
     Common::PaintHelper::paintEllipse(size(), style().pen(), style().brush(), painter);
 }

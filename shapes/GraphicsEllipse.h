@@ -17,7 +17,7 @@ public:
     [[nodiscard]] QStringList classNames() const override;
 
 protected:
-    void paintShape(QPainter* painter) const override;
+    void paintContent(QPainter* painter) override;
 };
 
 } // namespace Korvex::Meridane::Designer

@@ -100,8 +100,8 @@ void GraphicsPolygon::resizeGraphicsItem(int handle, const QSizeF& outerSize, co
     const double length = Common::handleChangesWidth(handle) ? edgeLengthFromWidth(outerSize.width())
                                                              : edgeLengthFromHeight(outerSize.height());
     const double possible = std::clamp(length, ShortestEdge, LongestEdge);
-    setItemPosition(positionKeepingOpposite(
-        handle, PaintHelper::getPolygonBoundingRect(m_edges, possible, m_style.penWidth())));
+    setItemPosition(
+        positionKeepingOpposite(handle, PaintHelper::getPolygonBoundingRect(m_edges, possible, m_style.penWidth())));
     setGeometry(m_edges, possible);
 }
 

@@ -55,7 +55,7 @@ void GraphicsRectangle::updateGraphicsItem(const QSharedPointer<DesignerProperty
     }
 }
 
-void GraphicsRectangle::paintShape(QPainter* painter) const
+void GraphicsRectangle::paintContent(QPainter* painter)
 {
     Common::PaintHelper::paintRectangle(size(), m_cornerRadius, style().pen(), style().brush(), painter);
 }

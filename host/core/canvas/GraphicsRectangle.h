@@ -19,7 +19,7 @@ public:
     void updateGraphicsItem(const QSharedPointer<DesignerProperty>& property) override;
 
 protected:
-    void paintShape(QPainter* painter) const override;
+    void paintContent(QPainter* painter) override;
 
 private:
     int m_cornerRadius = 0;

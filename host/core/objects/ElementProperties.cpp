@@ -6,6 +6,7 @@
 #include "host/core/properties/PropertyDeclaration.h"
 #include "host/core/properties/RealProperty.h"
 #include "host/core/properties/SizeProperty.h"
+#include "host/core/values/ValueConversion.h"
 
 namespace Korvex::Meridane::Designer::ElementProperties {
 
@@ -64,6 +65,13 @@ QSharedPointer<DesignerProperty> declareBorder(DesignerObject* object, int rank)
                                                BorderInfo(0, Qt::black))
         .rank(rank)
         .allowInvalid();
+}
+
+QRectF contentRect(const DesignerProperty& size)
+{
+    bool ok = false;
+    const QSizeF content = ValueConversion::toSize(size.valueString(), &ok);
+    return ok ? QRectF(QPointF(0, 0), content) : QRectF();
 }
 
 } // namespace Korvex::Meridane::Designer::ElementProperties

@@ -2,6 +2,7 @@
 
 #include "host/core/CoreExport.h"
 
+#include <QRectF>
 #include <QSharedPointer>
 #include <QSizeF>
 
@@ -28,6 +29,9 @@ namespace ElementProperties {
 [[nodiscard]] MERIDANE_CORE_EXPORT QSharedPointer<DesignerProperty> declareFillColor(DesignerObject* object, int rank);
 /// "border": by default black and 0 pixels wide.
 [[nodiscard]] MERIDANE_CORE_EXPORT QSharedPointer<DesignerProperty> declareBorder(DesignerObject* object, int rank);
+
+/// The rectangle (0, 0, width, height) of the content whose size is \a size; null when that does not convert.
+[[nodiscard]] MERIDANE_CORE_EXPORT QRectF contentRect(const DesignerProperty& size);
 
 } // namespace ElementProperties
 

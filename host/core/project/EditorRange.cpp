@@ -41,11 +41,10 @@ QString adviceForNumber(const DesignerProperty& property)
     const bool tooLarge = number > (maximum.isValid() ? maximum.toDouble() : Unlimited);
     if (!tooSmall && !tooLarge)
         return {};
-    const QString text =
-        tooSmall ? LocalizationHelper::coreString(
-                       QStringLiteral("%1 is below %2, the smallest value that can be entered. Correct it."))
-                 : LocalizationHelper::coreString(
-                       QStringLiteral("%1 is above %2, the largest value that can be entered. Correct it."));
+    const QString text = tooSmall ? LocalizationHelper::coreString(
+                             QStringLiteral("%1 is below %2, the smallest value that can be entered. Correct it."))
+                                  : LocalizationHelper::coreString(QStringLiteral(
+                                      "%1 is above %2, the largest value that can be entered. Correct it."));
     return text.arg(property.valueString(),
                     ValueConversion::toString(tooSmall ? minimum.toDouble() : maximum.toDouble()));
 }
