@@ -198,6 +198,17 @@ QMap<QString, QByteArray> filesOf(const QString& folder)
     return files;
 }
 
+QMap<QString, QString> projectsBelow(const QString& folder)
+{
+    QMap<QString, QString> projects;
+    QDirIterator files(folder, {QStringLiteral("project.json")}, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString project = QFileInfo(files.next()).path();
+        projects.insert(QDir(folder).relativeFilePath(project), project);
+    }
+    return projects;
+}
+
 QByteArray readFile(const QString& path)
 {
     QFile file(path);

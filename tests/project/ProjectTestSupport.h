@@ -87,6 +87,8 @@ private:
 
 /// Every file below \a folder by its relative path, hidden ones included.
 QMap<QString, QByteArray> filesOf(const QString& folder);
+/// The folders of all projects below \a folder, by their relative path.
+QMap<QString, QString> projectsBelow(const QString& folder);
 QByteArray readFile(const QString& path);
 void writeFile(const QString& path, const QByteArray& content);
 

@@ -267,12 +267,10 @@ void tst_ProjectRoundTrip::editsOnTheCanvasAndTheirUndoGiveTheSameFiles()
 void tst_ProjectRoundTrip::theExamplesAreInTheFormOfTheProgram_data()
 {
     QTest::addColumn<QString>("folder");
-    const QDir examples(QString::fromUtf8(MERIDANE_EXAMPLES));
-    const QStringList names = examples.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-    for (const QString& name : names) {
-        if (QFile::exists(examples.filePath(name + QStringLiteral("/project.json"))))
-            QTest::newRow(qUtf8Printable(name)) << examples.filePath(name);
-    }
+    const QMap<QString, QString> examples = projectsBelow(QString::fromUtf8(MERIDANE_EXAMPLES));
+    QVERIFY(!examples.isEmpty());
+    for (auto example = examples.cbegin(); example != examples.cend(); ++example)
+        QTest::newRow(qUtf8Printable(example.key())) << example.value();
 }
 
 void tst_ProjectRoundTrip::theExamplesAreInTheFormOfTheProgram()

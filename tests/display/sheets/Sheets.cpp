@@ -1,0 +1,6 @@
+#include "tests/display/sheets/Sheets.h"
+
+QList<Sheet> allSheets()
+{
+    return rectangleSheets() + ellipseSheets() + polygonSheets();
+}

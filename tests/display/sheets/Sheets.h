@@ -1,0 +1,12 @@
+#pragma once
+
+#include "tests/display/sheets/Sheet.h"
+
+#include <QList>
+
+/// The sheets of each element; a new element adds a file with its own and a line to allSheets().
+QList<Sheet> rectangleSheets();
+QList<Sheet> ellipseSheets();
+QList<Sheet> polygonSheets();
+
+QList<Sheet> allSheets();
