@@ -1,62 +1,52 @@
+#include "shapes/GraphicsEllipse.h"
 #include "shapes/Rectangle.h"
+#include "tests/shapes/FramedShapeTest.h"
 
-#include "host/core/canvas/GraphicsItem.h"
+#include "host/core/canvas/GraphicsRectangle.h"
 #include "host/core/objects/BoundingSizeReaction.h"
-#include "host/core/properties/DesignerProperty.h"
-#include "host/core/properties/RuntimeProperty.h"
-#include "host/core/values/ValueConversion.h"
 
-#include <QGraphicsItem>
-#include <QRegularExpression>
 #include <QtTest>
 
 #include <rapidcheck.h>
 
 using namespace Korvex::Meridane::Designer;
 
-class tst_Rectangle : public QObject
+class tst_Rectangle : public Test::FramedShapeTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        m_rectangle = std::make_unique<Rectangle>();
-        QVERIFY(m_rectangle->initialize());
-        m_item.reset();
-    }
-
-    void cleanup()
-    {
-        m_item.reset();
-        m_rectangle.reset();
-    }
-
     void theIdentityIsThatOfARectangle()
     {
-        QCOMPARE(m_rectangle->className(), QStringLiteral("Rectangle"));
-        QCOMPARE(m_rectangle->classNames().last(), QStringLiteral("Rectangle"));
-        QVERIFY(m_rectangle->classNames().contains(QLatin1String("VisualElement")));
-        QCOMPARE(m_rectangle->displayName(), QStringLiteral("Rectangle"));
-        QCOMPARE(m_rectangle->qmlName(), QStringLiteral("Rectangle2"));
-        QCOMPARE(m_rectangle->idInfo().scopeType(), QStringLiteral("Screen"));
-        QCOMPARE(m_rectangle->idInfo().filterType(), QStringLiteral("Rectangle"));
-        QCOMPARE(m_rectangle->idInfo().base(), QStringLiteral("rectangle"));
-        QCOMPARE(m_rectangle->idInfo().name(), QStringLiteral("rectangle"));
+        QCOMPARE(shape().identity(),
+                 QStringLiteral("Rectangle,Rectangle,Rectangle,Rectangle2,Screen,Rectangle,rectangle,rectangle")
+                     .split(QLatin1Char(',')));
+        QVERIFY(shape().element->classNames().contains(QLatin1String("VisualElement")));
+    }
+
+    void itsItemIsTheHostsAndCanBeEdited()
+    {
+        GraphicsItem* item = shape().element->createGraphicsItem();
+        QVERIFY(item);
+        const std::unique_ptr<QGraphicsItem> owner(item->graphic());
+        QCOMPARE(item->className(), QStringLiteral("GraphicsRectangle"));
+        QCOMPARE(owner->flags(), QGraphicsItem::ItemIsSelectable | QGraphicsItem::ItemIsMovable);
+        QVERIFY(item->isResizable());
+        QVERIFY(item->isRotatable());
     }
 
     void aRadiusAboveHalfTheSmallerSideIsRefusedWithTheLimitRoundedDown()
     {
         QString message;
-        QVERIFY(!set("cornerRadius", "50", &message));
+        QVERIFY(!shape().set("cornerRadius", "50", &message));
         QCOMPARE(message, QStringLiteral("The corner radius must be smaller than or equal to 37 px."));
-        QCOMPARE(value("cornerRadius"), QStringLiteral("0"));
+        QCOMPARE(shape().value("cornerRadius"), QStringLiteral("0"));
     }
 
     void aRadiusOfHalfTheSmallerSideRoundedDownIsAccepted()
     {
-        QVERIFY(set("cornerRadius", "37"));
-        QCOMPARE(value("cornerRadius"), QStringLiteral("37"));
+        QVERIFY(shape().set("cornerRadius", "37"));
+        QCOMPARE(shape().value("cornerRadius"), QStringLiteral("37"));
     }
 
     void aRadiusOutside0To100IsRefused_data()
@@ -70,112 +60,45 @@ private Q_SLOTS:
     {
         QFETCH(QString, radius);
         QString message;
-        QVERIFY(!m_rectangle->changePropertyValue(m_rectangle->getProperty(QStringLiteral("cornerRadius")), radius,
-                                                  &message));
+        QVERIFY(!shape().set("cornerRadius", radius, &message));
         QCOMPARE(message, QStringLiteral("The corner radius must be between 0 and 100."));
-        QCOMPARE(value("cornerRadius"), QStringLiteral("0"));
+        QCOMPARE(shape().value("cornerRadius"), QStringLiteral("0"));
     }
 
     void radius100IsAcceptedOnALargeEnoughRectangle()
     {
-        QVERIFY(set("size", "200,200"));
-        QVERIFY(set("cornerRadius", "100"));
+        QVERIFY(shape().set("size", "200,200"));
+        QVERIFY(shape().set("cornerRadius", "100"));
     }
 
     void aRadiusOf0WritesNoLine()
     {
-        QCOMPARE(m_rectangle->getProperty(QStringLiteral("cornerRadius"))->toQml(1), QString());
-        QVERIFY(!m_rectangle->toQml(0).contains(QLatin1String("cornerRadius")));
+        QCOMPARE(shape().element->getProperty(QStringLiteral("cornerRadius"))->toQml(1), QString());
+        QVERIFY(!shape().element->toQml(0).contains(QLatin1String("cornerRadius")));
     }
 
     void aRadiusOf12WritesTheIndentationAndTheLine()
     {
-        QVERIFY(set("cornerRadius", "12"));
-        QCOMPARE(m_rectangle->getProperty(QStringLiteral("cornerRadius"))->toQml(2),
+        QVERIFY(shape().set("cornerRadius", "12"));
+        QCOMPARE(shape().element->getProperty(QStringLiteral("cornerRadius"))->toQml(2),
                  QStringLiteral("\t\tcornerRadius: 12"));
     }
 
-    void theHeightFollowsTheWidthUnderAKeptRatio()
+    void theSmallestOuterSideIsOnePixelOfContent_data()
     {
-        QVERIFY(set("size", "100,50"));
-        place();
-        QVERIFY(set("keepRatio", "2"));
-        QVERIFY(set("boundingSize", "120,50"));
-        QCOMPARE(value("size"), QStringLiteral("120,60"));
+        addReactionColumns();
+        addReactionRow("border 3, the width", "97,47", 3, "0", "2,50", "1,47", "4,50");
+        addReactionRow("border 3, the height", "97,47", 3, "0", "100,3.9", "97,1", "100,4");
+        addReactionRow("border 50, both", "50,50", 50, "0", "10,70", "1,20", "51,70");
+        addReactionRow("border 3, kept ratio", "97,47", 3, "4", "12,50", "13,1", "16,4");
+        addReactionRow("the thickest border", "100,75", 2147483647, "0", "5,5", "1,1", "2147483648,2147483648");
     }
 
-    void aTypedHeightStaysAsTypedWhenItsWidthWasCompletedAndRounded()
-    {
-        QVERIFY(set("size", "100,300"));
-        place();
-        QVERIFY(set("keepRatio", "0.3333333333333333"));
-        QVERIFY(set("boundingSize", "66.666667,200"));
-        QCOMPARE(value("size"), QStringLiteral("66.666667,200"));
-        QCOMPARE(value("boundingSize"), QStringLiteral("66.666667,200"));
-    }
-
-    void onlyTheSideThatWasTouchedIsRaisedToTheSmallest()
-    {
-        QVERIFY(set("border", "width: 3; color: #000000;"));
-        QVERIFY(set("size", "97,47"));
-        place();
-        QCOMPARE(value("boundingSize"), QStringLiteral("100,50"));
-        QVERIFY(set("boundingSize", "2,50"));
-        QCOMPARE(value("size"), QStringLiteral("1,47"));
-        QCOMPARE(value("boundingSize"), QStringLiteral("4,50"));
-    }
-
-    void settingTheSameBoundingSizeChangesNothing()
-    {
-        place();
-        QTest::ignoreMessage(QtDebugMsg, "Should not reach here");
-        set("boundingSize", "100,75");
-        QCOMPARE(value("size"), QStringLiteral("100,75"));
-    }
-
-    void aBoundingSizeThatDoesNotConvertIsInert()
-    {
-        place();
-        QVERIFY(set("boundingSize", "wide"));
-        QCOMPARE(value("boundingSize"), QStringLiteral("wide"));
-        QCOMPARE(value("size"), QStringLiteral("100,75"));
-    }
-
-    void withoutACanvasItemABoundingSizeChangesNothing()
-    {
-        QVERIFY(set("boundingSize", "50,50"));
-        QCOMPARE(value("size"), QStringLiteral("100,75"));
-    }
-
-    void whileTheItemChangesSizeTheElementDoesNotReact()
-    {
-        place();
-        m_rectangle->graphicsItem()->setChangingSize(true);
-        QVERIFY(set("boundingSize", "50,50"));
-        m_rectangle->graphicsItem()->setChangingSize(false);
-        QCOMPARE(value("size"), QStringLiteral("100,75"));
-    }
-
-    void theBoundingRectangleIsGrownByHalfTheBorder()
-    {
-        QVERIFY(set("border", "width: 4; color: #000000;"));
-        QCOMPARE(m_rectangle->getBoundingRect(), QRectF(-2, -2, 104, 79));
-        QVERIFY(set("size", "broken"));
-        QCOMPARE(m_rectangle->getBoundingRect(), QRectF());
-    }
+    void theSmallestOuterSideIsOnePixelOfContent() { checkReaction(); }
 
     void theRuntimePropertiesFollowThoseOfTheBase()
     {
-        const QList<RuntimeProperty> all = m_rectangle->runtimeProperties();
-        const QList<RuntimeProperty> base = m_rectangle->VisualElement::runtimeProperties();
-        QStringList rows;
-        for (const RuntimeProperty& property : all.mid(base.size())) {
-            rows << QStringLiteral("%1|%2|%3|%4")
-                        .arg(property.name(), property.label())
-                        .arg(int(property.type()))
-                        .arg(property.isWritable());
-        }
-        QCOMPARE(rows,
+        QCOMPARE(shape().runtimeRows(),
                  (QStringList{QStringLiteral("color|Color|6|1"), QStringLiteral("width|Width|3|1"),
                               QStringLiteral("height|Height|3|1"), QStringLiteral("cornerRadius|Corner Radius|2|1"),
                               QStringLiteral("borderWidth|Border Width|2|1"),
@@ -184,28 +107,21 @@ private Q_SLOTS:
 
     void theQmlHoldsEveryExportedPropertyInOrderOfRank()
     {
-        QVERIFY(m_rectangle->setIdName(QStringLiteral("lamp")));
-        QVERIFY(set("position", "10,20.5"));
-        QVERIFY(set("cornerRadius", "5"));
-        QCOMPARE(m_rectangle->toQml(1), QStringLiteral("\tRectangle2 {\n"
-                                                       "\t\tid: lamp\n"
-                                                       "\t\tx: 10\n"
-                                                       "\t\ty: 20.5\n"
-                                                       "\t\trotation: 0\n"
-                                                       "\t\twidth: 100\n"
-                                                       "\t\theight: 75\n"
-                                                       "\t\tcolor: \"#f8971d\"\n"
-                                                       "\t\tborderWidth: 0\n"
-                                                       "\t\tborderColor: \"#000000\"\n"
-                                                       "\t\tcornerRadius: 5\n"
-                                                       "\t}"));
-    }
-
-    void valuesThatDoNotConvertWriteNoLine()
-    {
-        QVERIFY(set("color", "chartreusish"));
-        QCOMPARE(value("color"), QStringLiteral("chartreusish"));
-        QVERIFY(!m_rectangle->toQml(0).contains(QLatin1String("color:")));
+        QVERIFY(shape().element->setIdName(QStringLiteral("lamp")));
+        QVERIFY(shape().set("position", "10,20.5"));
+        QVERIFY(shape().set("cornerRadius", "5"));
+        QCOMPARE(shape().element->toQml(1), QStringLiteral("\tRectangle2 {\n"
+                                                           "\t\tid: lamp\n"
+                                                           "\t\tx: 10\n"
+                                                           "\t\ty: 20.5\n"
+                                                           "\t\trotation: 0\n"
+                                                           "\t\twidth: 100\n"
+                                                           "\t\theight: 75\n"
+                                                           "\t\tcolor: \"#f8971d\"\n"
+                                                           "\t\tborderWidth: 0\n"
+                                                           "\t\tborderColor: \"#000000\"\n"
+                                                           "\t\tcornerRadius: 5\n"
+                                                           "\t}"));
     }
 
     void theReactionKeepsItsRules()
@@ -235,28 +151,10 @@ private Q_SLOTS:
     }
 
 private:
-    bool set(const char* id, const char* newValue, QString* message = nullptr)
-    {
-        return m_rectangle->changePropertyValue(m_rectangle->getProperty(QLatin1String(id)),
-                                                QString::fromLatin1(newValue), message);
-    }
-
-    QString value(const char* id) const { return m_rectangle->getProperty(QLatin1String(id))->valueString(); }
-
-    /// Gives the element its canvas item, filled as a canvas fills it.
-    void place()
-    {
-        GraphicsItem* item = m_rectangle->createGraphicsItem();
-        QVERIFY(item);
-        m_item.reset(item->graphic());
-        QVERIFY(item->initialize());
-        m_rectangle->setGraphicsItem(item);
-        for (const auto& property : m_rectangle->properties())
-            item->updateGraphicsItem(property);
-    }
-
-    std::unique_ptr<Rectangle> m_rectangle;
-    std::unique_ptr<QGraphicsItem> m_item;
+    std::unique_ptr<VisualElement> makeElement() const override { return std::make_unique<Rectangle>(); }
+    void place() const override { shape().place<GraphicsRectangle>(); }
+    void placeItemOfAnotherShape() const override { shape().place<GraphicsEllipse>(); }
+    double smallestSide(int border) const override { return border + 1; }
 };
 
 QTEST_MAIN(tst_Rectangle)
