@@ -1,6 +1,7 @@
 #include "runtime/viewer/ViewerOptions.h"
 
 #include <QtCore/QCommandLineParser>
+#include <QtCore/QFileInfo>
 
 namespace Korvex::Meridane::Display {
 ViewerOptions parseViewerOptions(const QStringList& arguments)
@@ -25,7 +26,9 @@ ViewerOptions parseViewerOptions(const QStringList& arguments)
     const bool parsed = parser.parse(arguments);
     if (parser.isSet(help)) {
         options.result = ViewerOptions::Result::Help;
-        options.message = parser.helpText();
+        // Without an application object the parser does not know the program's name.
+        const QString program = QFileInfo(arguments.value(0)).fileName();
+        options.message = parser.helpText().replace(QLatin1String("<executable_name>"), program);
         return options;
     }
     if (!parsed) {
