@@ -75,12 +75,25 @@ DesignerObject* CanvasFixture::add(const char* className, const QMap<QString, QS
 
 DesignerObject* CanvasFixture::addRectangle(const QRectF& content, int border)
 {
-    DesignerObject* rectangle =
-        add("Rectangle", {{QStringLiteral("position"), ValueConversion::toString(content.topLeft())},
-                          {QStringLiteral("size"), ValueConversion::toString(content.size())},
-                          {QStringLiteral("border"), ValueConversion::toString(BorderInfo(border, Qt::black))}});
+    return addShape("Rectangle", content, border);
+}
+
+DesignerObject* CanvasFixture::addShape(const QByteArray& className, const QRectF& content, int border)
+{
+    QMap<QString, QString> properties{
+        {QStringLiteral("position"), ValueConversion::toString(content.topLeft())},
+        {QStringLiteral("border"), ValueConversion::toString(BorderInfo(border, Qt::black))}};
+    if (className == "Polygon") {
+        constexpr double EdgeOfAPentagonOfWidthOne = 0.62;
+        properties.insert(QStringLiteral("edges"), QStringLiteral("5"));
+        properties.insert(QStringLiteral("edgeLength"),
+                          ValueConversion::toString(EdgeOfAPentagonOfWidthOne * content.width()));
+    } else {
+        properties.insert(QStringLiteral("size"), ValueConversion::toString(content.size()));
+    }
+    DesignerObject* shape = add(className.constData(), properties);
     select({});
-    return rectangle;
+    return shape;
 }
 
 DesignerObject* CanvasFixture::addGroup(const QPointF& position, const QList<DesignerObject*>& members)

@@ -9,6 +9,7 @@
 #include "host/core/project/Project.h"
 #include "host/core/properties/DesignerProperty.h"
 
+#include <QByteArrayList>
 #include <QEvent>
 #include <QGraphicsItem>
 #include <QMap>
@@ -29,13 +30,18 @@ public:
     DesignerObject* add(const char* className, const QMap<QString, QString>& properties = {});
     /// A rectangle with this content and border; not selected.
     DesignerObject* addRectangle(const QRectF& content, int border = 0);
+    /// An element of one of the frameElements(), with this content and border; not selected. A polygon, of five edges,
+    /// begins where \a content does and is about as wide.
+    DesignerObject* addShape(const QByteArray& className, const QRectF& content, int border = 0);
+    /// The classes of the elements that are resized by the eight handles of their frame.
+    static QByteArrayList frameElements() { return {"Rectangle", "Ellipse", "Polygon"}; }
     /// A group of \a members, whose positions become relative to its own.
     DesignerObject* addGroup(const QPointF& position, const QList<DesignerObject*>& members);
 
     static QString value(const DesignerObject* object, const char* property);
     void set(DesignerObject* object, const char* property, const QString& value);
     static QGraphicsItem* graphic(const DesignerObject* object);
-    /// The outer rectangle on the scene, taken from the data object alone.
+    /// The outer rectangle on the scene, taken from the data object alone, as if it were not rotated.
     static QRectF outerRect(const DesignerObject* object);
     /// Every value string of every object, by "id.property".
     QMap<QString, QString> values() const;

@@ -387,12 +387,14 @@ QPointF GraphicsItem::positionKeepingOpposite(int handle, const QRectF& outerRec
 {
     const TransformOrigin kept = cornerKeptBy(handle);
     const QPointF position = m_graphic->pos();
-    const QPointF shift = fixedPointPosition(kept, this->outerRect()) - fixedPointPosition(kept, outerRect);
-    // Where nothing moves the position keeps its very value.
-    const auto moved = [](double coordinate, double distance) {
-        return distance == 0 ? coordinate : withoutNoise(coordinate + distance);
+    const QPointF before = fixedPointPosition(kept, this->outerRect());
+    const QPointF after = fixedPointPosition(kept, outerRect);
+    // Where nothing moves the position keeps its very value. Else the kept corner loses its noise before the position
+    // does: rounding the position alone would let the corner creep a little with every move of the mouse.
+    const auto moved = [](double coordinate, double from, double to) {
+        return from == to ? coordinate : withoutNoise(withoutNoise(coordinate + from) - to);
     };
-    return {moved(position.x(), shift.x()), moved(position.y(), shift.y())};
+    return {moved(position.x(), before.x(), after.x()), moved(position.y(), before.y(), after.y())};
 }
 
 void GraphicsItem::updateTransformOrigin()

@@ -3,6 +3,8 @@
 #include "host/core/canvas/GraphicsItem.h"
 #include "host/core/objects/DesignerObject.h"
 
+#include "host/common/FrameResize.h"
+
 #include <QGraphicsItem>
 
 namespace Korvex::Meridane::Designer {
@@ -21,7 +23,12 @@ ResizeGesture::~ResizeGesture() = default;
 
 void ResizeGesture::move(const CanvasPointer& pointer)
 {
-    const QPointF way = wayTo(pointer);
+    // Along its side a handle changes nothing.
+    QPointF way = wayTo(pointer);
+    if (!Common::handleChangesWidth(m_handle))
+        way.setX(0);
+    if (!Common::handleChangesHeight(m_handle))
+        way.setY(0);
     if (!m_object || !m_object->graphicsItem() || (!hasBegun() && way.isNull()))
         return;
     begin({m_object});
