@@ -52,13 +52,19 @@ private Q_SLOTS:
             DesignerObject* first = canvas.addRectangle(QRectF(100.5, 100, 133.3, 80), 3);
             canvas.set(first, "keepRatio", QStringLiteral("1.5"));
             canvas.addRectangle(QRectF(300, 150, 90, 120));
+            DesignerObject* ellipse = canvas.addShape("Ellipse", QRectF(60, 300.25, 140, 100), 5);
+            canvas.set(ellipse, "keepRatio", QStringLiteral("0.7"));
+            canvas.addShape("Polygon", QRectF(250, 300, 111.1, 0), 3);
+            DesignerObject* turned = canvas.addShape("Polygon", QRectF(600, 250, 90, 0));
+            canvas.set(turned, "edges", QStringLiteral("8"));
+            canvas.set(turned, "rotation", QStringLiteral("angle: 20; fixedPoint: BottomLeft;"));
             canvas.add("PointElement", {{QStringLiteral("position"), QStringLiteral("450,200")}});
             DesignerObject* third = canvas.addRectangle(QRectF(500, 50, 60, 60), 1);
             canvas.addGroup({480, 40}, {third});
             canvas.stack()->clear();
 
             QList<Values> states = {canvas.values()};
-            const int count = anyNumber(1, 15);
+            const int count = anyNumber(1, 40);
             for (int i = 0; i < count; ++i) {
                 const Action action = anyAction();
                 const Qt::KeyboardModifiers modifiers(action.modifiers);
@@ -66,10 +72,15 @@ private Q_SLOTS:
                 const QList<DesignerObject*> elements = canvas.scene()->selectableElements();
                 QPointF from = action.from;
                 if (!elements.isEmpty() && action.kind > 1) {
-                    const QRectF frame =
-                        canvas.graphic(elements.at(int(action.from.x()) % elements.size()))->sceneBoundingRect();
-                    const int cell = int(action.from.y()) % 9;
-                    from = frame.topLeft() + QPointF(frame.width() * (cell % 3), frame.height() * (cell / 3)) / 2;
+                    // A corner, the middle of a side, the centre, or the knob above.
+                    const QGraphicsItem* item = canvas.graphic(elements.at(int(action.from.x()) % elements.size()));
+                    const QRectF frame = item->boundingRect();
+                    const int cell = int(action.from.y()) % 10;
+                    const QPointF knob(frame.center().x(), frame.top() - 22 / canvas.view->zoom());
+                    from = item->mapToScene(
+                        cell == 9
+                            ? knob
+                            : frame.topLeft() + QPointF(frame.width() * (cell % 3), frame.height() * (cell / 3)) / 2);
                 }
                 const int stepsBefore = canvas.stack()->index();
                 switch (action.kind) {

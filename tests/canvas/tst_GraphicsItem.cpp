@@ -4,9 +4,12 @@
 #include "host/core/commands/UndoCommand.h"
 #include "host/core/values/ValueConversion.h"
 
+#include "host/common/TransformOrigin.h"
+
 #include <QtTest>
 
 using namespace Korvex::Meridane::Designer;
+using namespace Korvex::Meridane::Common;
 using Test::CanvasFixture;
 
 namespace {
@@ -115,23 +118,58 @@ private Q_SLOTS:
         QCOMPARE(canvas.graphic(rectangle)->toolTip(), QStringLiteral("Rectangle: rectangle1"));
     }
 
+    void theSelectedItemTellsWhatTheHandleDoes_data()
+    {
+        QTest::addColumn<QByteArray>("element");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("Rectangle") << QByteArray("Rectangle") << QStringLiteral("Rectangle: rectangle1");
+        QTest::newRow("Ellipse") << QByteArray("Ellipse") << QStringLiteral("Ellipse: ellipse1");
+        QTest::newRow("Polygon") << QByteArray("Polygon") << QStringLiteral("Polygon (Regular): polygon1");
+    }
+
     void theSelectedItemTellsWhatTheHandleDoes()
     {
+        QFETCH(QByteArray, element);
+        QFETCH(QString, name);
         CanvasFixture canvas;
-        DesignerObject* rectangle = canvas.addRectangle(QRectF(100, 100, 100, 80));
-        QGraphicsItem* item = canvas.graphic(rectangle);
-        canvas.select({rectangle});
-        handleAt(rectangle, {100, 100});
-        QCOMPARE(item->toolTip(), QStringLiteral("Drag this point to resize"));
+        DesignerObject* object = canvas.addShape(element, QRectF(100, 100, 100, 80), 3);
+        const QGraphicsItem* item = canvas.graphic(object);
+        const QRectF frame = canvas.outerRect(object);
+        // Painting lets the text of the handle under the mouse be.
+        const auto toolTip = [&canvas, item] {
+            const QString before = item->toolTip();
+            canvas.view->grab();
+            return item->toolTip() == before ? before : QStringLiteral("painted over: ") + before;
+        };
         canvas.view->grab();
-        QCOMPARE(item->toolTip(), QStringLiteral("Drag this point to resize"));
-        handleAt(rectangle, {150, 100});
-        QCOMPARE(item->toolTip(), QStringLiteral("Drag this line to resize"));
-        handleAt(rectangle, {150, 140});
-        QCOMPARE(item->toolTip(), QStringLiteral("Rectangle: rectangle1"));
-        canvas.select({});
-        handleAt(rectangle, {100, 100});
-        QCOMPARE(item->toolTip(), QStringLiteral("Rectangle: rectangle1"));
+        QCOMPARE(item->toolTip(), name);
+        for (int handle = 0; handle <= 8; ++handle) {
+            const QPointF at = fixedPointPosition(static_cast<TransformOrigin>(handle), frame);
+            canvas.select({});
+            canvas.move(at);
+            QCOMPARE(toolTip(), name);
+            canvas.select({object});
+            canvas.move(at);
+            const bool corner = handle % 2 == 0;
+            const QString expected = handle == Center ? name
+                                     : corner         ? QStringLiteral("Drag this point to resize")
+                                                      : QStringLiteral("Drag this line to resize");
+            QCOMPARE(toolTip(), expected);
+            // Nor does painting during a drag.
+            canvas.press(at);
+            canvas.move(at + QPointF(9, 9));
+            QCOMPARE(toolTip(), expected);
+            canvas.move(at);
+            canvas.release(at);
+            QCOMPARE(toolTip(), expected);
+            canvas.move(frame.bottomRight() + QPointF(50, 50));
+            QCOMPARE(toolTip(), name);
+        }
+        QCOMPARE(canvas.steps(), 0);
+        // A rotated element has no handles to tell of.
+        canvas.set(object, "rotation", QStringLiteral("angle: 90; fixedPoint: Center;"));
+        canvas.move(canvas.graphic(object)->mapToScene(item->boundingRect().topLeft()));
+        QCOMPARE(toolTip(), name);
     }
 
     void theNameToolTipFollowsTheId()

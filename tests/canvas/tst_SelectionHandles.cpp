@@ -92,6 +92,44 @@ private Q_SLOTS:
         QCOMPARE(changedAbout(without, with, corner + QPoint(-4, -30)).isEmpty(), false);
     }
 
+    void aRotatedElementShowsOnlyTheKnob_data()
+    {
+        QTest::addColumn<QByteArray>("element");
+        QTest::addColumn<int>("angle");
+        const QByteArrayList elements = CanvasFixture::frameElements();
+        for (const QByteArray& element : elements) {
+            for (const int angle : {0, 360, -360, 90, 30, -75})
+                QTest::addRow("%s, %d degrees", element.constData(), angle) << element << angle;
+        }
+    }
+
+    void aRotatedElementShowsOnlyTheKnob()
+    {
+        QFETCH(QByteArray, element);
+        QFETCH(int, angle);
+        CanvasFixture canvas;
+        DesignerObject* object = canvas.addShape(element, QRectF(200, 150, 120, 90));
+        canvas.set(object, "rotation", QStringLiteral("angle: %1; fixedPoint: Center;").arg(angle));
+        const QImage without = canvas.view->grab().toImage();
+        canvas.select({object});
+        const QImage with = canvas.view->grab().toImage();
+        const QGraphicsItem* item = canvas.graphic(object);
+        const QTransform toView = item->sceneTransform() * canvas.view->viewportTransform();
+        const QRectF frame = item->boundingRect();
+        const auto changedAt = [&](const QPointF& itemPoint) {
+            const QPoint at = toView.map(itemPoint).toPoint();
+            return with.pixel(at) != without.pixel(at);
+        };
+        // Four pixels off the frame there is nothing but a handle.
+        const bool handles = angle % 360 == 0;
+        QCOMPARE(changedAt(frame.topLeft() - QPointF(4, 4)), handles);
+        QCOMPARE(changedAt(frame.bottomRight() + QPointF(4, 4)), handles);
+        QCOMPARE(changedAt({frame.left() - 4, frame.center().y()}), handles);
+        QCOMPARE(changedAt({frame.center().x(), frame.bottom() + 4}), handles);
+        const QPoint knob = toView.map(QPointF(frame.center().x(), frame.top() - 22)).toPoint();
+        QVERIFY(!changedAbout(without, with, knob).isEmpty());
+    }
+
     void pointHandlesAreShown()
     {
         CanvasFixture canvas;
