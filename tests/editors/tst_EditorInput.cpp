@@ -151,6 +151,20 @@ private Q_SLOTS:
         QCOMPARE(m_element->value("number"), QStringLiteral("1"));
     }
 
+    void aSliderDragThatEscapeTakesBackLeavesNoStep()
+    {
+        auto* editor = show<IntegerEditor>("number");
+        NumberSlider* slider = editor->numberWidget()->slider();
+        const int y = slider->height() / 2;
+        QTest::mousePress(slider, Qt::LeftButton, {}, QPoint(3, y));
+        for (int x = 4; x < slider->width() / 4; x += 3)
+            QTest::mouseMove(slider, QPoint(x, y));
+        QVERIFY(m_element->value("number") != QStringLiteral("1"));
+        QTest::keyClick(slider, Qt::Key_Escape);
+        QCOMPARE(m_element->value("number"), QStringLiteral("1"));
+        QCOMPARE(stack()->count(), 0);
+    }
+
     void arithmeticIsCalculated()
     {
         auto* editor = show<RealEditor>("real");

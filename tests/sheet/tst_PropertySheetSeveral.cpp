@@ -313,6 +313,17 @@ private Q_SLOTS:
         QTRY_VERIFY(!m_fixture->editor<IntegerEditor>("number")->numberWidget()->isMixed());
     }
 
+    void valuesThatBecomeTheSameElsewhereAreShown()
+    {
+        fill("number", {"7", "8", "7"});
+        selectAll();
+        const NumberWidget* number = m_fixture->editor<IntegerEditor>("number")->numberWidget();
+        QVERIFY(number->isMixed());
+        m_fixture->session->setProperty(m_elements[1], QStringLiteral("number"), QStringLiteral("7"));
+        QTRY_VERIFY(!number->isMixed());
+        QCOMPARE(number->spinBox()->text(), QStringLiteral("7 px"));
+    }
+
     void anEditorThatKnowsNoComponentsChangesWhatDiffers()
     {
         usePlainEditors();

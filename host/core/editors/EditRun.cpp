@@ -48,7 +48,7 @@ bool EditRun::eventFilter(QObject* watched, QEvent* event)
         const int key = static_cast<const QKeyEvent*>(event)->key();
         if (slider ? isSliderKey(key) : isStepKey(key))
             goOn();
-        else
+        else if (!slider || key != Qt::Key_Escape) // which takes a drag back, as part of it
             m_key.clear();
         break;
     }

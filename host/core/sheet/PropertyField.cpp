@@ -49,10 +49,11 @@ void PropertyField::refresh()
         return;
     }
     m_stale = false;
+    const bool wasMixed = m_mixed;
     if (m_editor->isPropertyChange())
         loadPending();
     // What is shown already is not loaded again: that would move the cursor.
-    if (m_mixed || m_editor->isRefused() || !m_properties.first()->equalsValue(m_editor->editorValue()))
+    if (wasMixed || m_mixed || m_editor->isRefused() || !m_properties.first()->equalsValue(m_editor->editorValue()))
         m_editor->load();
     Q_EMIT m_editor->accepted();
     reportInvalid();
