@@ -81,6 +81,11 @@ void StandardEditor::joinSteps(ColorWidget* field)
     connect(field, &ColorWidget::sliderReleased, m_run, &EditRun::end);
 }
 
+void StandardEditor::endSteps()
+{
+    m_run->end();
+}
+
 QString StandardEditor::operationText(const NumberOperation& operation)
 {
     const char* sign = nullptr;

@@ -44,6 +44,8 @@ protected:
     void joinSteps(SpinBox* field);
     void joinSteps(NumberWidget* field);
     void joinSteps(ColorWidget* field);
+    /// Ends the run of steps: the edit that follows, such as that of a button, joins nothing before it.
+    void endSteps();
     /// \a operation as edit() takes it: "+=10", or empty for a plain value.
     [[nodiscard]] static QString operationText(const NumberOperation& operation);
     /// The editor parameter of that name, or \a fallback when the property has none.

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "host/core/CoreExport.h"
+
 #include <QLabel>
 
 namespace Korvex::Meridane::Designer {
 
 /// A line below a field that says why its text was refused. Hidden while it is empty; its colour follows the theme.
-class MessageLabel : public QLabel
+class MERIDANE_CORE_EXPORT MessageLabel : public QLabel
 {
     Q_OBJECT
 
