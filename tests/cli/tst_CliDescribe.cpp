@@ -1,5 +1,6 @@
 #include "tests/cli/MeridaneProgram.h"
 
+#include <QDir>
 #include <QFile>
 #include <QJsonDocument>
 #include <QTemporaryDir>
@@ -56,7 +57,8 @@ class tst_CliDescribe : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void theRectangleIsAsItsTableSays();
+    void aClassIsAsItsTableSays_data();
+    void aClassIsAsItsTableSays();
     void everyClassHasTheSameKeys();
     void everyClassOfThePlugInIsThereInItsOrder();
     void askedClassesComeInTheOrderAsked();
@@ -67,20 +69,28 @@ private Q_SLOTS:
     void aPlugInThatIsRefusedIsNamed();
 };
 
-void tst_CliDescribe::theRectangleIsAsItsTableSays()
+void tst_CliDescribe::aClassIsAsItsTableSays_data()
 {
-    const QJsonArray classes = describe({QStringLiteral("Rectangle")});
-    QCOMPARE(classes.size(), 1);
-    const QJsonObject rectangle = classes.first().toObject();
-    QCOMPARE(text(rectangle, "className"), QStringLiteral("Rectangle"));
-    QCOMPARE(text(rectangle, "displayName"), QStringLiteral("Rectangle"));
-    QCOMPARE(text(rectangle, "qmlName"), QStringLiteral("Rectangle2"));
-    QCOMPARE(text(rectangle, "graphicsItem"), QStringLiteral("GraphicsRectangle"));
-    QCOMPARE(text(rectangle, "plugin"), QStringLiteral("VisualElements"));
+    QTest::addColumn<QString>("file");
+    const QFileInfoList tables =
+        QDir(QStringLiteral(MERIDANE_TEST_DATA)).entryInfoList({QStringLiteral("*.tsv")}, QDir::Files);
+    QVERIFY(!tables.isEmpty());
+    for (const QFileInfo& table : tables)
+        QTest::addRow("%s", qPrintable(table.completeBaseName())) << table.filePath();
+}
 
-    const QString file = QStringLiteral(MERIDANE_TEST_DATA "/Rectangle.tsv");
+void tst_CliDescribe::aClassIsAsItsTableSays()
+{
+    QFETCH(QString, file);
+    const QJsonArray classes = describe({QString::fromLatin1(QTest::currentDataTag())});
+    QCOMPARE(classes.size(), 1);
+    const QJsonObject element = classes.first().toObject();
+    const QStringList identity{text(element, "className"), text(element, "displayName"), text(element, "qmlName"),
+                               text(element, "graphicsItem"), text(element, "plugin")};
+    QCOMPARE(readTable(file, QStringLiteral("class")), QList<QStringList>{identity});
+
     const QList<QStringList> properties = readTable(file, QStringLiteral("property"));
-    const QJsonArray described = rectangle.value(QLatin1String("properties")).toArray();
+    const QJsonArray described = element.value(QLatin1String("properties")).toArray();
     QCOMPARE(described.size(), properties.size());
     for (qsizetype i = 0; i < properties.size(); ++i) {
         const QJsonObject property = described.at(i).toObject();
@@ -95,7 +105,7 @@ void tst_CliDescribe::theRectangleIsAsItsTableSays()
     }
 
     const QList<QStringList> runtimeProperties = readTable(file, QStringLiteral("runtime"));
-    const QJsonArray describedRuntime = rectangle.value(QLatin1String("runtimeProperties")).toArray();
+    const QJsonArray describedRuntime = element.value(QLatin1String("runtimeProperties")).toArray();
     QCOMPARE(describedRuntime.size(), runtimeProperties.size());
     for (qsizetype i = 0; i < runtimeProperties.size(); ++i) {
         const QJsonObject property = describedRuntime.at(i).toObject();
@@ -146,7 +156,8 @@ void tst_CliDescribe::everyClassOfThePlugInIsThereInItsOrder()
     const QJsonArray classes = describe();
     for (const QJsonValue& entry : classes)
         names.append(text(entry.toObject(), "className"));
-    QVERIFY(names.contains(QStringLiteral("Rectangle")));
+    for (const char* name : {"Rectangle", "Ellipse", "Polygon"})
+        QVERIFY2(names.contains(QLatin1String(name)), name);
     QStringList wanted{QStringLiteral("Rectangle"),
                        QStringLiteral("Ellipse"),
                        QStringLiteral("Image"),
