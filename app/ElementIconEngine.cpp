@@ -13,6 +13,21 @@
 
 namespace Korvex::Meridane::Designer {
 
+namespace {
+
+/// Dots where an element has points to drag: they tell a free polygon from a regular one.
+void drawPoints(const QVector<QPointF>& points, double radius, QPainter* painter)
+{
+    const QPolygonF onPixmap = painter->transform().map(QPolygonF(points));
+    painter->resetTransform();
+    painter->setPen(QPen(QColor(QRgb(0x3b4554)), radius / 2));
+    painter->setBrush(Qt::white);
+    for (const QPointF& point : onPixmap)
+        painter->drawEllipse(point, radius, radius);
+}
+
+} // namespace
+
 /// The element and its item, shared by the copies of an icon.
 struct ElementIconEngine::Model
 {
@@ -106,6 +121,7 @@ QPixmap ElementIconEngine::drawn(const QSize& pixels, QIcon::Mode mode) const
             QStyleOptionGraphicsItem option;
             option.exposedRect = bounds;
             m_model->graphic->paint(&painter, &option, nullptr);
+            drawPoints(m_model->item->pointHandles(), qMin(card.width(), card.height()) / 18, &painter);
         }
     }
     m_model->pictures.insert(key, pixmap);

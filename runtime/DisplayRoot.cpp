@@ -1,5 +1,7 @@
 #include "runtime/DisplayRoot.h"
 
+#include "runtime/FileName.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QSet>
 #include <QtGui/QFontDatabase>
@@ -12,15 +14,6 @@
 #include <memory>
 
 namespace Korvex::Meridane::Display {
-namespace {
-/** True for the name of a file of its own: what comes from a project never leads out of the folder of the screens. */
-bool isFileName(const QString& name)
-{
-    return !name.isEmpty() && !name.startsWith(QLatin1Char('.')) && !name.contains(QLatin1Char('/'))
-           && !name.contains(QLatin1Char('\\'));
-}
-} // namespace
-
 DisplayRoot::DisplayRoot(QQuickItem* parent)
     : QQuickItem(parent)
 {

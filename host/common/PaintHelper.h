@@ -12,11 +12,13 @@ class QBrush;
 class QColor;
 class QConicalGradient;
 class QFont;
+class QImage;
 class QLinearGradient;
 class QPainter;
 class QPen;
 class QRadialGradient;
 class QStyleOptionGraphicsItem;
+class QSvgRenderer;
 QT_END_NAMESPACE
 
 namespace Korvex::Meridane::Common {
@@ -88,6 +90,15 @@ public:
      */
     static void paintTextBox(QSizeF size, const QFont& font, const QPen& pen, const QString& text, int alignment,
                              const QString& textStyle, const QPen& stylePen, QPainter* painter);
+
+    /**
+     * @p picture, stretched over a content of @p size. Still pictures are scaled smoothly, once for each size in device
+     * pixels; @p moving says that the picture is one frame of many, which is not worth keeping.
+     */
+    static void paintPicture(const QSizeF& size, const QImage& picture, bool moving, QPainter* painter);
+
+    /** @p drawing, stretched over a content of @p size and as sharp as the device. @p id: see PictureCache. */
+    static void paintDrawing(const QSizeF& size, QSvgRenderer* drawing, quint64 id, QPainter* painter);
 
     /**
      * Fills @p polygon with a gradient whose start and final stop are percent (0 … 100) of the polygon's bounding

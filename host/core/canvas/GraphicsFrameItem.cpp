@@ -59,12 +59,12 @@ void GraphicsFrameItem::resizeGraphicsItem(int handle, const QSizeF& outerSize, 
 {
     if (!Common::isFrameHandle(handle))
         return;
-    const FrameChange change = frameChange(handle, outerSize);
+    const QSizeF outer = resizedTo(frameChange(handle, outerSize).outerSize);
     const int border = borderWidth();
-    const QSizeF size = border == 0 ? change.outerSize : withoutNoise(change.outerSize - QSizeF(border, border));
+    const QSizeF size = border == 0 ? outer : withoutNoise(outer - QSizeF(border, border));
     if (!acceptsSize(size))
         return;
-    setItemPosition(change.position);
+    setItemPosition(positionKeepingOpposite(handle, {outerRect().topLeft(), outer}));
     setSize(size);
 }
 
@@ -93,6 +93,11 @@ int GraphicsFrameItem::borderWidth() const
 bool GraphicsFrameItem::acceptsSize(const QSizeF&) const
 {
     return true;
+}
+
+QSizeF GraphicsFrameItem::resizedTo(const QSizeF& outerSize) const
+{
+    return outerSize;
 }
 
 void GraphicsFrameItem::setSize(const QSizeF& size)

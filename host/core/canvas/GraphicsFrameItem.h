@@ -40,6 +40,9 @@ protected:
     /// Whether the item takes \a size on; any size unless overridden.
     [[nodiscard]] virtual bool acceptsSize(const QSizeF& size) const;
 
+    /// The outer size that a drag of the frame to \a outerSize gives; just that unless overridden.
+    [[nodiscard]] virtual QSizeF resizedTo(const QSizeF& outerSize) const;
+
     /// The size of the content in pixels.
     [[nodiscard]] const QSizeF& size() const { return m_size; }
 

@@ -23,7 +23,7 @@ QString SizeEditor::className() const
 
 bool SizeEditor::createEditorWidget()
 {
-    m_widget = new SizeWidget(this);
+    QWidget* widget = createWidgets(&m_widget);
     m_widget->setDecimals(parameter("decimals", 2).toInt());
     const QVariant minimum = parameter("minimumValue");
     if (minimum.isValid())
@@ -41,8 +41,14 @@ bool SizeEditor::createEditorWidget()
             [this] { edit(QStringLiteral("width"), operationText(m_widget->widthOperation())); });
     connect(m_widget, &SizeWidget::userModifiedHeight, this,
             [this] { edit(QStringLiteral("height"), operationText(m_widget->heightOperation())); });
-    setEditorWidget(m_widget);
+    setEditorWidget(widget);
     return true;
+}
+
+QWidget* SizeEditor::createWidgets(SizeWidget** sizeWidget)
+{
+    *sizeWidget = new SizeWidget(this);
+    return *sizeWidget;
 }
 
 UndoCommand* SizeEditor::createUpdateCommand(const QSharedPointer<DesignerProperty>& property, const QString& value,

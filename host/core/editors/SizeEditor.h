@@ -29,6 +29,8 @@ public:
     [[nodiscard]] SizeWidget* sizeWidget() const { return m_widget; }
 
 protected:
+    /// The editor's widget, whose size fields are \a sizeWidget; just these unless overridden.
+    [[nodiscard]] virtual QWidget* createWidgets(SizeWidget** sizeWidget);
     bool showValue(const QString& value) override;
     [[nodiscard]] QString widgetValue() const override;
 

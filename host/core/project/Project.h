@@ -83,6 +83,8 @@ Q_SIGNALS:
     void userModificationRefused(const QString& message);
     void projectBrowserUpdateRequested();
     void resourcesChanged();
+    /// The image file \a fileName in the images folder has other content than before.
+    void imageFileChanged(const QString& fileName);
     void modifiedChanged(bool modified);
 
 private:

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "host/core/canvas/GraphicsFrameItem.h"
+
+#include <memory>
+
+namespace Korvex::Meridane::Designer {
+
+class ImageUpdater;
+
+/// The canvas item of the image. A moving picture plays while the item or its group is selected. Alt+O gives the element
+/// the natural size of its picture.
+class GraphicsImage : public GraphicsFrameItem
+{
+public:
+    explicit GraphicsImage(DesignerObject* dataObject);
+    ~GraphicsImage() override;
+
+    [[nodiscard]] QString className() const override;
+    [[nodiscard]] QStringList classNames() const override;
+    void updateGraphicsItem(const QSharedPointer<DesignerProperty>& property) override;
+    void selectedChanged(bool selected) override;
+
+    [[nodiscard]] const ImageUpdater& updater() const { return *m_updater; }
+    /// Loads the picture again: its file has changed.
+    void reload();
+
+protected:
+    void paintContent(QPainter* painter) override;
+    [[nodiscard]] bool acceptsSize(const QSizeF& size) const override;
+    /// With a kept ratio pictures have whole sizes.
+    [[nodiscard]] QSizeF resizedTo(const QSizeF& outerSize) const override;
+    QVariant itemChange(GraphicsItemChange change, const QVariant& value) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void setImageFile(const QString& path);
+    [[nodiscard]] bool takesPartInSelection() const;
+
+    QString m_path;
+    std::unique_ptr<ImageUpdater> m_updater;
+};
+
+} // namespace Korvex::Meridane::Designer

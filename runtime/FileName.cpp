@@ -1,0 +1,9 @@
+#include "runtime/FileName.h"
+
+namespace Korvex::Meridane::Display {
+bool isFileName(const QString& name)
+{
+    return !name.isEmpty() && !name.startsWith(QLatin1Char('.')) && !name.contains(QLatin1Char('/'))
+           && !name.contains(QLatin1Char('\\'));
+}
+} // namespace Korvex::Meridane::Display
