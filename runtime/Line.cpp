@@ -10,6 +10,21 @@ Line::Line(QQuickItem* parent)
     : OutlinedItem(parent)
 {}
 
+QColor Line::color() const
+{
+    return m_color;
+}
+
+void Line::setColor(const QColor& color)
+{
+    if (color == m_color) {
+        return;
+    }
+    m_color = color;
+    contentChanged();
+    Q_EMIT colorChanged();
+}
+
 double Line::length() const
 {
     return m_length;
@@ -67,7 +82,7 @@ QRectF Line::contentRect() const
 
 void Line::paintContent(QPainter* painter) const
 {
-    Common::PaintHelper::paintIrregularPolygon(outline(), color(), painter);
+    Common::PaintHelper::paintIrregularPolygon(outline(), m_color, painter);
 }
 
 QPolygonF Line::outline() const

@@ -2,6 +2,7 @@
 
 #include "runtime/OutlinedItem.h"
 
+#include <QtGui/QColor>
 #include <QtGui/QPolygonF>
 
 namespace Korvex::Meridane::Display {
@@ -9,6 +10,8 @@ namespace Korvex::Meridane::Display {
 class Line : public Korvex::Meridane::Display::OutlinedItem
 {
     Q_OBJECT
+    /** The colour of the line; it may be translucent. */
+    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged FINAL)
     /** The length in pixels; 0 and less draw nothing. */
     Q_PROPERTY(double length READ length WRITE setLength NOTIFY lengthChanged FINAL)
     /** The direction in degrees, clockwise from the x axis. */
@@ -20,6 +23,8 @@ class Line : public Korvex::Meridane::Display::OutlinedItem
 public:
     explicit Line(QQuickItem* parent = nullptr);
 
+    [[nodiscard]] QColor color() const;
+    void setColor(const QColor& color);
     [[nodiscard]] double length() const;
     void setLength(double length);
     [[nodiscard]] double angle() const;
@@ -28,6 +33,7 @@ public:
     void setLineWidth(int width);
 
 Q_SIGNALS:
+    void colorChanged();
     void lengthChanged();
     void angleChanged();
     void lineWidthChanged();
@@ -40,6 +46,7 @@ protected:
 private:
     [[nodiscard]] QPolygonF outline() const;
 
+    QColor m_color = QColor(248, 151, 29);
     double m_length = 100;
     double m_angle = 0;
     int m_lineWidth = 2;

@@ -8,21 +8,6 @@ OutlinedItem::OutlinedItem(QQuickItem* parent)
     , m_shift(new FixedPointShift(this))
 {}
 
-QColor OutlinedItem::color() const
-{
-    return m_color;
-}
-
-void OutlinedItem::setColor(const QColor& color)
-{
-    if (color == m_color) {
-        return;
-    }
-    m_color = color;
-    contentChanged();
-    Q_EMIT colorChanged();
-}
-
 void OutlinedItem::outlineChanged()
 {
     applyFixedPoint();

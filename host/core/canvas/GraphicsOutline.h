@@ -1,0 +1,52 @@
+#pragma once
+
+#include "host/core/canvas/GraphicsItem.h"
+
+#include <QGraphicsItem>
+#include <QPolygonF>
+
+namespace Korvex::Meridane::Designer {
+
+/**
+ * Base of the canvas items whose outline is a list of points: filled, without a border, scaled by its frame handles.
+ *
+ * A derived item says how the outline is filled and takes its other properties over.
+ */
+class MERIDANE_CORE_EXPORT GraphicsOutline : public QGraphicsItem, public GraphicsItem
+{
+public:
+    ~GraphicsOutline() override;
+
+    [[nodiscard]] QRectF boundingRect() const override;
+    [[nodiscard]] QPainterPath shape() const override;
+    void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
+
+    [[nodiscard]] QPainterPath getShape() const override;
+    void updateGraphicsItem(const QSharedPointer<DesignerProperty>& property) override;
+    UndoCommand* updateDataObject(const QSharedPointer<DesignerProperty>& property, UndoCommand* parent) override;
+    void resizeGraphicsItem(int handle, const QSizeF& outerSize, const QPointF& position) override;
+    [[nodiscard]] QRectF outerRect() const override;
+    [[nodiscard]] QRectF contentRect() const override;
+
+    /// The points in item coordinates.
+    [[nodiscard]] const QPolygonF& polygon() const { return m_polygon; }
+
+    /// While an element scales its points to an outer size that was set, that value stays as it was set: the item
+    /// reports none until the outline changes again.
+    void setKeepsOuterSize(bool keeps) { m_keepsOuterSize = keeps; }
+
+protected:
+    GraphicsOutline(DesignerObject* dataObject, const QPolygonF& polygon);
+
+    /// Draws the outline, in item coordinates.
+    virtual void paintOutline(QPainter* painter) = 0;
+
+private:
+    void setPolygon(const QPolygonF& polygon);
+
+    QPolygonF m_polygon;
+    QRectF m_bounds;
+    bool m_keepsOuterSize = false;
+};
+
+} // namespace Korvex::Meridane::Designer
