@@ -64,7 +64,7 @@ UndoCommand* GraphicsTextBox::updateDataObject(const QSharedPointer<DesignerProp
 
 void GraphicsTextBox::paintContent(QPainter* painter)
 {
-    PaintHelper::paintTextBox(size(), m_font, m_pen, m_text, m_alignment, m_textStyle, m_stylePen, painter);
+    PaintHelper::paintTextBox(size(), m_font, m_pen, m_text, m_alignment, m_textStyle, m_stylePen, painter, &m_layout);
 }
 
 bool GraphicsTextBox::acceptsSize(const QSizeF& size) const

@@ -2,6 +2,8 @@
 
 #include "host/core/canvas/GraphicsFrameItem.h"
 
+#include "host/common/TextBoxLayout.h"
+
 #include <QFont>
 #include <QPen>
 
@@ -38,6 +40,7 @@ private:
     int m_alignment = Qt::AlignLeft | Qt::AlignTop;
     QString m_textStyle = QStringLiteral("Normal");
     QPen m_stylePen;
+    Common::TextBoxLayout m_layout; // of the values above
 };
 
 } // namespace Korvex::Meridane::Designer

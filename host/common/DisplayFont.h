@@ -15,6 +15,12 @@ namespace Korvex::Meridane::Common {
 /** The size of @p font in pixels: its pixel size, or its point size turned into pixels. */
 [[nodiscard]] MERIDANE_COMMON_EXPORT int fontPixelSize(const QFont& font);
 
-/** @p font with its size in pixels, without hinting and without subpixel antialiasing. */
+/**
+ * @p font with its size in pixels, without hinting and without subpixel antialiasing. Its weight is normal or bold: a
+ * display knows no others.
+ */
 [[nodiscard]] MERIDANE_COMMON_EXPORT QFont displayFont(const QFont& font);
+
+/** A number that is another one after fonts have been added to the application or taken from it. Thread-safe. */
+[[nodiscard]] MERIDANE_COMMON_EXPORT int fontGeneration();
 } // namespace Korvex::Meridane::Common

@@ -22,6 +22,8 @@ class QSvgRenderer;
 QT_END_NAMESPACE
 
 namespace Korvex::Meridane::Common {
+class TextBoxLayout;
+
 /**
  * Draws the elements: on the canvas, into pictures and on the running display, always by these functions.
  *
@@ -79,7 +81,7 @@ public:
 
     /**
      * A text in a box of @p size, broken at the box's width (between words, inside a word that is too long) and clipped
-     * to the box.
+     * to the box. Every line break in it starts a paragraph, which has the direction of its own first letter.
      *
      * @param font drawn as displayFont() makes it
      * @param pen the colour of the letters
@@ -90,6 +92,10 @@ public:
      */
     static void paintTextBox(QSizeF size, const QFont& font, const QPen& pen, const QString& text, int alignment,
                              const QString& textStyle, const QPen& stylePen, QPainter* painter);
+
+    /** The same for a box that is drawn again and again: @p layout is its own, and keeps what took time. */
+    static void paintTextBox(QSizeF size, const QFont& font, const QPen& pen, const QString& text, int alignment,
+                             const QString& textStyle, const QPen& stylePen, QPainter* painter, TextBoxLayout* layout);
 
     /**
      * @p picture, stretched over a content of @p size. Still pictures are scaled smoothly, once for each size in device

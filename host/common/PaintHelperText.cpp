@@ -1,12 +1,11 @@
 #include "host/common/PaintHelper.h"
 
 #include "host/common/DisplayFont.h"
+#include "host/common/TextBoxLayout.h"
 
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
 #include <QtGui/QPen>
-#include <QtGui/QTextLayout>
-#include <QtGui/QTextOption>
 
 #include <array>
 #include <span>
@@ -36,61 +35,10 @@ std::span<const QPointF> styleOffsets(const QString& textStyle)
     return {};
 }
 
-QString withLineSeparators(const QString& text)
-{
-    QString result(text);
-    result.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-    result.replace(QLatin1Char('\r'), QChar::LineSeparator);
-    result.replace(QLatin1Char('\n'), QChar::LineSeparator);
-    return result;
-}
-
-QTextOption textOption(int alignment)
-{
-    QTextOption option;
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    // Metrics that do not depend on the zoom keep the line breaks where they are.
-    option.setUseDesignMetrics(true);
-    if (alignment & Qt::AlignRight) {
-        option.setAlignment(Qt::AlignRight | Qt::AlignAbsolute);
-    } else if (alignment & Qt::AlignHCenter) {
-        option.setAlignment(Qt::AlignHCenter);
-    } else {
-        option.setAlignment(Qt::AlignLeft | Qt::AlignAbsolute);
-    }
-    return option;
-}
-
-/** Breaks the text at @p width, lines from 0 downwards. @return their height together */
-double breakLines(QTextLayout& layout, double width)
-{
-    double height = 0;
-    layout.beginLayout();
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLeadingIncluded(true);
-        line.setLineWidth(width);
-        line.setPosition(QPointF(0, height));
-        height += line.height();
-    }
-    layout.endLayout();
-    return height;
-}
-
-double verticalOffset(int alignment, double boxHeight, double textHeight)
-{
-    if (alignment & Qt::AlignBottom) {
-        return boxHeight - textHeight;
-    }
-    if (alignment & Qt::AlignVCenter) {
-        return 0.5 * (boxHeight - textHeight);
-    }
-    return 0;
-}
-
-void drawCopies(const QTextLayout& layout, const QPointF& origin, std::span<const QPointF> offsets, QPainter* painter)
+void drawCopies(const TextBoxLayout& layout, std::span<const QPointF> offsets, QPainter* painter)
 {
     for (const QPointF& offset : offsets) {
-        layout.draw(painter, origin + offset);
+        layout.draw(painter, offset);
     }
 }
 
@@ -98,8 +46,8 @@ void drawCopies(const QTextLayout& layout, const QPointF& origin, std::span<cons
  * Draws copies that overlap in a translucent colour as one shade: opaque on a layer in the pixels of the device, which
  * is then laid over the picture. @p box is the area that can be seen.
  */
-void drawTranslucentCopies(const QTextLayout& layout, const QPointF& origin, std::span<const QPointF> offsets,
-                           const QColor& color, const QRectF& box, QPainter* painter)
+void drawTranslucentCopies(const TextBoxLayout& layout, std::span<const QPointF> offsets, const QColor& color,
+                           const QRectF& box, QPainter* painter)
 {
     const QTransform toDevice = painter->deviceTransform();
     const double pixelRatio = painter->device()->devicePixelRatioF();
@@ -117,7 +65,7 @@ void drawTranslucentCopies(const QTextLayout& layout, const QPointF& origin, std
     layerPainter.setRenderHints(painter->renderHints());
     layerPainter.setTransform(toDevice * QTransform::fromTranslate(-area.x(), -area.y()));
     layerPainter.setPen(QColor(color.rgb()));
-    drawCopies(layout, origin, offsets, &layerPainter);
+    drawCopies(layout, offsets, &layerPainter);
     layerPainter.end();
 
     layer.setDevicePixelRatio(pixelRatio);
@@ -132,13 +80,17 @@ void drawTranslucentCopies(const QTextLayout& layout, const QPointF& origin, std
 void PaintHelper::paintTextBox(QSizeF size, const QFont& font, const QPen& pen, const QString& text, int alignment,
                                const QString& textStyle, const QPen& stylePen, QPainter* painter)
 {
+    TextBoxLayout layout;
+    paintTextBox(size, font, pen, text, alignment, textStyle, stylePen, painter, &layout);
+}
+
+void PaintHelper::paintTextBox(QSizeF size, const QFont& font, const QPen& pen, const QString& text, int alignment,
+                               const QString& textStyle, const QPen& stylePen, QPainter* painter, TextBoxLayout* layout)
+{
     if (!(size.width() > 0 && size.height() > 0) || text.isEmpty()) {
         return;
     }
-    QTextLayout layout(withLineSeparators(text), displayFont(font));
-    layout.setTextOption(textOption(alignment));
-    const double textHeight = breakLines(layout, size.width());
-    const QPointF origin(0, verticalOffset(alignment, size.height(), textHeight));
+    layout->prepare(text, displayFont(font), size, alignment);
     const QRectF box(QPointF(0, 0), size);
     const std::span<const QPointF> offsets = styleOffsets(textStyle);
 
@@ -147,14 +99,14 @@ void PaintHelper::paintTextBox(QSizeF size, const QFont& font, const QPen& pen, 
     painter->setClipRect(box, Qt::IntersectClip);
     const QColor styleColor = stylePen.color();
     if (styleColor.isValid() && offsets.size() > 1 && styleColor.alpha() < 255) {
-        drawTranslucentCopies(layout, origin, offsets, styleColor, box, painter);
+        drawTranslucentCopies(*layout, offsets, styleColor, box, painter);
     } else if (styleColor.isValid()) {
         painter->setPen(styleColor);
-        drawCopies(layout, origin, offsets, painter);
+        drawCopies(*layout, offsets, painter);
     }
     if (pen.color().isValid()) {
         painter->setPen(pen.color());
-        layout.draw(painter, origin);
+        layout->draw(painter, QPointF(0, 0));
     }
     painter->restore();
 }
