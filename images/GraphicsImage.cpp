@@ -58,6 +58,7 @@ void GraphicsImage::selectedChanged(bool selected)
 
 void GraphicsImage::reload()
 {
+    m_path = imageFileOf(dataObject()); // the project may have moved
     m_updater->setImageFile(m_path);
     if (takesPartInSelection())
         m_updater->startAnimation();

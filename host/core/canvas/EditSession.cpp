@@ -12,6 +12,7 @@
 #include "host/core/objects/Screen.h"
 #include "host/core/objects/VisualElement.h"
 #include "host/core/plugins/DesignerFactory.h"
+#include "host/core/project/ImageReferences.h"
 #include "host/core/project/Project.h"
 #include "host/core/project/ResourceImporter.h"
 #include "host/core/properties/DesignerProperty.h"
@@ -303,6 +304,35 @@ EditResult EditSession::importImage(const QString& file, QString* id)
     if (id)
         *id = fileName;
     return {true, false, {}};
+}
+
+EditResult EditSession::renameImage(const QString& image, const QString& name, QString* id)
+{
+    return executePlan(ImageEdits::rename(m_project.get(), image, name, m_selection), image, id);
+}
+
+EditResult EditSession::replaceImage(const QString& image, const QString& file, QString* id)
+{
+    return executePlan(ImageEdits::replace(m_project.get(), image, file, m_selection), image, id);
+}
+
+EditResult EditSession::removeImage(const QString& image)
+{
+    return executePlan(ImageEdits::remove(m_project.get(), image), image, nullptr);
+}
+
+EditResult EditSession::executePlan(ImageEdits::Plan plan, const QString& image, QString* id)
+{
+    if (!plan.message.isEmpty())
+        return refused(plan.message);
+    if (id)
+        *id = plan.image;
+    if (!plan.command)
+        return {true, false, {}};
+    const QList<ImageUse> uses = ImageReferences::uses(m_project.get(), image);
+    for (const ImageUse& use : uses)
+        scene(screenOf(use.object)); // an edit always has items
+    return execute(std::move(plan.command));
 }
 
 EditResult EditSession::undo()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/core/commands/UndoStack.h"
+#include "host/core/project/ImageEdits.h"
 
 #include <QList>
 #include <QMap>
@@ -68,6 +69,12 @@ public:
     /// Copies an image file into the project; refused when no reader can decode it. \a id: the new resource's file
     /// name, a free one made of the file's own name.
     EditResult importImage(const QString& file, QString* id);
+    /// Calls the image resource \a image \a name; links follow. \a id: its name then, with the ending that it needs.
+    EditResult renameImage(const QString& image, const QString& name, QString* id = nullptr);
+    /// Lets \a image hold the picture in \a file. \a id: its name then, which ends as the new picture asks for.
+    EditResult replaceImage(const QString& image, const QString& file, QString* id = nullptr);
+    /// Removes \a image; refused while anything uses it.
+    EditResult removeImage(const QString& image);
     EditResult undo();
     EditResult redo();
 
@@ -80,6 +87,7 @@ Q_SIGNALS:
 private:
     EditResult refused(const QString& message);
     EditResult execute(std::unique_ptr<UndoCommand> command);
+    EditResult executePlan(ImageEdits::Plan plan, const QString& image, QString* id);
     [[nodiscard]] Screen* screenOf(DesignerObject* object) const;
     void onStepApplied(const UndoCommand* command);
     void onObjectRemoved(DesignerObject* object);

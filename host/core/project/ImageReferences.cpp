@@ -2,6 +2,7 @@
 
 #include "host/core/objects/UnknownElement.h"
 #include "host/core/project/ObjectTree.h"
+#include "host/core/project/Project.h"
 #include "host/core/properties/LinkProperty.h"
 
 #include <QJsonArray>
@@ -26,6 +27,27 @@ void collectTexts(const QJsonValue& value, QSet<QString>& texts)
     }
 }
 
+/// Calls \a visit with every link of \a object that names an image.
+template <typename Visitor>
+void visitLinks(const DesignerObject* object, const Visitor& visit)
+{
+    for (const auto& property : object->properties()) {
+        const auto* link = dynamic_cast<const LinkProperty*>(property.data());
+        if (link && ImageReferences::isImageLink(*link) && !link->valueString().isEmpty())
+            visit(property);
+    }
+}
+
+/// All texts in what this version does not understand of \a object.
+QSet<QString> unknownTexts(const DesignerObject* object)
+{
+    QSet<QString> texts;
+    collectTexts(object->unknownKeys(), texts);
+    if (const auto* unknown = qobject_cast<const UnknownElement*>(object))
+        collectTexts(unknown->entry(), texts);
+    return texts;
+}
+
 } // namespace
 
 bool ImageReferences::isImageLink(const LinkProperty& link)
@@ -33,15 +55,36 @@ bool ImageReferences::isImageLink(const LinkProperty& link)
     return link.value().filterType().contains(QLatin1String("ImageResource"));
 }
 
+QList<ImageUse> ImageReferences::uses(const Project* project, const QString& image)
+{
+    QList<ImageUse> uses;
+    ObjectTree::visitRead(project, [&](const DesignerObject* visited) {
+        auto* object = const_cast<DesignerObject*>(visited);
+        visitLinks(visited, [&](const QSharedPointer<DesignerProperty>& link) {
+            if (link->valueString() == image)
+                uses.append(ImageUse{object, link});
+        });
+        if (unknownTexts(visited).contains(image))
+            uses.append(ImageUse{object, {}});
+    });
+    return uses;
+}
+
+QHash<QString, int> ImageReferences::useCounts(const Project* project)
+{
+    QHash<QString, int> counts;
+    ObjectTree::visitRead(project, [&counts](const DesignerObject* visited) {
+        visitLinks(visited, [&counts](const QSharedPointer<DesignerProperty>& link) { ++counts[link->valueString()]; });
+    });
+    return counts;
+}
+
 QSet<QString> ImageReferences::linked(const DesignerObject* object)
 {
     QSet<QString> images;
     ObjectTree::visitRead(object, [&images](const DesignerObject* visited) {
-        for (const auto& property : visited->properties()) {
-            const auto* link = dynamic_cast<const LinkProperty*>(property.data());
-            if (link && isImageLink(*link) && !link->valueString().isEmpty())
-                images.insert(link->valueString());
-        }
+        visitLinks(visited,
+                   [&images](const QSharedPointer<DesignerProperty>& link) { images.insert(link->valueString()); });
     });
     return images;
 }
@@ -49,11 +92,7 @@ QSet<QString> ImageReferences::linked(const DesignerObject* object)
 QSet<QString> ImageReferences::mentioned(const DesignerObject* object)
 {
     QSet<QString> images = linked(object);
-    ObjectTree::visitRead(object, [&images](const DesignerObject* visited) {
-        collectTexts(visited->unknownKeys(), images);
-        if (const auto* unknown = qobject_cast<const UnknownElement*>(visited))
-            collectTexts(unknown->entry(), images);
-    });
+    ObjectTree::visitRead(object, [&images](const DesignerObject* visited) { images += unknownTexts(visited); });
     return images;
 }
 

@@ -125,9 +125,12 @@ Screen* Project::screen(const QString& id) const
 
 void Project::setFolder(const QString& folder)
 {
+    if (m_folder == folder)
+        return;
     m_folder = folder;
     m_imagesPath = QDir(folder).filePath(QStringLiteral("images"));
     m_fontsPath = QDir(folder).filePath(QStringLiteral("fonts"));
+    Q_EMIT folderChanged();
 }
 
 void Project::setImageResources(const QStringList& fileNames)

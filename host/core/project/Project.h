@@ -83,8 +83,10 @@ Q_SIGNALS:
     void userModificationRefused(const QString& message);
     void projectBrowserUpdateRequested();
     void resourcesChanged();
-    /// The image file \a fileName in the images folder has other content than before.
+    /// The image file \a fileName in the images folder has other content than before: it came, went or was replaced.
     void imageFileChanged(const QString& fileName);
+    /// The project has moved to another folder, and its images and fonts with it.
+    void folderChanged();
     void modifiedChanged(bool modified);
 
 private:

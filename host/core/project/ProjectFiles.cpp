@@ -24,6 +24,7 @@ ProjectFiles::ProjectFiles(Project* project)
 
 ProjectFiles::~ProjectFiles()
 {
+    takeBackImages();
     removeDiscardedImages();
 }
 
@@ -89,6 +90,39 @@ void ProjectFiles::setForeignResources(const QStringList& images, const QStringL
     noteImages();
 }
 
+void ProjectFiles::adoptForeignImage(const QString& image)
+{
+    if (m_foreignImages.removeAll(image) > 0)
+        m_ownImages.insert(image);
+}
+
+void ProjectFiles::releaseForeignImage(const QString& image)
+{
+    m_ownImages.remove(image);
+    m_reservedImages.remove(image);
+    if (!m_foreignImages.contains(image))
+        m_foreignImages.append(image);
+}
+
+bool ProjectFiles::writeImage(const QString& fileName, const QByteArray& content, QString* message)
+{
+    if (!m_images.write(folder(), fileName, content, message))
+        return false;
+    Q_EMIT m_project->imageFileChanged(fileName);
+    return true;
+}
+
+QByteArray ProjectFiles::readImage(const QString& fileName) const
+{
+    return ImageFolder::read(folder(), fileName);
+}
+
+void ProjectFiles::takeBackImages()
+{
+    if (m_images.isChanged() && !m_temporaryFolder)
+        m_images.takeBack(ProjectFolder(m_folderPath), mentionedInFolder());
+}
+
 void ProjectFiles::setReservedImages(const QStringList& images)
 {
     m_reservedImages = QSet<QString>(images.cbegin(), images.cend());
@@ -147,11 +181,10 @@ void ProjectFiles::noteImages()
     }
 }
 
-void ProjectFiles::removeDiscardedImages()
+/// Every text by which a file of the project, as they stand now, whoever wrote them, could name an image; nothing when
+/// one of them cannot be read.
+std::optional<QSet<QString>> ProjectFiles::mentionedInFolder() const
 {
-    if (m_discardedImages.isEmpty() || m_temporaryFolder)
-        return;
-    // Only what no file of the project names as it stands now, whoever wrote it, may go.
     const ProjectFolder folder(m_folderPath);
     QStringList files{ProjectFolder::projectFile()};
     const QStringList screens = folder.fileNames(QStringLiteral("screens"));
@@ -164,11 +197,22 @@ void ProjectFiles::removeDiscardedImages()
         const bool read = folder.read(file, &content, &ignored) == ProjectFolder::Found::File;
         const std::optional<QJsonObject> object = read ? JsonText::parse(content, &ignored) : std::nullopt;
         if (!object)
-            return;
+            return std::nullopt;
         mentioned += ImageReferences::texts(*object);
     }
+    return mentioned;
+}
+
+void ProjectFiles::removeDiscardedImages()
+{
+    if (m_discardedImages.isEmpty() || m_temporaryFolder)
+        return;
+    const std::optional<QSet<QString>> mentioned = mentionedInFolder();
+    if (!mentioned)
+        return;
+    const ProjectFolder folder(m_folderPath);
     for (const QString& image : std::as_const(m_discardedImages)) {
-        if (!mentioned.contains(image))
+        if (!mentioned->contains(image))
             FileOperations::current().removeFile(folder.absolute(ProjectFolder::imageFile(image)), nullptr);
     }
 }

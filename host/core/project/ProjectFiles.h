@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/project/ImageFolder.h"
 #include "host/core/project/ProjectFolder.h"
 #include "host/core/project/ProjectFonts.h"
 
@@ -11,6 +12,7 @@
 #include <QTemporaryDir>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace Korvex::Meridane::Designer {
@@ -40,7 +42,8 @@ public:
     [[nodiscard]] static ProjectFiles* of(Project* project);
     /// Of \a project, or null.
     [[nodiscard]] static const ProjectFiles* find(const Project* project);
-    /// The project is closed: removes the images that a save has discarded.
+    /// The project is closed: removes the images that a save has discarded, and takes back what was done to the images
+    /// since.
     ~ProjectFiles() override;
 
     [[nodiscard]] ProjectFolder folder() const;
@@ -75,6 +78,19 @@ public:
     void setForeignResources(const QStringList& images, const QStringList& fonts);
     [[nodiscard]] const QStringList& foreignImages() const { return m_foreignImages; }
     [[nodiscard]] const QStringList& foreignFonts() const { return m_foreignFonts; }
+    /// The user has handed an image of his own over to the program, by renaming or removing it there; or takes that back.
+    void adoptForeignImage(const QString& image);
+    void releaseForeignImage(const QString& image);
+
+    /// Puts \a content into the image file \a fileName of the project's folder and announces it. False with a message
+    /// that names the file when that is not possible.
+    bool writeImage(const QString& fileName, const QByteArray& content, QString* message);
+    /// What the image file \a fileName holds; null where there is none that may be read.
+    [[nodiscard]] QByteArray readImage(const QString& fileName) const;
+    /// The image files of the folder are those of the saved project.
+    void setImagesSaved() { m_images.setSaved(); }
+    /// Puts the image files of the folder, which the project is about to leave, back to what they were at its last save.
+    void takeBackImages();
 
     /// Every image that has been the project's own since it was opened: those of project.json and those imported.
     [[nodiscard]] const QSet<QString>& ownImages() const { return m_ownImages; }
@@ -94,6 +110,7 @@ private:
     void readScreen(Screen* screen);
     [[nodiscard]] bool readScreenFile(ScreenFile& entry, Screen* screen, QString* error);
     void noteImages();
+    [[nodiscard]] std::optional<QSet<QString>> mentionedInFolder() const;
     void removeDiscardedImages();
 
     QPointer<Project> m_project;
@@ -108,6 +125,7 @@ private:
     QSet<QString> m_ownImages;
     QSet<QString> m_reservedImages;
     QSet<QString> m_discardedImages;
+    ImageFolder m_images;
     ProjectFonts m_fonts;
 };
 

@@ -254,7 +254,11 @@ void ProjectWriter::findDiscardedImages()
         m_mentionedImages += ImageReferences::mentioned(screen);
         m_files->addImageLinks(ImageReferences::linked(screen));
     }
-    QSet<QString> candidates = m_files->ownImages() - m_mentionedImages - m_files->reservedImages();
+    // An image that is kept for later use and was renamed or removed is kept no more.
+    QSet<QString> reserved = m_files->reservedImages();
+    const QStringList& offered = m_project->imageResources();
+    reserved.intersect(QSet<QString>(offered.cbegin(), offered.cend()));
+    QSet<QString> candidates = m_files->ownImages() - m_mentionedImages - reserved;
     if (candidates.isEmpty() && m_own)
         return;
     bool certain = true;
@@ -315,10 +319,24 @@ bool ProjectWriter::planProjectFile(QString* message)
     return planFile(file, JsonText::write(m_projectObject), nullptr, message);
 }
 
+/// Images of the user's that nothing shows have stayed in the folder that the project comes from.
+void ProjectWriter::leaveUnusedImages()
+{
+    QStringList images = m_project->imageResources();
+    images.removeIf([this](const QString& image) {
+        return !m_files->ownImages().contains(image) && !m_mentionedImages.contains(image);
+    });
+    m_project->setImageResources(images);
+}
+
 void ProjectWriter::adoptResult()
 {
-    if (!m_own)
+    if (!m_own) {
+        m_files->takeBackImages();
         m_files->setFolder(m_target.path());
+        leaveUnusedImages();
+    }
+    m_files->setImagesSaved();
     std::vector<ProjectFiles::ScreenFile>& entries = m_files->screenFiles();
     const QStringList kept = m_screenFiles.values();
     for (const ProjectFiles::ScreenFile& entry : entries) {

@@ -42,6 +42,7 @@ private:
     [[nodiscard]] bool meansTheSame(const QByteArray& text, const Screen* screen, const QByteArray& content) const;
     [[nodiscard]] QSet<QString> imagesOfUnreadScreens(bool* certain) const;
     [[nodiscard]] bool isIntoOwnFolder() const;
+    void leaveUnusedImages();
     void adoptResult();
 
     Project* m_project;
