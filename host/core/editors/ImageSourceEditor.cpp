@@ -1,7 +1,9 @@
 #include "host/core/editors/ImageSourceEditor.h"
 
 #include "host/core/canvas/EditSession.h"
+#include "host/core/canvas/ImagePlacement.h"
 #include "host/core/editors/ImageThumbnails.h"
+#include "host/core/project/ImageFormats.h"
 #include "host/core/project/Project.h"
 #include "host/core/properties/DesignerProperty.h"
 #include "host/core/widgets/ComboBox.h"
@@ -12,10 +14,9 @@
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QHBoxLayout>
-#include <QImageReader>
 #include <QMimeData>
-#include <QTimer>
 #include <QToolButton>
 #include <QUrl>
 
@@ -25,6 +26,8 @@ using Common::LocalizationHelper;
 
 namespace {
 
+constexpr int ThumbnailScale = 2; // sharp on screens with small pixels
+
 /// The one local file of a drag, or empty.
 QString draggedFile(const QMimeData* data)
 {
@@ -32,22 +35,20 @@ QString draggedFile(const QMimeData* data)
     return urls.size() == 1 && urls.first().isLocalFile() ? urls.first().toLocalFile() : QString();
 }
 
-QString imageFileFilter()
+/// The one image of the project's list that is dragged, or empty.
+QString draggedImage(const QMimeData* data)
 {
-    QStringList patterns;
-    for (const QByteArray& format : QImageReader::supportedImageFormats())
-        patterns.append(QStringLiteral("*.") + QString::fromLatin1(format));
-    return LocalizationHelper::coreString(QStringLiteral("Images (%1)")).arg(patterns.join(QLatin1Char(' ')));
+    const QList<QByteArray> names = data ? data->data(ImagePlacement::mimeType()).split('\n') : QList<QByteArray>();
+    return names.size() == 1 ? QString::fromUtf8(names.first()) : QString();
 }
 
 } // namespace
 
 ImageSourceEditor::ImageSourceEditor(QWidget* parent)
     : LinkEditor(parent)
-    , m_thumbnails(new QTimer(this))
+    , m_thumbnails(new ImageThumbnails(ThumbnailScale * ImageThumbnails::Side, this))
 {
-    m_thumbnails->setInterval(0);
-    connect(m_thumbnails, &QTimer::timeout, this, &ImageSourceEditor::loadNextThumbnail);
+    connect(m_thumbnails, &ImageThumbnails::loaded, this, &ImageSourceEditor::showThumbnail);
 }
 
 ImageSourceEditor::~ImageSourceEditor() = default;
@@ -81,6 +82,9 @@ void ImageSourceEditor::propertyReplaced()
 {
     if (m_button)
         m_button->setEnabled(session() != nullptr);
+    disconnect(m_fileChanges);
+    if (const Project* owner = project())
+        m_fileChanges = connect(owner, &Project::imageFileChanged, this, &ImageSourceEditor::requestThumbnail);
 }
 
 void ImageSourceEditor::importFile(const QString& file)
@@ -93,7 +97,12 @@ void ImageSourceEditor::importFile(const QString& file)
         refuse(result.message);
         return;
     }
-    fillChoices(id);
+    linkTo(id);
+}
+
+void ImageSourceEditor::linkTo(const QString& image)
+{
+    fillChoices(image);
     edit();
 }
 
@@ -110,41 +119,50 @@ bool ImageSourceEditor::isCandidate(const QString& id) const
 
 void ImageSourceEditor::choicesReplaced()
 {
-    m_nextThumbnail = 0;
-    m_thumbnails->start();
+    m_thumbnails->cancel();
+    for (int index = 0; index < comboBox()->count(); ++index)
+        requestThumbnail(comboBox()->itemData(index).toString());
 }
 
 void ImageSourceEditor::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (session() && !draggedFile(event->mimeData()).isEmpty())
+    if (isCandidate(draggedImage(event->mimeData())) || (session() && !draggedFile(event->mimeData()).isEmpty()))
         event->acceptProposedAction();
 }
 
 void ImageSourceEditor::dropEvent(QDropEvent* event)
 {
     event->acceptProposedAction();
-    importFile(draggedFile(event->mimeData()));
+    const QString image = draggedImage(event->mimeData());
+    if (isCandidate(image))
+        linkTo(image);
+    else
+        importFile(draggedFile(event->mimeData()));
 }
 
 void ImageSourceEditor::chooseFile()
 {
     const QString file = QFileDialog::getOpenFileName(
-        this, LocalizationHelper::coreString(QStringLiteral("Import Image")), QString(), imageFileFilter());
+        this, LocalizationHelper::coreString(QStringLiteral("Import Image")), QString(), ImageFormats::fileFilter());
     if (!file.isEmpty())
         importFile(file);
 }
 
-void ImageSourceEditor::loadNextThumbnail()
+void ImageSourceEditor::requestThumbnail(const QString& image)
 {
-    const Project* owner = project();
-    if (!owner || m_nextThumbnail >= comboBox()->count()) {
-        m_thumbnails->stop();
+    if (isCandidate(image) && comboBox()->findData(image) >= 0)
+        m_thumbnails->request(QDir(project()->imagesPath()).filePath(image));
+}
+
+void ImageSourceEditor::showThumbnail(const QString& file, const ImageThumbnail& thumbnail)
+{
+    const int index = comboBox()->findData(QFileInfo(file).fileName());
+    if (index < 0)
         return;
-    }
-    const QString id = comboBox()->itemData(m_nextThumbnail).toString();
-    if (owner->imageResources().contains(id))
-        comboBox()->setItemIcon(m_nextThumbnail, ImageThumbnails::thumbnail(QDir(owner->imagesPath()).filePath(id)));
-    ++m_nextThumbnail;
+    const bool empty = thumbnail.picture.isNull();
+    comboBox()->setItemIcon(
+        index, empty ? QIcon()
+                     : QIcon(ImageThumbnails::squarePixmap(thumbnail.picture, ImageThumbnails::Side, ThumbnailScale)));
 }
 
 } // namespace Korvex::Meridane::Designer

@@ -2,13 +2,16 @@
 
 #include "host/core/editors/LinkEditor.h"
 
-class QTimer;
 class QToolButton;
 
 namespace Korvex::Meridane::Designer {
 
+class ImageThumbnails;
+struct ImageThumbnail;
+
 /**
- * The editor of a link to an image resource of the project: a list with thumbnails, and a button that imports a file.
+ * The editor of a link to an image resource of the project: a list with thumbnails, and a button that imports a file. A
+ * file, or an image of the project's list, can be dropped on it.
  *
  * Importing copies the file into the project and links to the copy. It needs the session() and is disabled without one.
  * Editor parameters as in LinkEditor.
@@ -39,11 +42,13 @@ protected:
 
 private:
     void chooseFile();
-    void loadNextThumbnail();
+    void linkTo(const QString& image);
+    void requestThumbnail(const QString& image);
+    void showThumbnail(const QString& file, const ImageThumbnail& thumbnail);
 
     QToolButton* m_button = nullptr;
-    QTimer* m_thumbnails; // loads one picture at a time, so that opening the list never waits
-    int m_nextThumbnail = 0;
+    ImageThumbnails* m_thumbnails;
+    QMetaObject::Connection m_fileChanges; // of the project that the property belongs to
 };
 
 } // namespace Korvex::Meridane::Designer

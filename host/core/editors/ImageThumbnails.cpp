@@ -1,64 +1,158 @@
 #include "host/core/editors/ImageThumbnails.h"
 
+#include "host/common/PictureCache.h"
+
 #include <QCache>
 #include <QDateTime>
 #include <QFileInfo>
-#include <QImageReader>
 #include <QPainter>
-#include <QPixmap>
+#include <QSvgRenderer>
 
 namespace Korvex::Meridane::Designer {
 
+using Common::PictureCache;
+using Common::PictureKind;
+
 namespace {
 
-/// A small drawing can ask for endless painting by nested references. Such files, and packed ones that cannot be looked
-/// into, get no thumbnail.
-bool isHarmlessDrawing(const QString& file)
+/// The largest size in the ratio of \a natural that fits into a square of \a side pixels; no larger than \a natural.
+QSize fitted(const QSize& natural, int side)
 {
-    constexpr qint64 Largest = 1024 * 1024;
-    QFile drawing(file);
-    return drawing.size() <= Largest && drawing.open(QIODevice::ReadOnly) && !drawing.readAll().contains("<use");
+    const QSize square(side, side);
+    const bool fits = natural.width() <= side && natural.height() <= side;
+    return fits ? natural : natural.scaled(square, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
 }
 
-QIcon makeThumbnail(const QString& file)
+QImage painted(const QString& file, const QSize& natural, int side)
 {
-    const QString suffix = QFileInfo(file).suffix().toLower();
-    if (suffix == QLatin1String("svgz") || (suffix == QLatin1String("svg") && !isHarmlessDrawing(file)))
-        return {};
-    constexpr int Scale = 2; // sharp on screens with small pixels
-    constexpr QSize Square(ImageThumbnails::Side * Scale, ImageThumbnails::Side * Scale);
-    QImageReader reader(file);
-    reader.setAutoTransform(true);
-    const QSize size = reader.size();
-    if (size.isValid() && (size.width() > Square.width() || size.height() > Square.height()))
-        reader.setScaledSize(size.scaled(Square, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
-    QImage image = reader.read();
-    if (image.isNull())
-        return {};
-    if (image.width() > Square.width() || image.height() > Square.height())
-        image = image.scaled(Square, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    QPixmap square(Square);
-    square.fill(Qt::transparent);
-    QPainter painter(&square);
-    painter.drawImage((Square.width() - image.width()) / 2, (Square.height() - image.height()) / 2, image);
-    return QIcon(square);
+    QSvgRenderer drawing(file);
+    // A drawing is as sharp at any size.
+    const QSize size =
+        natural.isEmpty() ? QSize(side, side) : natural.scaled(side, side, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+    QImage picture(size, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    drawing.render(&painter, QRectF(QPointF(0, 0), size));
+    return picture;
+}
+
+ImageThumbnail makeThumbnail(const QString& file, int side)
+{
+    ImageThumbnail thumbnail;
+    thumbnail.info = Common::pictureInfo(file, &thumbnail.reason);
+    if (thumbnail.info.kind == PictureKind::Unreadable)
+        return thumbnail;
+    if (thumbnail.info.kind == PictureKind::Drawing) {
+        thumbnail.picture = painted(file, thumbnail.info.size, side);
+        return thumbnail;
+    }
+    const QImage still = PictureCache::still(file);
+    if (still.isNull()) {
+        thumbnail.info.kind = PictureKind::Unreadable;
+        thumbnail.reason = QStringLiteral("the file is damaged");
+        return thumbnail;
+    }
+    thumbnail.picture = PictureCache::scaled(still, fitted(still.size(), side));
+    return thumbnail;
+}
+
+/// What has been made, by file, time and size of the file, and side. GUI thread only.
+QCache<QString, ImageThumbnail>& cache()
+{
+    constexpr int Kept = 500;
+    static QCache<QString, ImageThumbnail> thumbnails(Kept);
+    return thumbnails;
+}
+
+QString keyOf(const QString& file, int side)
+{
+    const QFileInfo info(file);
+    return QStringLiteral("%1|%2|%3|%4")
+        .arg(info.lastModified().toMSecsSinceEpoch())
+        .arg(info.size())
+        .arg(side)
+        .arg(file);
 }
 
 } // namespace
 
-QIcon ImageThumbnails::thumbnail(const QString& file)
+ImageThumbnails::ImageThumbnails(int side, QObject* parent)
+    : QObject(parent)
+    , m_side(side)
+{}
+
+ImageThumbnails::~ImageThumbnails()
 {
-    constexpr int Kept = 500;
-    static QCache<QString, QIcon> cache(Kept);
-    const QFileInfo info(file);
-    const QString key =
-        QStringLiteral("%1|%2|%3")
-            .arg(file, QString::number(info.lastModified().toMSecsSinceEpoch()), QString::number(info.size()));
-    if (const QIcon* known = cache.object(key))
-        return *known;
-    QIcon icon = makeThumbnail(file);
-    cache.insert(key, new QIcon(icon));
-    return icon;
+    m_waiting.clear();
+    m_thread.quit();
+    m_thread.wait();
+    delete m_worker;
+}
+
+void ImageThumbnails::request(const QString& file)
+{
+    if (!m_waiting.contains(file))
+        m_waiting.append(file);
+    if (!m_loading)
+        QMetaObject::invokeMethod(this, &ImageThumbnails::loadNext, Qt::QueuedConnection);
+}
+
+void ImageThumbnails::cancel()
+{
+    m_waiting.clear();
+}
+
+void ImageThumbnails::loadNext()
+{
+    while (!m_loading && !m_waiting.isEmpty()) {
+        const QString file = m_waiting.takeFirst();
+        const QString key = keyOf(file, m_side);
+        if (const ImageThumbnail* known = cache().object(key)) {
+            const ImageThumbnail thumbnail = *known;
+            Q_EMIT loaded(file, thumbnail);
+            continue;
+        }
+        if (!m_worker) {
+            m_worker = new QObject;
+            m_worker->moveToThread(&m_thread);
+            m_thread.start(QThread::LowPriority);
+        }
+        m_loading = true;
+        QMetaObject::invokeMethod(m_worker, [this, file, key, side = m_side] {
+            const ImageThumbnail thumbnail = makeThumbnail(file, side);
+            // This object is there: it waits for the thread before it goes.
+            QMetaObject::invokeMethod(
+                this,
+                [this, file, key, thumbnail] {
+                    cache().insert(key, new ImageThumbnail(thumbnail));
+                    finish(file, thumbnail);
+                },
+                Qt::QueuedConnection);
+        });
+    }
+}
+
+void ImageThumbnails::finish(const QString& file, const ImageThumbnail& thumbnail)
+{
+    m_loading = false;
+    Q_EMIT loaded(file, thumbnail);
+    loadNext();
+}
+
+QPixmap ImageThumbnails::squarePixmap(const QImage& thumbnail, int side, qreal scale)
+{
+    QPixmap square(QSize(side, side) * scale);
+    square.fill(Qt::transparent);
+    square.setDevicePixelRatio(scale);
+    if (!thumbnail.isNull()) {
+        QPainter painter(&square);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        QSizeF size = thumbnail.size();
+        if (size.width() > side || size.height() > side)
+            size.scale(side, side, Qt::KeepAspectRatio);
+        painter.drawImage(QRectF(QPointF((side - size.width()) / 2, (side - size.height()) / 2), size), thumbnail);
+    }
+    return square;
 }
 
 } // namespace Korvex::Meridane::Designer
