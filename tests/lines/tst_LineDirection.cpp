@@ -1,4 +1,5 @@
 #include "lines/LineDirection.h"
+#include "tests/lines/AnyNumber.h"
 
 #include "host/common/RealComparison.h"
 
@@ -11,6 +12,7 @@
 #include <vector>
 
 using namespace Korvex::Meridane::Designer;
+using namespace Korvex::Meridane::Designer::Test;
 using Korvex::Meridane::Common::equalToDecimals;
 
 namespace {
@@ -61,21 +63,9 @@ QPointF plainSearch(const QSizeF& box, double thickness, double shortest = 0)
     return best;
 }
 
-/// From \a low to below \a high, evenly in every case: RapidCheck's own range begins with the small numbers.
-int number(int low, int high)
-{
-    return *rc::gen::resize(rc::kNominalSize, rc::gen::inRange(low, high));
-}
-
-double real(double low, double high)
-{
-    constexpr int Fine = 1000000000;
-    return low + (high - low) * number(0, Fine) / Fine;
-}
-
 double magnitude(double lowest, double highest)
 {
-    return std::pow(10, real(lowest, highest));
+    return std::pow(10, anyReal(lowest, highest));
 }
 
 struct Task
@@ -94,35 +84,35 @@ QSizeF outerSize(double length, double angle, double thickness)
 
 Task anyTask()
 {
-    switch (number(0, 9)) {
+    switch (anyNumber(0, 9)) {
     case 0: // as they come from the mouse
-        return {QSizeF(number(0, 800), number(0, 480)), double(number(1, 101))};
+        return {QSizeF(anyNumber(0, 800), anyNumber(0, 480)), double(anyNumber(1, 101))};
     case 1: // a line that is there
     {
-        const double thickness = number(1, 101);
-        return {outerSize(real(1, 600), real(0, 90), thickness), thickness};
+        const double thickness = anyNumber(1, 101);
+        return {outerSize(anyReal(1, 600), anyReal(0, 90), thickness), thickness};
     }
     case 2: // a short and thick one, where f is flat
     {
-        const double thickness = number(50, 101);
-        return {outerSize(real(1, 100), real(30, 60), thickness), thickness};
+        const double thickness = anyNumber(50, 101);
+        return {outerSize(anyReal(1, 100), anyReal(30, 60), thickness), thickness};
     }
     case 3: { // a square: a direction and its mirror image are equally good
-        const double side = real(0, 300);
-        return {QSizeF(side, side), double(number(1, 101))};
+        const double side = anyReal(0, 300);
+        return {QSizeF(side, side), double(anyNumber(1, 101))};
     }
     case 4: // tiny and huge
         return {QSizeF(magnitude(-9, 12), magnitude(-9, 12)), magnitude(-6, 9)};
     case 5: // beyond all reason
         return {QSizeF(magnitude(-300, 308), magnitude(-300, 308)), magnitude(-300, 308)};
     case 6: // negative
-        return {QSizeF(real(-300, 300), real(-300, 300)), real(-100, 100)};
+        return {QSizeF(anyReal(-300, 300), anyReal(-300, 300)), anyReal(-100, 100)};
     case 7: // both sides negative, which makes their area positive
-        return {QSizeF(real(-300, 0), real(-300, 0)), real(-100, 100)};
+        return {QSizeF(anyReal(-300, 0), anyReal(-300, 0)), anyReal(-100, 100)};
     default: // without an extent, or just that of the thickness
     {
-        const double thickness = number(0, 101);
-        return {QSizeF(*rc::gen::element(0.0, thickness, real(0, 500)), *rc::gen::element(0.0, thickness, 1.0)),
+        const double thickness = anyNumber(0, 101);
+        return {QSizeF(*rc::gen::element(0.0, thickness, anyReal(0, 500)), *rc::gen::element(0.0, thickness, 1.0)),
                 thickness};
     }
     }
@@ -157,7 +147,7 @@ private Q_SLOTS:
         QVERIFY(rc::check("any box", [] {
             for (int i = 0; i < 50; ++i) {
                 const Task task = anyTask();
-                const double shortest = *rc::gen::element(1.0, 0.01, real(0, 200));
+                const double shortest = *rc::gen::element(1.0, 0.01, anyReal(0, 200));
                 assertSame(lineDirection(task.box, task.thickness, shortest),
                            plainSearch(task.box, task.thickness, shortest));
             }
@@ -167,9 +157,9 @@ private Q_SLOTS:
     void aLineThatIsThereIsFound()
     {
         QVERIFY(rc::check("lines longer than thick", [] {
-            const double thickness = number(1, 101);
-            const double length = real(2 * thickness, 9999);
-            const double angle = real(0.01, 89.99);
+            const double thickness = anyNumber(1, 101);
+            const double length = anyReal(2 * thickness, 9999);
+            const double angle = anyReal(0.01, 89.99);
             const QPointF direction = lineDirection(outerSize(length, angle, thickness), thickness);
             const double found = 90 - std::atan2(direction.y(), direction.x()) * 180 / M_PI;
             RC_ASSERT(std::abs(found - angle) < 0.0101);

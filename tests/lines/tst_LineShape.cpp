@@ -1,4 +1,5 @@
 #include "lines/LineShape.h"
+#include "tests/lines/AnyNumber.h"
 
 #include "host/common/RealComparison.h"
 
@@ -10,37 +11,26 @@
 #include <limits>
 
 using namespace Korvex::Meridane::Designer;
+using namespace Korvex::Meridane::Designer::Test;
 using Korvex::Meridane::Common::fuzzyEqual;
 
 namespace {
 
 constexpr double Pixel = 0.5; // how far an outline may be from what was asked for
 
-/// From \a low to below \a high, evenly in every case: RapidCheck's own range begins with the small numbers.
-int number(int low, int high)
-{
-    return *rc::gen::resize(rc::kNominalSize, rc::gen::inRange(low, high));
-}
-
-double real(double low, double high)
-{
-    constexpr int Fine = 1000000000;
-    return low + (high - low) * number(0, Fine) / Fine;
-}
-
 double anyLength()
 {
-    return number(0, 2) == 0 ? real(1, 60) : std::pow(10, real(0, std::log10(9999.0)));
+    return anyNumber(0, 2) == 0 ? anyReal(1, 60) : std::pow(10, anyReal(0, std::log10(9999.0)));
 }
 
 double anyAngle()
 {
-    return number(0, 3) == 0 ? 90.0 * number(0, 4) : real(0, 359.99);
+    return anyNumber(0, 3) == 0 ? 90.0 * anyNumber(0, 4) : anyReal(0, 359.99);
 }
 
 double anyThickness()
 {
-    return number(0, 2) == 0 ? number(1, 6) : number(1, 101);
+    return anyNumber(0, 2) == 0 ? anyNumber(1, 6) : anyNumber(1, 101);
 }
 
 int quadrant(double angle)
@@ -87,6 +77,8 @@ private Q_SLOTS:
         QTest::newRow("180") << 180.0 << QRectF(-100.1, -1.5, 100.1, 3);
         QTest::newRow("270") << 270.0 << QRectF(-1.5, -100.1, 3, 100.1);
         QTest::newRow("360") << 360.0 << QRectF(0, -1.5, 100.1, 3);
+        QTest::newRow("ten turns and 90") << 3690.0 << QRectF(-1.5, 0, 3, 100.1);
+        QTest::newRow("many turns") << 3.6e15 << QRectF(0, -1.5, 100.1, 3);
         QTest::newRow("-90") << -90.0 << QRectF(-1.5, -100.1, 3, 100.1);
     }
 
@@ -106,6 +98,10 @@ private Q_SLOTS:
         QCOMPARE((LineShape{100, 30, 0.99}.bounds()), QRectF());
         QCOMPARE((LineShape{0, 30, 2}.bounds()), QRectF());
         QCOMPARE((LineShape{-5, 30, 2}.bounds()), QRectF());
+        const double endless = std::numeric_limits<double>::infinity();
+        QCOMPARE((LineShape{endless, 30, 2}.bounds()), QRectF());
+        QCOMPARE((LineShape{100, -endless, 2}.bounds()), QRectF());
+        QCOMPARE((LineShape{100, 30, endless}.bounds()), QRectF());
     }
 
     void theOutlineGetsTheSizeAskedForInTheQuadrantOfTheLine()
@@ -133,13 +129,36 @@ private Q_SLOTS:
         }));
     }
 
+    void aShortLineIsFoundBesideOneThatIsTooShort_data()
+    {
+        QTest::addColumn<double>("length");
+        QTest::addColumn<double>("angle");
+        QTest::addColumn<double>("thickness");
+        // Each of their sizes is also, and more exactly on a step of the search, that of a line shorter than 1.
+        QTest::newRow("level") << 1.07168 << 0.459 << 4.0;
+        QTest::newRow("level and thick") << 1.07423 << 0.163888 << 22.0;
+        QTest::newRow("plumb") << 1.18272 << 89.855 << 23.0;
+        QTest::newRow("plumb and thick") << 1.07792 << 89.9766 << 71.0;
+    }
+
+    void aShortLineIsFoundBesideOneThatIsTooShort()
+    {
+        QFETCH(double, length);
+        QFETCH(double, angle);
+        QFETCH(double, thickness);
+        const QSizeF box = LineShape{length, angle, thickness}.bounds().size();
+        const auto fitted = LineShape{77, 45, thickness}.fitted(box);
+        QVERIFY(fitted);
+        QVERIFY(hasSize(*fitted, box));
+    }
+
     void anySizeGivesALineWithinTheLimitsOrNone()
     {
         QVERIFY(rc::check("any size", [] {
             const auto side = [] {
-                if (number(0, 4) > 0)
-                    return number(0, 3) > 0 ? real(-10, 1000) : real(0, 5);
-                return *rc::gen::element(std::pow(10, real(-300, 308)), 0.0, std::numeric_limits<double>::infinity(),
+                if (anyNumber(0, 4) > 0)
+                    return anyNumber(0, 3) > 0 ? anyReal(-10, 1000) : anyReal(0, 5);
+                return *rc::gen::element(std::pow(10, anyReal(-300, 308)), 0.0, std::numeric_limits<double>::infinity(),
                                          std::numeric_limits<double>::quiet_NaN());
             };
             const LineShape line{*rc::gen::element(anyLength(), 0.0, -5.0, 1e300), anyAngle(), anyThickness()};
@@ -351,7 +370,7 @@ private Q_SLOTS:
     {
         QVERIFY(rc::check("lines within the limits", [] {
             const LineShape line{anyLength(), anyAngle(), anyThickness()};
-            const double factor = *rc::gen::element(real(0, 3), std::pow(10, real(-9, 9)), 0.0, -2.0);
+            const double factor = *rc::gen::element(anyReal(0, 3), std::pow(10, anyReal(-9, 9)), 0.0, -2.0);
             const auto scaled = line.scaled(factor);
             const double smallest = std::max(1 / line.thickness, 1 / line.length);
             const double largest = std::min(100 / line.thickness, 9999 / line.length);
@@ -373,9 +392,9 @@ private Q_SLOTS:
     void aLineOutsideOfTheLimitsComesWithinThem()
     {
         QVERIFY(rc::check("any line", [] {
-            const auto size = [] { return std::pow(10, real(-9, 12)); };
+            const auto size = [] { return std::pow(10, anyReal(-9, 12)); };
             const LineShape line{size(), anyAngle(), size()};
-            const auto scaled = line.scaled(*rc::gen::element(real(0, 3), size(), 0.0, -2.0));
+            const auto scaled = line.scaled(*rc::gen::element(anyReal(0, 3), size(), 0.0, -2.0));
             if (!scaled)
                 return;
             RC_ASSERT(scaled->length >= 1 && scaled->length <= 9999);
@@ -439,8 +458,8 @@ private Q_SLOTS:
         QCOMPARE(lineAngle({0, 0}, {10, -10}), 315.0);
         QVERIFY(lineAngle({10, 20}, {60, 20.02}) > 0);
         QVERIFY(rc::check("any two points", [] {
-            const QPointF start(real(-500, 500), real(-500, 500));
-            const QPointF end(real(-500, 500), real(-500, 500));
+            const QPointF start(anyReal(-500, 500), anyReal(-500, 500));
+            const QPointF end(anyReal(-500, 500), anyReal(-500, 500));
             const double angle = lineAngle(start, end);
             RC_ASSERT(angle >= 0 && angle < 360);
             const QPointF way = end - start;
