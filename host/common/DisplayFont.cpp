@@ -19,12 +19,17 @@ int fontPixelSize(const QFont& font)
 
 QFont displayFont(const QFont& font)
 {
-    QFont result(font);
+    // Made anew: a copy would keep what its maker left to the application's own font.
+    QFont result(font.family(), 1, font.bold() ? QFont::Bold : QFont::Normal, font.italic());
+    result.setFamilies({font.family()}); // the constructor takes a comma as a separator of families
     result.setPixelSize(fontPixelSize(font));
-    result.setWeight(font.bold() ? QFont::Bold : QFont::Normal);
+    result.setUnderline(font.underline());
+    result.setOverline(font.overline());
+    result.setStrikeOut(font.strikeOut());
+    result.setLetterSpacing(font.letterSpacingType(), font.letterSpacing());
+    result.setWordSpacing(font.wordSpacing());
     result.setHintingPreference(QFont::PreferNoHinting);
-    const int strategy = font.styleStrategy() | QFont::PreferAntialias | QFont::NoSubpixelAntialias;
-    result.setStyleStrategy(static_cast<QFont::StyleStrategy>(strategy));
+    result.setStyleStrategy(static_cast<QFont::StyleStrategy>(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
     return result;
 }
 

@@ -16,8 +16,8 @@ namespace Korvex::Meridane::Common {
 [[nodiscard]] MERIDANE_COMMON_EXPORT int fontPixelSize(const QFont& font);
 
 /**
- * @p font with its size in pixels, without hinting and without subpixel antialiasing. Its weight is normal or bold: a
- * display knows no others.
+ * @p font as a display shows it: with its size in pixels, without hinting and without subpixel antialiasing. The weight
+ * is normal or bold, for a display knows no others. Nothing depends on the application's own font.
  */
 [[nodiscard]] MERIDANE_COMMON_EXPORT QFont displayFont(const QFont& font);
 

@@ -3,6 +3,7 @@
 #include "host/common/DisplayFont.h"
 
 #include <QtCore/QThread>
+#include <QtGui/QRawFont>
 #include <QtGui/QTextLayout>
 
 namespace Korvex::Meridane::Common {
@@ -25,6 +26,15 @@ double textTop(int alignment, double boxHeight, double textHeight)
         return 0.5 * (boxHeight - textHeight);
     }
     return 0;
+}
+
+/**
+ * Fonts with PostScript outlines come darkened, and are blended with what lies below them in a way that makes up for it.
+ * They are those whose "maxp" table has version 0.5.
+ */
+bool isBlendedByGround(const QFont& font)
+{
+    return QRawFont::fromFont(font).fontTable("maxp").startsWith(QByteArrayView("\0\0\x50\0", 4));
 }
 
 bool isTopAligned(int alignment)
@@ -56,6 +66,9 @@ void TextBoxLayout::prepare(const QString& text, const QFont& font, const QSizeF
         return;
     }
     const bool sameLines = input.sameLines(m_input);
+    if (!sameLines) {
+        m_needsLayer = isBlendedByGround(font);
+    }
     m_input = std::move(input);
     m_blocks.clear();
     m_top = 0;

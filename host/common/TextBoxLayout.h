@@ -40,6 +40,9 @@ public:
     /** Draws the lines in the painter's pen; the box is at (0, 0), the text moved by @p offset. */
     void draw(QPainter* painter, const QPointF& offset) const;
 
+    /** True when the letters look different on another ground unless they are drawn on a layer of their own. */
+    [[nodiscard]] bool needsLayer() const { return m_needsLayer; }
+
     /** How many characters of the text are kept laid out. */
     [[nodiscard]] qsizetype keptCharacters() const;
 
@@ -68,5 +71,6 @@ private:
     std::vector<std::unique_ptr<Block>> m_blocks;
     TextMeasure m_measure;
     double m_top = 0;
+    bool m_needsLayer = false;
 };
 } // namespace Korvex::Meridane::Common

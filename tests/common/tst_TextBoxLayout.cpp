@@ -287,7 +287,7 @@ void TestTextBoxLayout::ofAMegabyteOnlyWhatShowsIsKept_data()
 void TestTextBoxLayout::ofAMegabyteOnlyWhatShowsIsKept()
 {
     QFETCH(QString, text);
-    for (int alignment : {33, 68, 132}) {
+    for (int alignment : {33, 132}) {
         TextBoxLayout layout;
         Box box;
         box.font.setPixelSize(13);
@@ -312,7 +312,7 @@ void TestTextBoxLayout::aLineWithoutEndIsBroken()
     Box box;
     box.size = QSizeF(180, 20);
     box.font.setPixelSize(40);
-    box.text = QStringList{QStringLiteral("e"), QString(200000, QChar(0x301))};
+    box.text = QStringList{QStringLiteral("e"), QString(150000, QChar(0x301))};
     painted(box, &layout);
     QVERIFY(layout.keptCharacters() <= 2 * 65536);
 }
