@@ -55,25 +55,33 @@ bool FocusRealEditor::createEditorWidget()
 void FocusRealEditor::propertyReplaced()
 {
     NumberEditor::propertyReplaced();
-    if (m_marked.isEmpty())
-        return;
-    onFocusedOut();
-    onFocusedIn();
+    if (!m_marked.isEmpty())
+        onFocusedIn();
 }
 
 void FocusRealEditor::onFocusedIn()
 {
-    m_marked.clear();
-    for (const auto& edited : properties()) {
-        showStartPoint(edited->parentObject(), true);
-        m_marked.append(edited->parentObject());
-    }
+    QList<DesignerObject*> objects;
+    for (const auto& edited : properties())
+        objects.append(edited->parentObject());
+    mark(objects);
 }
 
 void FocusRealEditor::onFocusedOut()
 {
-    for (const auto& object : std::exchange(m_marked, {}))
-        showStartPoint(object, false);
+    mark({});
+}
+
+/// Marks the start points of \a objects, and of no others.
+void FocusRealEditor::mark(const QList<DesignerObject*>& objects)
+{
+    const QList<QPointer<DesignerObject>> before = std::exchange(m_marked, {objects.cbegin(), objects.cend()});
+    for (const auto& object : before) {
+        if (!objects.contains(object))
+            showStartPoint(object, false);
+    }
+    for (const DesignerObject* object : objects)
+        showStartPoint(object, true);
 }
 
 } // namespace Korvex::Meridane::Designer

@@ -32,6 +32,8 @@ private Q_SLOTS:
     void onFocusedOut();
 
 private:
+    void mark(const QList<DesignerObject*>& objects);
+
     QList<QPointer<DesignerObject>> m_marked;
 };
 

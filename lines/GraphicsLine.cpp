@@ -42,6 +42,7 @@ GraphicsLine::GraphicsLine(DesignerObject* dataObject)
     : GraphicsItem(dataObject, this)
     , m_brush(QColor(248, 151, 29, 255))
     , m_outline(Common::lineOutline(m_line.length, m_line.angle, m_line.thickness))
+    , m_fittedSize(m_outline.boundingRect().size())
     , m_bounds(m_outline.boundingRect())
 {}
 
@@ -126,27 +127,26 @@ UndoCommand* GraphicsLine::updateDataObject(const QSharedPointer<DesignerPropert
 
 int GraphicsLine::getResizePointHandle(const QPointF& scenePos, bool* handled)
 {
-    const auto found = [&](int handle, const char* toolTip) {
-        if (handled)
-            *handled = handle >= 0;
-        if (handle >= 0 && isSelected())
-            setHandleToolTip(elementText(toolTip));
+    if (handled)
+        *handled = true;
+    const auto found = [this](int handle, const QString& toolTip) {
+        if (isSelected())
+            setHandleToolTip(toolTip);
         else
             showNameToolTip();
         return handle;
     };
-    if (isRotated() || m_outline.isEmpty()) {
-        found(-1, "");
+    if (!isRotated() && !m_outline.isEmpty()) {
+        const QPointF mouse = onParent(scenePos);
+        if (distance(mouse, pos()) <= detectionWidth())
+            return found(StartHandle, elementText("This is the start point."));
+        if (distance(mouse, pos() + endPoint()) <= detectionWidth())
+            return found(EndHandle, elementText("This is the end point."));
         if (handled)
-            *handled = true;
-        return -1;
+            *handled = false;
     }
-    const QPointF mouse = onParent(scenePos);
-    if (distance(mouse, pos()) <= detectionWidth())
-        return found(StartHandle, "This is the start point.");
-    if (distance(mouse, pos() + endPoint()) <= detectionWidth())
-        return found(EndHandle, "This is the end point.");
-    return found(-1, "");
+    showNameToolTip();
+    return -1;
 }
 
 int GraphicsLine::getResizeHandle(const QPointF& scenePos, bool* handled)
@@ -183,7 +183,7 @@ void GraphicsLine::resizeGraphicsItem(int handle, const QSizeF& outerSize, const
 {
     if (!Common::isFrameHandle(handle))
         return;
-    const QSizeF wanted = frameChange(handle, outerSize).outerSize;
+    QSizeF wanted = frameChange(handle, outerSize).outerSize;
     std::optional<LineShape> changed;
     if (keptRatio() > 0) {
         LineShape exact = m_line;
@@ -192,6 +192,10 @@ void GraphicsLine::resizeGraphicsItem(int handle, const QSizeF& outerSize, const
         changed = exact.scaled(Common::handleChangesWidth(handle) ? wanted.width() / present.width()
                                                                   : wanted.height() / present.height());
     } else {
+        if (!Common::handleChangesWidth(handle))
+            wanted.setWidth(m_fittedSize.width());
+        if (!Common::handleChangesHeight(handle))
+            wanted.setHeight(m_fittedSize.height());
         changed = m_line.fitted(wanted);
     }
     if (!changed)
@@ -201,6 +205,7 @@ void GraphicsLine::resizeGraphicsItem(int handle, const QSizeF& outerSize, const
     setItemPosition(positionKeepingOpposite(handle, changed->bounds()));
     setLine(*changed);
     m_exactThickness = exactThickness;
+    m_fittedSize = wanted;
 }
 
 void GraphicsLine::updateResizedDataObjects(int handle, UndoCommand* parent)
@@ -228,6 +233,9 @@ QVector<QPointF> GraphicsLine::pointHandles() const
 {
     if (isRotated() || m_outline.isEmpty())
         return {};
+    // A handle would cover the dot at the start point.
+    if (m_showStartPoint)
+        return {endPoint()};
     return {QPointF(0, 0), endPoint()};
 }
 
@@ -245,6 +253,7 @@ void GraphicsLine::setLine(const LineShape& line)
     m_line = line;
     m_exactThickness = line.thickness;
     m_outline = Common::lineOutline(line.length, line.angle, line.thickness);
+    m_fittedSize = m_outline.boundingRect().size();
     refreshBounds();
     reportOuterSize();
 }

@@ -38,6 +38,7 @@ public:
     [[nodiscard]] QRectF outerRect() const override;
     /// The start point alone: about it the line turns.
     [[nodiscard]] QRectF contentRect() const override;
+    /// The two ends; the end alone while a dot marks the start, which can be dragged all the same.
     [[nodiscard]] QVector<QPointF> pointHandles() const override;
 
     [[nodiscard]] const LineShape& line() const { return m_line; }
@@ -61,6 +62,9 @@ private:
     double m_exactThickness = m_line.thickness;
     QBrush m_brush;
     QPolygonF m_outline;
+    /// The size that the outline was fitted to while the frame is dragged, else its own: the errors of the direction
+    /// search do not add up in the dimension that the handle leaves alone.
+    QSizeF m_fittedSize;
     QRectF m_bounds;
     bool m_showStartPoint = false;
 };

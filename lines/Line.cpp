@@ -128,16 +128,15 @@ void Line::takeBoundingSize(const QSizeF& before, const QSizeF& wanted, const Gr
 
     const LineShape line = item.line();
     const double angle = item.angleOnParent();
+    const bool widthChanged = before.width() != wanted.width();
+    const bool heightChanged = before.height() != wanted.height();
     std::optional<LineShape> changed;
-    if (!(ratio > 0)) {
-        changed = line.fitted(wanted);
-    } else if (before.width() != wanted.width()) {
-        changed = line.scaled(wanted.width() / before.width());
-    } else if (before.height() != wanted.height()) {
-        changed = line.scaled(wanted.height() / before.height());
-    } else {
+    if (!widthChanged && !heightChanged)
         qDebug("Should not reach here");
-    }
+    else if (!(ratio > 0))
+        changed = line.fitted(wanted);
+    else
+        changed = line.scaled(widthChanged ? wanted.width() / before.width() : wanted.height() / before.height());
     if (!changed)
         return;
     changed->thickness = Common::roundedToWhole(changed->thickness);

@@ -30,6 +30,7 @@ bool higherBound(const Range& a, const Range& b)
     return a.bound > b.bound;
 }
 
+/// f is the absolute value of g(θ) = w cos θ − h sin θ − t cos 2θ.
 class Search
 {
 public:
@@ -37,10 +38,12 @@ public:
         : m_box(box)
         , m_thickness(thickness)
         , m_shortest(shortest)
-        , m_steepness((box.width() + box.height() + 2 * thickness) * Step)
-        // The rounding errors of f and of the bound.
-        , m_slack(1e-12 * (box.width() + box.height() + 2 * thickness))
-    {}
+    {
+        const double diagonal = std::hypot(box.width(), box.height());
+        m_steepest = diagonal + 2 * std::abs(thickness);
+        m_mostCurved = diagonal + 4 * std::abs(thickness);
+        m_slack = 1e-12 * m_mostCurved;
+    }
 
     /// The step with the smallest f, or 0 when no step gives a line that is long enough.
     int best()
@@ -57,14 +60,22 @@ public:
     }
 
 private:
+    struct Visit
+    {
+        double distance; // f
+        double steepness; // of f, without its sign, per radian
+    };
+
     void split(const Range& range)
     {
         const int middle = (range.first + range.last) / 2;
-        const double distance = visit(middle);
-        const auto add = [&](int first, int last, int reach) {
+        const Visit visited = visit(middle);
+        const auto add = [&](int first, int last, int steps) {
             if (first > last)
                 return;
-            const double bound = distance - reach * m_steepness - m_slack;
+            const double reach = steps * Step;
+            const double change = std::min(m_steepest, visited.steepness + 0.5 * m_mostCurved * reach) * reach;
+            const double bound = visited.distance - change - m_slack;
             if (bound > m_bestDistance)
                 return;
             m_ranges.push_back({first, last, bound});
@@ -74,7 +85,7 @@ private:
         add(middle + 1, range.last, range.last - middle);
     }
 
-    double visit(int step)
+    Visit visit(int step)
     {
         const double angle = step * M_PI / 18000;
         const double c = std::cos(angle);
@@ -87,14 +98,15 @@ private:
             m_bestDistance = distance;
             m_best = step;
         }
-        return distance;
+        return {distance, std::abs(4 * m_thickness * s * c - m_box.width() * s - m_box.height() * c)};
     }
 
     QSizeF m_box;
     double m_thickness;
     double m_shortest;
-    double m_steepness; // by how much f changes at most from one step to the next
-    double m_slack;
+    double m_steepest; // the most that f changes by, per radian
+    double m_mostCurved; // the most that the steepness changes by, per radian
+    double m_slack; // the rounding errors of f and of the bound
     std::vector<Range> m_ranges;
     double m_bestDistance = std::numeric_limits<double>::infinity();
     int m_best = 0;
@@ -104,6 +116,8 @@ private:
 
 QPointF lineDirection(const QSizeF& box, double thickness, double shortest)
 {
+    if (!std::isfinite(box.width()) || !std::isfinite(box.height()) || !std::isfinite(thickness))
+        return {-1, -1};
     const double area = box.width() * box.height();
     if (thickness > area)
         return {-1, -1};

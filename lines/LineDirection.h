@@ -12,10 +12,10 @@ namespace Korvex::Meridane::Designer {
  *
  * θ is the one of 0.01°, 0.02° … 89.99° for which f(θ) = |cos θ (w − t cos θ) − sin θ (h − t sin θ)| is smallest, the
  * first of several: where f is 0, the rest of the box lies in the direction of the line. (−1, −1) when \a thickness
- * exceeds the area of the box; (0, 0) when both are equal to 2 decimals.
+ * exceeds the area of the box, or when a number is not finite; (0, 0) when both are equal to 2 decimals.
  *
- * f changes by at most w + h + 2t per radian. Whole ranges of angles are thereby left out, and a search looks at some
- * hundred angles instead of all 8999.
+ * How much f can change from one angle to another has a bound, by which whole ranges of angles are left out: a search
+ * looks at some dozen angles instead of all 8999.
  *
  * \a shortest leaves out the angles that would make the centre line shorter (pixels); (−1, −1) when none is left.
  */

@@ -22,6 +22,7 @@ namespace {
 constexpr double FitTolerance = 0.25;
 /// Outer sizes are kept with 6 decimals.
 constexpr int SizeDecimals = 6;
+constexpr double Noise = 1e-6;
 /// How finely the search divides a quadrant, in degrees.
 constexpr double SearchStep = 0.01;
 
@@ -81,7 +82,6 @@ std::optional<LineShape> lineIn(const LineShape& line, const QSizeF& box, const 
 {
     if (direction.x() < 0)
         return std::nullopt;
-    constexpr double Noise = 1e-6;
     const double dx = box.width() - direction.x();
     const double dy = box.height() - direction.y();
     if (!(dx >= -Noise) || !(dy >= -Noise))
@@ -107,11 +107,13 @@ bool fits(const std::optional<LineShape>& line, const QSizeF& box)
 /// A line along an axis that fills \a box; \a vertical says along which.
 std::optional<LineShape> lineAlongAxis(const LineShape& line, const QSizeF& box, bool vertical)
 {
-    if (!equalToDecimals(vertical ? box.width() : box.height(), line.thickness, SizeDecimals))
+    const double along = vertical ? box.height() : box.width();
+    const double across = vertical ? box.width() : box.height();
+    if (!equalToDecimals(across, line.thickness, SizeDecimals) || along < LineShape::Shortest - Noise)
         return std::nullopt;
     const bool staysAlong = vertical ? isVertical(line.angle) : isHorizontal(line.angle);
     const double angle = staysAlong ? normalized(line.angle) : angleIn(quadrantOf(line.angle), vertical ? 0 : 90);
-    return LineShape{limitedLength(vertical ? box.height() : box.width()), angle, line.thickness};
+    return LineShape{limitedLength(along), angle, line.thickness};
 }
 
 /// The best of the lines that can be made for \a box.

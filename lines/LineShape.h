@@ -31,10 +31,12 @@ struct LineShape
 
     /**
      * The line of the same thickness whose outline is as large as \a box, in the quadrant of this one. A line along an
-     * axis counts to the quadrant that follows clockwise, and stays along its axis when only its length changes.
+     * axis counts to the quadrant that follows clockwise, stays along its axis when only its length changes, and comes
+     * back to it.
      *
-     * A line that would be shorter than 1 or longer than 9999 pixels becomes just that. Nothing when no such line fits
-     * into the box, when its angle would lie above 359.99, or when its length is that of this line.
+     * A line that would be shorter than 1 or longer than 9999 pixels becomes just that; a box of the very area of the
+     * thickness gives its diagonal. Nothing when no such line fits into the box, when its angle would lie above 359.99,
+     * or when its length is that of this line.
      */
     [[nodiscard]] std::optional<LineShape> fitted(const QSizeF& box) const;
 

@@ -16,11 +16,12 @@ double exactAtAxes(double value)
 
 QPolygonF lineOutline(double length, double angle, double thickness)
 {
-    if (!(thickness >= 1) || !(length > 0)) {
+    if (!(thickness >= 1) || !(length > 0) || !std::isfinite(thickness + length) || !std::isfinite(angle)) {
         return QPolygonF();
     }
     const double half = thickness * 0.5;
-    const double radians = angle * M_PI / 180;
+    // Without whole turns, however many, the axes are exact.
+    const double radians = std::fmod(angle, 360) * M_PI / 180;
     const double c = exactAtAxes(std::cos(radians));
     const double s = exactAtAxes(std::sin(radians));
     const QPointF end(length * c, length * s);

@@ -10,7 +10,8 @@ namespace Korvex::Meridane::Common {
  * x axis and is @p thickness pixels thick.
  *
  * Six points: the start point (index 0), its side, the side of the end, the end point (index 3), and the two points of
- * the other side. Empty when the thickness is below 1 or the length is not above 0. Lines along an axis are exact.
+ * the other side. Empty when the thickness is below 1 or the length is not above 0, or when a number is not finite. Lines
+ * along an axis are exact.
  */
 [[nodiscard]] MERIDANE_COMMON_EXPORT QPolygonF lineOutline(double length, double angle, double thickness);
 } // namespace Korvex::Meridane::Common
