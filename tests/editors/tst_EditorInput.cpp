@@ -16,6 +16,8 @@
 #include "host/core/editors/StringEditor.h"
 #include "host/core/objects/Screen.h"
 #include "host/core/project/Project.h"
+#include "host/core/widgets/ColorPopup.h"
+#include "host/core/widgets/ColorSwatch.h"
 #include "host/core/widgets/ColorWidget.h"
 #include "host/core/widgets/ComboBox.h"
 #include "host/core/widgets/FontStyleButton.h"
@@ -131,6 +133,25 @@ private Q_SLOTS:
         QTest::keyClick(focus(), Qt::Key_Down);
         QCOMPARE(m_element->value("number"), QStringLiteral("1"));
         QCOMPARE(stack()->count(), 0);
+    }
+
+    void anotherPartThanTheOneThatWasSteppedIsAStepOfItsOwn()
+    {
+        auto* editor = show<BorderEditor>("border");
+        auto* width = editor->findChild<SpinBox*>();
+        auto* color = editor->findChild<ColorWidget*>();
+        width->setFocus();
+        QTest::keyClick(width, Qt::Key_Up);
+        QTest::keyClick(width, Qt::Key_Up);
+        QTest::mouseClick(color->swatch(), Qt::LeftButton);
+        auto* text = color->popup()->findChild<HexColorField*>();
+        type(text, "#112233");
+        QTest::keyClick(text, Qt::Key_Return);
+        color->popup()->close();
+        QCOMPARE(m_element->value("border"), QStringLiteral("width: 2; color: #112233;"));
+        QCOMPARE(stack()->count(), 2);
+        m_session->undo();
+        QCOMPARE(m_element->value("border"), QStringLiteral("width: 2; color: #000000;"));
     }
 
     void aSliderDragIsOneStep()

@@ -56,6 +56,10 @@ bool EditRun::eventFilter(QObject* watched, QEvent* event)
     case QEvent::FocusIn:
         m_key.clear();
         break;
+    case QEvent::FocusOut:
+        if (!slider) // whose drag goes on
+            m_key.clear();
+        break;
     default:
         break;
     }
