@@ -113,6 +113,34 @@ private:
     DesignerObject* m_first = nullptr;
     DesignerObject* m_second = nullptr;
     DesignerObject* m_third = nullptr;
+
+    void whatIsThinIsFoundFromBeside()
+    {
+        CanvasFixture canvas;
+        canvas.addRectangle(QRectF(50, 50, 400, 300)); // a ground below
+        DesignerObject* thin = canvas.addRectangle(QRectF(100, 200, 200, 1));
+        DesignerObject* thick = canvas.addRectangle(QRectF(100, 250, 200, 40));
+        canvas.click({150, 203});
+        QCOMPARE(canvas.selected(), QList<DesignerObject*>{thin});
+        canvas.click({150, 198});
+        QCOMPARE(canvas.selected(), QList<DesignerObject*>{thin});
+        canvas.click({150, 206});
+        QVERIFY(canvas.selected() != QList<DesignerObject*>{thin});
+        canvas.click({150, 248});
+        QVERIFY(canvas.selected() != QList<DesignerObject*>{thick});
+        canvas.view->setZoom(4);
+        canvas.click({150, 202});
+        QVERIFY(canvas.selected() != QList<DesignerObject*>{thin});
+    }
+
+    void whatIsThinIsNotFoundThroughWhatCoversIt()
+    {
+        CanvasFixture canvas;
+        canvas.addRectangle(QRectF(100, 200, 200, 1));
+        DesignerObject* cover = canvas.addRectangle(QRectF(50, 50, 400, 300));
+        canvas.click({150, 202});
+        QCOMPARE(canvas.selected(), QList<DesignerObject*>{cover});
+    }
 };
 
 QTEST_MAIN(tst_CanvasSelection)

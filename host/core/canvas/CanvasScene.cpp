@@ -12,11 +12,34 @@
 
 #include <algorithm>
 #include <bit>
+#include <cmath>
 #include <memory>
 
 namespace Korvex::Meridane::Designer {
 
 namespace {
+
+/// How far beside a thin item the mouse may be, in screen pixels.
+constexpr double ReachOfThinItems = 3;
+
+/// About how thick the shape of \a graphic is, in its own units: that of a bar of the same area and circumference.
+double thickness(const QGraphicsItem* graphic)
+{
+    double area = 0;
+    double circumference = 0;
+    const QList<QPolygonF> polygons = graphic->shape().toFillPolygons();
+    for (const QPolygonF& polygon : polygons) {
+        double twiceTheArea = 0;
+        for (qsizetype i = 0; i < polygon.size(); ++i) {
+            const QPointF& from = polygon.at(i);
+            const QPointF& to = polygon.at((i + 1) % polygon.size());
+            twiceTheArea += from.x() * to.y() - to.x() * from.y();
+            circumference += std::hypot(to.x() - from.x(), to.y() - from.y());
+        }
+        area += 0.5 * std::abs(twiceTheArea);
+    }
+    return circumference > 0 ? 2 * area / circumference : 0;
+}
 
 /// The canvas item of an object, or null.
 QGraphicsItem* graphicOf(const DesignerObject* object)
@@ -129,11 +152,24 @@ void CanvasScene::setSelectedObjects(const QList<DesignerObject*>& objects)
 DesignerObject* CanvasScene::elementAt(const QPointF& scenePos) const
 {
     const QList<QGraphicsItem*> hit = items(scenePos);
+    QGraphicsItem* exact = nullptr;
     for (QGraphicsItem* graphic : hit) {
-        if (DesignerObject* element = selectableElement(graphic))
-            return element;
+        if (selectableElement(graphic)) {
+            exact = graphic;
+            break;
+        }
     }
-    return nullptr;
+    // What is thin would be hard to hit: it is found from beside, too, unless it lies under what is hit exactly.
+    const double reach = ReachOfThinItems / m_viewScale;
+    const QRectF about(scenePos.x() - reach, scenePos.y() - reach, 2 * reach, 2 * reach);
+    const QList<QGraphicsItem*> near = items(about, Qt::IntersectsItemShape);
+    for (QGraphicsItem* graphic : near) {
+        if (graphic == exact)
+            break;
+        if (selectableElement(graphic) && thickness(graphic) <= 2 * reach)
+            return selectableElement(graphic);
+    }
+    return exact ? selectableElement(exact) : nullptr;
 }
 
 QList<DesignerObject*> CanvasScene::elementsIn(const QRectF& sceneRect) const
