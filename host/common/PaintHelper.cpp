@@ -1,6 +1,7 @@
 #include "host/common/PaintHelper.h"
 
 #include "host/common/FrameResize.h"
+#include "host/common/PolygonFill.h"
 #include "host/common/RegularPolygonGeometry.h"
 
 #include <QtGui/QBrush>
@@ -104,7 +105,7 @@ void PaintHelper::paintIrregularPolygon(const QPolygonF& polygon, const QBrush& 
 {
     painter->save();
     if (preparePainter(QPen(Qt::NoPen), brush, painter)) {
-        painter->drawPolygon(polygon, Qt::OddEvenFill);
+        fillPolygon(polygon, painter);
     }
     painter->restore();
 }
