@@ -1,6 +1,11 @@
 #include "tests/canvas/CanvasFixture.h"
 
+#include "host/core/values/ValueConversion.h"
+
+#include <QPicture>
 #include <QtTest>
+
+#include <cmath>
 
 using namespace Korvex::Meridane::Designer;
 using Test::CanvasFixture;
@@ -145,7 +150,132 @@ private Q_SLOTS:
         QVERIFY(changed.width() >= 10 && changed.width() <= 20);
     }
 
+    void everyDotOfAFewPointsIsShownHoweverCloseTheyLie()
+    {
+        CanvasFixture canvas;
+        canvas.add("IrregularPolygon", {{QStringLiteral("position"), QStringLiteral("200,150")},
+                                        {QStringLiteral("pointList"), QStringLiteral("0,0 100,0 109,0 109,60 0,80")}});
+        const QImage image = canvas.view->grab().toImage();
+        for (const QPointF& point : {QPointF(300, 150), QPointF(309, 150), QPointF(309, 210)})
+            QCOMPARE(image.pixelColor(canvas.view->viewportTransform().map(point).toPoint()), accent(canvas));
+    }
+
+    void dotsOfManyPointsStandApart()
+    {
+        CanvasFixture canvas;
+        const double radius = 150;
+        canvas.add("IrregularPolygon", {{QStringLiteral("position"), QStringLiteral("400,240")},
+                                        {QStringLiteral("pointList"), circle(100000, radius)}});
+        const QImage image = canvas.view->grab().toImage();
+        const QPointF middle = canvas.view->viewportTransform().map(QPointF(400, 240));
+        // Along the circle dots and gaps take turns, all the way round.
+        int dots = 0;
+        bool onDot = false;
+        constexpr int Steps = 3000;
+        for (int i = 0; i < Steps; ++i) {
+            const double angle = 2 * M_PI * i / Steps;
+            const QPointF there = middle + radius * QPointF(std::cos(angle), std::sin(angle));
+            const bool now = image.pixelColor(there.toPoint()) == accent(canvas);
+            dots += now && !onDot;
+            onDot = now;
+        }
+        const double room = 2 * M_PI * radius / 12; // a dot is twelve pixels wide
+        QVERIFY2(dots > 0.8 * room && dots <= room + 1, qPrintable(QString::number(dots)));
+    }
+
+    void pointsThatCannotBeToldApartHaveTheirDotsWhereTheyCan()
+    {
+        CanvasFixture canvas;
+        canvas.add("IrregularPolygon", {{QStringLiteral("position"), QStringLiteral("400,240")},
+                                        {QStringLiteral("pointList"), circle(1000, 150)}});
+        canvas.view->setZoom(24); // the points lie 23 pixels apart
+        canvas.view->centerOn(550, 240);
+        const QImage image = canvas.view->grab().toImage();
+        for (int i = -5; i <= 5; ++i) {
+            const double angle = 2 * M_PI * i / 1000;
+            const QPointF point(400 + 150 * std::cos(angle), 240 + 150 * std::sin(angle));
+            QCOMPARE(image.pixelColor(canvas.view->viewportTransform().map(point).toPoint()), accent(canvas));
+        }
+    }
+
+    void manyPointsAreDrawnWithAFewDots_data()
+    {
+        QTest::addColumn<double>("spread");
+        QTest::addColumn<double>("zoom");
+        QTest::addColumn<int>("most"); // dots
+        QTest::newRow("all over the view") << 400.0 << 1.0 << 1000;
+        QTest::newRow("small") << 20.0 << 1.0 << 15;
+        QTest::newRow("out of view") << 400.0 << 16.0 << 1000;
+        QTest::newRow("far out of view") << 1e9 << 1.0 << 3;
+    }
+
+    void manyPointsAreDrawnWithAFewDots()
+    {
+        QFETCH(double, spread);
+        QFETCH(double, zoom);
+        QFETCH(int, most);
+        CanvasFixture canvas;
+        QStringList points;
+        for (int i = 0; i < 50000; ++i)
+            points << QStringLiteral("%1,%2").arg(spread * (i % 223) / 223).arg(spread * (i % 224) / 224);
+        DesignerObject* element =
+            canvas.add("IrregularPolygon", {{QStringLiteral("position"), QStringLiteral("100,50")},
+                                            {QStringLiteral("pointList"), points.join(QLatin1Char(' '))}});
+        canvas.view->setZoom(zoom);
+        const auto drawn = [&canvas] {
+            QPicture picture;
+            QPainter painter(&picture);
+            canvas.view->render(&painter);
+            painter.end();
+            return int(picture.size());
+        };
+        const int selected = drawn();
+        canvas.select({});
+        constexpr int BytesOfADot = 250;
+        constexpr int BytesOfTheRest = 5000;
+        const int handles = selected - drawn();
+        QVERIFY2(handles < most * BytesOfADot + BytesOfTheRest, qPrintable(QString::number(handles)));
+        // A press beside the dots finds its point all the same.
+        canvas.select({element});
+        canvas.view->setZoom(1);
+        canvas.view->centerOn(100, 50);
+        bool handled = false;
+        QCOMPARE(element->graphicsItem()->getResizePointHandle({100, 50}, &handled), 0);
+    }
+
+    void whatLiesBeyondAllPixelsIsNoTrouble()
+    {
+        for (const char* far : {"1e12,0", "1e300,1e300", "-1.7e308,1.7e308"}) {
+            CanvasFixture canvas;
+            DesignerObject* points =
+                canvas.add("IrregularPolygon",
+                           {{QStringLiteral("position"), QStringLiteral("200,150")},
+                            {QStringLiteral("pointList"), QStringLiteral("0,0 0,80 40,90 ") + QLatin1String(far)}});
+            DesignerObject* rectangle = canvas.addRectangle(QRectF(500, 300, 60, 40));
+            canvas.select({points, rectangle});
+            const QImage image = canvas.view->grab().toImage();
+            QVERIFY(!image.isNull());
+            QCOMPARE(image.pixelColor(canvas.view->viewportTransform().map(QPointF(240, 240)).toPoint()),
+                     accent(canvas));
+            canvas.select({});
+            canvas.drag({530, 320}, {550, 330});
+            QCOMPARE(canvas.value(rectangle, "position"), QStringLiteral("520,310"));
+        }
+    }
+
 private:
+    static QColor accent(const CanvasFixture& canvas) { return canvas.view->palette().color(QPalette::Highlight); }
+
+    static QString circle(int count, double radius)
+    {
+        QPolygonF points;
+        for (int i = 0; i < count; ++i) {
+            const double angle = 2 * M_PI * i / count;
+            points << radius * QPointF(std::cos(angle), std::sin(angle));
+        }
+        return ValueConversion::toString(points);
+    }
+
     /// The bounds of the pixels within 10 of \a center, off the frame's own lines, in which the images differ.
     static QRect changedAbout(const QImage& a, const QImage& b, const QPoint& center)
     {

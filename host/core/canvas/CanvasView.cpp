@@ -164,10 +164,13 @@ void CanvasView::updateSceneRect()
     const double above = std::max(screen.height(), Least);
     QRectF reachable = screen.adjusted(-beside, -above, beside, above);
     constexpr int MostLookedAt = 100;
+    // Scroll bars have whole numbers, of which the largest zoom takes its share.
+    constexpr double Furthest = 1e6;
+    const QRectF scrollable = screen.adjusted(-Furthest, -Furthest, Furthest, Furthest);
     const QList<QGraphicsItem*> selected = canvas->selectedItems();
     if (selected.size() <= MostLookedAt) {
         for (const QGraphicsItem* graphic : selected)
-            reachable |= graphic->sceneBoundingRect();
+            reachable |= graphic->sceneBoundingRect() & scrollable;
     }
     if (reachable != sceneRect())
         setSceneRect(reachable);

@@ -13,6 +13,8 @@
 #include <QtMath>
 
 #include <algorithm>
+#include <cmath>
+#include <vector>
 
 namespace Korvex::Meridane::Designer {
 
@@ -30,6 +32,11 @@ constexpr double KnobHitRadius = 7;
 /// More elements than these are only framed: their handles would cover everything.
 constexpr int MostWithHandles = 100;
 
+/// Up to this many points of an element all have their dots, however close they lie.
+constexpr int MostDotsTogether = 200;
+/// More dots than these would take too long to draw.
+constexpr int MostDots = 1000;
+
 const QColor Light(255, 255, 255);
 const QColor Dark(24, 24, 24);
 
@@ -41,6 +48,52 @@ double distance(const QPointF& a, const QPointF& b)
 QRectF around(const QPointF& center, double side)
 {
     return {center.x() - 0.5 * side, center.y() - 0.5 * side, side, side};
+}
+
+/// False also for what is no number, unlike QRectF::contains().
+bool isWithin(const QRectF& area, const QPointF& point)
+{
+    return point.x() >= area.left() && point.x() <= area.right() && point.y() >= area.top()
+           && point.y() <= area.bottom();
+}
+
+/// What the knob and its stem cover.
+QRectF knobRect(const QPointF& foot, const QPointF& knob)
+{
+    return QRectF(foot, knob).normalized().adjusted(-KnobDiameter, -KnobDiameter, KnobDiameter, KnobDiameter);
+}
+
+/// The points of \a points of which each is further than \a spacing from those before it. All lie in \a area.
+QList<QPointF> thinnedOut(const QList<QPointF>& points, const QRectF& area, double spacing)
+{
+    // Whatever is too near stands in the same cell of this size or in one beside it.
+    const int columns = int(area.width() / spacing) + 1;
+    const int rows = int(area.height() / spacing) + 1;
+    std::vector<QList<QPointF>> cells(std::size_t(columns) * std::size_t(rows));
+    const auto cell = [&](int column, int row) -> QList<QPointF>& {
+        return cells[std::size_t(row) * std::size_t(columns) + std::size_t(column)];
+    };
+    const auto isTaken = [&](const QPointF& point, int column, int row) {
+        for (int y = std::max(row - 1, 0); y <= std::min(row + 1, rows - 1); ++y) {
+            for (int x = std::max(column - 1, 0); x <= std::min(column + 1, columns - 1); ++x) {
+                for (const QPointF& other : std::as_const(cell(x, y))) {
+                    if (distance(point, other) <= spacing)
+                        return true;
+                }
+            }
+        }
+        return false;
+    };
+    QList<QPointF> kept;
+    for (const QPointF& point : points) {
+        const int column = int((point.x() - area.x()) / spacing);
+        const int row = int((point.y() - area.y()) / spacing);
+        if (isTaken(point, column, row))
+            continue;
+        cell(column, row).append(point);
+        kept.append(point);
+    }
+    return kept;
 }
 
 /// \a point moved to the middle of a screen pixel, so that handles are drawn sharp.
@@ -154,7 +207,8 @@ void SelectionHandles::paint(QPainter* painter) const
             painter->fillRect(around(center, SquareSide), Light);
         }
         painter->setRenderHint(QPainter::Antialiasing);
-        for (const QPointF& center : shownMarks.dots)
+        const QList<QPointF> centers = dots(item);
+        for (const QPointF& center : centers)
             drawDot(center, DotDiameter, accent);
     }
 }
@@ -162,19 +216,25 @@ void SelectionHandles::paint(QPainter* painter) const
 QRegion SelectionHandles::region() const
 {
     QRegion region;
+    const QRectF viewport = m_view->viewport()->rect();
+    // What lies outside may lie further away than whole numbers reach.
+    const auto add = [&](const QRectF& rect) { region += (rect & viewport).toAlignedRect(); };
     const QList<GraphicsItem*> shown = shownItems();
     for (const GraphicsItem* item : shown) {
         const Marks shownMarks = marks(item, shown.size() == 1);
         for (const QPointF& center : shownMarks.squares)
-            region += around(center, SquareSide + 6).toAlignedRect();
-        for (const QPointF& center : shownMarks.dots)
-            region += around(center, DotDiameter + 6).toAlignedRect();
-        if (shownMarks.hasKnob) {
-            region += QRectF(shownMarks.knobFoot, shownMarks.knob)
-                          .normalized()
-                          .adjusted(-KnobDiameter, -KnobDiameter, KnobDiameter, KnobDiameter)
-                          .toAlignedRect();
+            add(around(center, SquareSide + 6));
+        const QList<QPointF> centers = dots(item);
+        if (centers.size() <= MostDotsTogether) {
+            for (const QPointF& center : centers)
+                add(around(center, DotDiameter + 6));
+        } else {
+            // One rectangle is sooner repainted than a region of many is made.
+            const double reach = 0.5 * DotDiameter + 3;
+            add(QPolygonF(centers).boundingRect().adjusted(-reach, -reach, reach, reach));
         }
+        if (shownMarks.hasKnob)
+            add(knobRect(shownMarks.knobFoot, shownMarks.knob));
     }
     return region;
 }
@@ -200,23 +260,54 @@ SelectionHandles::Marks SelectionHandles::marks(const GraphicsItem* item, bool a
     const QTransform toView = item->graphic()->sceneTransform() * m_view->viewportTransform();
     const QRectF frame = item->outerRect();
     if (item->hasFrameHandles()) {
-        for (const TransformOrigin handle : {TopLeft, Top, TopRight, Left, Right, BottomLeft, Bottom, BottomRight})
-            marks.squares.append(onPixel(toView.map(fixedPointPosition(handle, frame))));
-    }
-    if (item->isResizable()) {
-        const QVector<QPointF> points = item->pointHandles();
-        for (const QPointF& point : points)
-            marks.dots.append(toView.map(point));
+        const QRectF visible = area();
+        for (const TransformOrigin handle : {TopLeft, Top, TopRight, Left, Right, BottomLeft, Bottom, BottomRight}) {
+            const QPointF center = toView.map(fixedPointPosition(handle, frame));
+            if (isWithin(visible, center))
+                marks.squares.append(onPixel(center));
+        }
     }
     if (alone && item->isRotatable()) {
-        marks.hasKnob = true;
         marks.knobFoot = toView.map(fixedPointPosition(Top, frame));
         // Straight up from the frame, as it is turned.
         const QPointF up = toView.map(frame.topLeft()) - toView.map(frame.topLeft() + QPointF(0, 1));
         const double length = std::hypot(up.x(), up.y());
         marks.knob = marks.knobFoot + up * (length > 0 ? KnobDistance / length : 0);
+        marks.hasKnob = isWithin(area().adjusted(-KnobDistance, -KnobDistance, KnobDistance, KnobDistance), marks.knob);
     }
     return marks;
+}
+
+/// Where the dots of an element's points are drawn, in viewport pixels.
+QList<QPointF> SelectionHandles::dots(const GraphicsItem* item) const
+{
+    QList<QPointF> centers;
+    if (!item->isResizable())
+        return centers;
+    const QRectF visible = area();
+    const QTransform toView = item->graphic()->sceneTransform() * m_view->viewportTransform();
+    const QVector<QPointF> points = item->pointHandles();
+    for (const QPointF& point : points) {
+        const QPointF center = toView.map(point);
+        if (isWithin(visible, center))
+            centers.append(center);
+    }
+    if (centers.size() <= MostDotsTogether)
+        return centers;
+    double spacing = DotDiameter + 4;
+    QList<QPointF> kept = thinnedOut(centers, visible, spacing);
+    while (kept.size() > MostDots) {
+        spacing *= 1.5;
+        kept = thinnedOut(centers, visible, spacing);
+    }
+    return kept;
+}
+
+/// Where a handle's centre lies of which something is seen, in viewport pixels.
+QRectF SelectionHandles::area() const
+{
+    constexpr double Reach = 0.5 * std::max(SquareSide, DotDiameter) + 3;
+    return QRectF(m_view->viewport()->rect()).adjusted(-Reach, -Reach, Reach, Reach);
 }
 
 } // namespace Korvex::Meridane::Designer

@@ -34,6 +34,9 @@ struct HandleHit
  * They have the same size on the screen at every zoom: squares at the frame's corners and sides, dots on the points
  * that can be dragged, and, for a single selected element that can be rotated, a knob above its frame. A dark line in a
  * light one keeps them visible on any ground.
+ *
+ * Only what can be seen is drawn. Where an element has more points in view than can be told apart, some of them stand
+ * for all, further apart; every point can be dragged all the same.
  */
 class SelectionHandles
 {
@@ -55,13 +58,14 @@ private:
     struct Marks
     {
         QList<QPointF> squares;
-        QList<QPointF> dots;
         QPointF knobFoot; ///< where the knob's stem stands
         QPointF knob;
         bool hasKnob = false;
     };
     [[nodiscard]] QList<GraphicsItem*> shownItems() const;
     [[nodiscard]] Marks marks(const GraphicsItem* item, bool alone) const;
+    [[nodiscard]] QList<QPointF> dots(const GraphicsItem* item) const;
+    [[nodiscard]] QRectF area() const;
 
     const CanvasView* m_view;
 };
