@@ -42,6 +42,23 @@ private Q_SLOTS:
         QCOMPARE(m_canvas->value(m_points, "points"), QStringLiteral("0,0 100,0 130,110 0,80"));
     }
 
+    void backWhereItWasPressedEverythingIsAsItWas()
+    {
+        const auto before = m_canvas->values();
+        // Beside the point: it has jumped to the mouse meanwhile.
+        m_canvas->press({202, 181});
+        m_canvas->move({230, 210});
+        QVERIFY(m_canvas->values() != before);
+        m_canvas->move({202, 181});
+        QCOMPARE(m_canvas->values(), before);
+        QCOMPARE(m_canvas->graphic(m_points)->boundingRect(), QRectF(0, 0, 100, 80));
+        // It goes on from there.
+        m_canvas->move({230, 210});
+        m_canvas->release({202, 181});
+        QCOMPARE(m_canvas->values(), before);
+        QCOMPARE(m_canvas->steps(), 0);
+    }
+
     void betweenScreenPixelsPointsGoToWholeOnes()
     {
         m_canvas->view->setZoom(4);

@@ -23,6 +23,11 @@ void PointGesture::move(const CanvasPointer& pointer)
         return;
     begin({m_object});
     m_object->graphicsItem()->setChangingSize(true);
+    // Back where it was pressed, which need not be the very point, everything is as it was.
+    if (!moved) {
+        restore();
+        return;
+    }
     const QPointF there = view()->zoom() == 1
                               ? pointer.scenePos
                               : QPointF(std::round(pointer.scenePos.x()), std::round(pointer.scenePos.y()));
