@@ -3,6 +3,24 @@
 #include <cmath>
 
 namespace Korvex::Meridane::Display {
+namespace {
+/** As QML does for a property of a number, nothing but a number is taken for one: no text and no truth value. */
+std::optional<double> toNumber(const QVariant& value)
+{
+    switch (value.typeId()) {
+    case QMetaType::Double:
+    case QMetaType::Float:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+        return value.toDouble();
+    default:
+        return std::nullopt;
+    }
+}
+} // namespace
+
 std::optional<QPolygonF> toPolygon(const QVariantList& points)
 {
     QPolygonF polygon;
@@ -12,13 +30,12 @@ std::optional<QPolygonF> toPolygon(const QVariantList& points)
         if (pair.size() != 2) {
             return std::nullopt;
         }
-        bool xOk = false;
-        bool yOk = false;
-        const QPointF point(pair.at(0).toDouble(&xOk), pair.at(1).toDouble(&yOk));
-        if (!xOk || !yOk || !std::isfinite(point.x()) || !std::isfinite(point.y())) {
+        const std::optional<double> x = toNumber(pair.at(0));
+        const std::optional<double> y = toNumber(pair.at(1));
+        if (!x || !y || !std::isfinite(*x) || !std::isfinite(*y)) {
             return std::nullopt;
         }
-        polygon.append(point);
+        polygon.append(QPointF(*x, *y));
     }
     return polygon;
 }

@@ -11,9 +11,9 @@
 using namespace Korvex::Meridane;
 
 namespace {
-QTransform elementTransform(const QQuickItem* item)
+/** How @p item, which turns about a point of @p content, lies in its parent. */
+QTransform elementTransform(const QQuickItem* item, const QRectF& content)
 {
-    const QRectF content(0, 0, item->width(), item->height());
     const auto origin = Common::transformOriginFromName(item->property("fixedPoint").toString());
     return Common::rotationAbout(origin, content, item->rotation()) * QTransform::fromTranslate(item->x(), item->y());
 }
@@ -73,14 +73,15 @@ QImage DisplaySheet::running()
     return m_view.grabWindow().convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
-QImage DisplaySheet::painted(const std::function<void(QPainter*)>& paint) const
+QImage DisplaySheet::painted(const QRectF& content, const std::function<void(QPainter*)>& paint) const
 {
     const double pixelRatio = m_view.effectiveDevicePixelRatio();
     QImage image((QSizeF(m_view.size()) * pixelRatio).toSize(), QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(pixelRatio);
     image.fill(screen()->property("color").value<QColor>());
     QPainter painter(&image);
-    painter.setTransform(elementTransform(m_item) * elementTransform(m_group), true);
+    const QRectF group(QPointF(0, 0), m_group->size());
+    painter.setTransform(elementTransform(m_item, content) * elementTransform(m_group, group), true);
     paint(&painter);
     return image;
 }

@@ -24,8 +24,8 @@ public:
     /** What is shown now. */
     [[nodiscard]] QImage running();
 
-    /** What @p paint draws at the item's place, turned about its fixed point. */
-    [[nodiscard]] QImage painted(const std::function<void(QPainter*)>& paint) const;
+    /** What @p paint draws at the item's place, turned about its fixed point on @p content (item coordinates). */
+    [[nodiscard]] QImage painted(const QRectF& content, const std::function<void(QPainter*)>& paint) const;
 
     /** The largest difference of a channel in the two pictures; 255 when their sizes differ. */
     [[nodiscard]] static int difference(const QImage& a, const QImage& b);

@@ -28,6 +28,13 @@ struct DisplayType
     std::function<QVariantMap()> someValues;
     /** Draws an item at the origin by the function that draws the element on the canvas. */
     std::function<void(const QQuickItem&, QPainter*)> paint;
+    /** The content, in item coordinates, on which the fixed point lies; the item's rectangle where there is none here.
+     *  A null rectangle turns about the item's origin in any case. */
+    std::function<QRectF(const QQuickItem&)> content;
+    /** What the item covers, in its coordinates, apart from a border; the content where there is none here. */
+    std::function<QRectF(const QQuickItem&)> outline;
+    /** How many pixels may differ when the item is turned, beyond the rounding of translucent colours. */
+    int strayPixelsWhenTurned = 4;
 };
 
 /**
@@ -71,6 +78,8 @@ protected:
     [[nodiscard]] QQuickItem& item() const { return *m_sheet->item(); }
     /** Sets each of @p values. */
     void setValues(const QVariantMap& values) const;
+    [[nodiscard]] QRectF content() const;
+    [[nodiscard]] QRectF outline() const;
     /** The picture that the painting functions make of the item. */
     [[nodiscard]] QImage painted() const;
     /** True when the running picture is the painted one. */
