@@ -2,5 +2,5 @@
 
 QList<Sheet> allSheets()
 {
-    return rectangleSheets() + ellipseSheets() + polygonSheets();
+    return rectangleSheets() + ellipseSheets() + polygonSheets() + lineSheets() + irregularPolygonSheets();
 }

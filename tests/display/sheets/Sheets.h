@@ -8,5 +8,7 @@
 QList<Sheet> rectangleSheets();
 QList<Sheet> ellipseSheets();
 QList<Sheet> polygonSheets();
+QList<Sheet> lineSheets();
+QList<Sheet> irregularPolygonSheets();
 
 QList<Sheet> allSheets();
