@@ -3,14 +3,13 @@
 #include "host/core/canvas/CanvasNumbers.h"
 #include "host/core/objects/DesignerObject.h"
 #include "host/core/objects/ElementText.h"
-#include "host/core/properties/DesignerProperty.h"
+#include "host/core/properties/PointListProperty.h"
 #include "host/core/values/ValueConversion.h"
 
 #include "host/common/FrameResize.h"
 #include "host/common/PaintHelper.h"
 
-#include <QTransform>
-
+#include <algorithm>
 #include <cmath>
 
 namespace Korvex::Meridane::Designer {
@@ -24,6 +23,14 @@ constexpr double DotDiameter = 10;
 double factor(double before, double after)
 {
     return before > 0 ? after / before : 1;
+}
+
+/// Qt takes points for equal that differ in the last digits; their value strings differ.
+bool same(const QPolygonF& a, const QPolygonF& b)
+{
+    return std::equal(a.cbegin(), a.cend(), b.cbegin(), b.cend(), [](const QPointF& one, const QPointF& other) {
+        return one.x() == other.x() && one.y() == other.y();
+    });
 }
 
 } // namespace
@@ -93,9 +100,13 @@ UndoCommand* GraphicsIrregularPolygon::updateDataObject(const QSharedPointer<Des
 {
     if (UndoCommand* command = GraphicsItem::updateDataObject(property, parent))
         return command;
-    if (property && property->id() == QLatin1String("pointList"))
-        return writeBack(property, ValueConversion::toString(m_polygon), parent);
-    return nullptr;
+    if (!property || property->id() != QLatin1String("pointList"))
+        return nullptr;
+    // Long lists take their time to be written; in most gestures nothing has changed.
+    const auto* list = dynamic_cast<const PointListProperty*>(property.data());
+    if (list && list->isConverted() && same(list->value(), m_polygon))
+        return nullptr;
+    return writeBack(property, ValueConversion::toString(m_polygon), parent);
 }
 
 int GraphicsIrregularPolygon::getResizePointHandle(const QPointF& scenePos, bool* handled)
@@ -136,9 +147,21 @@ void GraphicsIrregularPolygon::resizeGraphicsItem(int handle, const QSizeF& oute
 {
     if (!Common::isFrameHandle(handle))
         return;
-    const QPolygonF polygon = scaled(m_polygon, m_outer.size(), frameChange(handle, outerSize).outerSize);
+    const QSizeF wanted = frameChange(handle, outerSize).outerSize;
+    if (!std::isfinite(wanted.width()) || !std::isfinite(wanted.height()))
+        return; // an absurd ratio leads there
+    const QPolygonF unscaled = m_unscaled;
+    QPolygonF polygon = scaled(unscaled, unscaled.boundingRect().size(), wanted);
+    // A dimension that does not change keeps its very coordinates.
+    for (qsizetype i = 0; i < polygon.size(); ++i) {
+        if (wanted.width() == m_outer.width())
+            polygon[i].setX(m_polygon.at(i).x());
+        if (wanted.height() == m_outer.height())
+            polygon[i].setY(m_polygon.at(i).y());
+    }
     setItemPosition(positionKeepingOpposite(handle, polygon.boundingRect()));
     setPolygon(polygon);
+    m_unscaled = unscaled;
 }
 
 void GraphicsIrregularPolygon::updateResizedDataObjects(int handle, UndoCommand* parent)
@@ -149,9 +172,13 @@ void GraphicsIrregularPolygon::updateResizedDataObjects(int handle, UndoCommand*
     const auto points = object->getProperty(QStringLiteral("pointList"));
     UndoCommand* reshaped = updateDataObject(points, parent);
     updateDataObject(object->getProperty(QStringLiteral("position")), parent);
-    if (reshaped && keptRatio() > 0 && m_outer.height() > 0) {
-        const QString ratio = ValueConversion::toString(m_outer.width() / m_outer.height());
-        static_cast<void>(writeBack(object->getProperty(QStringLiteral("keepRatio")), ratio, parent));
+    if (!reshaped || !(keptRatio() > 0))
+        return;
+    // A flat polygon has no ratio that could be kept.
+    const double ratio = m_outer.width() / m_outer.height();
+    if (ratio > 0 && std::isfinite(ratio)) {
+        const auto keepRatio = object->getProperty(QStringLiteral("keepRatio"));
+        static_cast<void>(writeBack(keepRatio, ValueConversion::toString(ratio), parent));
     }
 }
 
@@ -182,19 +209,25 @@ QPolygonF GraphicsIrregularPolygon::scaled(const QPolygonF& polygon, const QSize
 {
     const double fx = factor(before.width(), after.width());
     const double fy = factor(before.height(), after.height());
-    if (fx == 1 && fy == 1)
+    if ((fx == 1 && fy == 1) || !(fx > 0 && fy > 0))
         return polygon;
-    QPolygonF result = QTransform::fromScale(fx, fy).map(polygon);
-    for (QPointF& point : result)
-        point = withoutNoise(point);
+    QPolygonF result = polygon;
+    for (QPointF& point : result) {
+        // What is not scaled keeps its very numbers.
+        point = {fx == 1 ? point.x() : withoutNoise(fx * point.x()),
+                 fy == 1 ? point.y() : withoutNoise(fy * point.y())};
+        if (!std::isfinite(point.x()) || !std::isfinite(point.y()))
+            return polygon;
+    }
     return result;
 }
 
 void GraphicsIrregularPolygon::setPolygon(const QPolygonF& polygon)
 {
-    if (polygon == m_polygon)
+    if (same(polygon, m_polygon))
         return;
     m_polygon = polygon;
+    m_unscaled = polygon;
     if (m_highlightedPoint >= m_polygon.size())
         m_highlightedPoint = -1;
     refreshBounds();

@@ -41,7 +41,7 @@ public:
     [[nodiscard]] int highlightedPoint() const { return m_highlightedPoint; }
 
     /// \a polygon scaled about its origin as the outer size \a before becomes \a after; a dimension that is 0 before
-    /// cannot be scaled and stays.
+    /// cannot be scaled and stays. \a polygon itself where the factors are not above 0 or a point would leave all numbers.
     [[nodiscard]] static QPolygonF scaled(const QPolygonF& polygon, const QSizeF& before, const QSizeF& after);
 
 private:
@@ -50,6 +50,7 @@ private:
     [[nodiscard]] bool hasPointHandles() const;
 
     QPolygonF m_polygon;
+    QPolygonF m_unscaled; // what drags of the frame scale: however small it gets in between, nothing is lost
     QBrush m_brush;
     QRectF m_outer;
     QRectF m_bounds;

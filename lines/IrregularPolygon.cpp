@@ -1,9 +1,9 @@
 #include "lines/IrregularPolygon.h"
 
 #include "lines/GraphicsIrregularPolygon.h"
+#include "lines/PointListPlace.h"
 #include "lines/RegularPolygonPoints.h"
 
-#include "host/core/canvas/CanvasNumbers.h"
 #include "host/core/objects/BoundingSizeReaction.h"
 #include "host/core/objects/ElementProperties.h"
 #include "host/core/objects/ElementText.h"
@@ -115,16 +115,20 @@ void IrregularPolygon::afterPropertyChanged(const DesignerProperty* property, co
         qDebug("Should not reach here");
         return;
     }
-    const QPolygonF scaled = GraphicsIrregularPolygon::scaled(points, before, *outer);
-    if (scaled == points)
-        return;
+    // The outer size is written with fewer decimals than the points have: what was not changed is not scaled, and what
+    // was becomes the very size that was asked for.
+    const QRectF outline = points.boundingRect();
+    const QSizeF size(outer->width() == before.width() ? outline.width() : outer->width(),
+                      outer->height() == before.height() ? outline.height() : outer->height());
+    const QPolygonF scaled = GraphicsIrregularPolygon::scaled(points, outline.size(), size);
     changePropertyValue(m_pointList, ValueConversion::toString(scaled));
     // Points need not begin at the element's origin: the top left corner of the outline stays where it is.
-    const QPointF shift = points.boundingRect().topLeft() - scaled.boundingRect().topLeft();
     bool positionOk = false;
     const QPointF place = ValueConversion::toPoint(position()->valueString(), &positionOk);
-    if (positionOk && (shift.x() != 0 || shift.y() != 0))
-        changePropertyValue(position(), ValueConversion::toString(withoutNoise(place + shift)));
+    const RotationInfo turn = ValueConversion::toRotationInfo(rotation()->valueString());
+    const QPointF kept = positionKeepingPlace(place, turn, outline, scaled.boundingRect(), KeptPlace::Corner);
+    if (positionOk && (kept.x() != place.x() || kept.y() != place.y()))
+        changePropertyValue(position(), ValueConversion::toString(kept));
 }
 
 QList<RuntimeProperty> IrregularPolygon::runtimeProperties() const
