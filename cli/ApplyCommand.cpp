@@ -94,16 +94,14 @@ ExitStatus ApplyCommand::run(StandardOutput& output)
 
     ApplySession session(std::move(project));
     const bool allAccepted = applyEdits(session, *edits, output);
-    const bool save = !m_dryRun && !output.hasFailed() && (allAccepted || m_keepGoing)
-                      && (session.project().isModified() || session.hasImports());
+    const bool save =
+        !m_dryRun && !output.hasFailed() && (allAccepted || m_keepGoing) && session.project().isModified();
     bool saved = false;
     if (save) {
         saved = ProjectStore::save(&session.project(), session.project().folder(), &message);
         if (!saved)
             Messages::print(message);
     }
-    if (!saved)
-        session.dropImports();
     return allAccepted && saved == save ? ExitStatus::Done : ExitStatus::Fault;
 }
 

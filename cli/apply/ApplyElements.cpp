@@ -8,8 +8,6 @@
 #include "host/core/properties/DesignerProperty.h"
 #include "host/core/values/ValueConversion.h"
 
-#include <QDir>
-
 namespace Korvex::Meridane::Designer {
 
 using Common::LocalizationHelper;
@@ -74,20 +72,6 @@ ApplyResult applyRotate(ApplySession& session, EditArguments& arguments)
     if (!arguments.isComplete())
         return ApplyResult::refused(arguments.error());
     return ApplySession::result(session.edits().rotateElement(element, angle, fixedPoint));
-}
-
-ApplyResult applyImportImage(ApplySession& session, EditArguments& arguments)
-{
-    const QString file = arguments.text(QLatin1String("file"));
-    if (!arguments.isComplete())
-        return ApplyResult::refused(arguments.error());
-    const QStringList before =
-        QDir(session.project().imagesPath()).entryList(QDir::Files | QDir::Hidden | QDir::System);
-    QString id;
-    const EditResult edit = session.edits().importImage(file, &id);
-    if (edit.accepted && !before.contains(id))
-        session.noteImport(id);
-    return ApplySession::result(edit, {{QStringLiteral("id"), id}});
 }
 
 } // namespace Korvex::Meridane::Designer

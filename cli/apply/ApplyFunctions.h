@@ -18,7 +18,12 @@ class EditArguments;
 [[nodiscard]] ApplyResult applyRemove(ApplySession& session, EditArguments& arguments);
 [[nodiscard]] ApplyResult applySelect(ApplySession& session, EditArguments& arguments);
 [[nodiscard]] ApplyResult applyRotate(ApplySession& session, EditArguments& arguments);
+
+// ApplyImages.cpp
 [[nodiscard]] ApplyResult applyImportImage(ApplySession& session, EditArguments& arguments);
+[[nodiscard]] ApplyResult applyRenameImage(ApplySession& session, EditArguments& arguments);
+[[nodiscard]] ApplyResult applyReplaceImage(ApplySession& session, EditArguments& arguments);
+[[nodiscard]] ApplyResult applyRemoveImage(ApplySession& session, EditArguments& arguments);
 
 // ApplyValues.cpp
 [[nodiscard]] ApplyResult applySet(ApplySession& session, EditArguments& arguments);

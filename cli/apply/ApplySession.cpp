@@ -8,9 +8,6 @@
 #include "host/core/objects/Screen.h"
 #include "host/core/project/Project.h"
 
-#include <QDir>
-#include <QFileInfo>
-
 namespace Korvex::Meridane::Designer {
 
 using Common::LocalizationHelper;
@@ -44,7 +41,6 @@ QString unreadableReason(const Screen* screen)
 
 ApplySession::ApplySession(std::unique_ptr<Project> project)
     : m_edits(std::move(project))
-    , m_hadImagesFolder(QFileInfo::exists(m_edits.project()->imagesPath()))
 {}
 
 ApplySession::~ApplySession() = default;
@@ -193,17 +189,6 @@ ApplyResult ApplySession::result(const EditResult& edit, const QJsonObject& extr
     return ApplyResult::refused(edit.message.isEmpty()
                                     ? LocalizationHelper::coreString(QStringLiteral("The edit was refused."))
                                     : edit.message);
-}
-
-void ApplySession::dropImports()
-{
-    const QDir images(project().imagesPath());
-    for (const QString& fileName : std::as_const(m_imported))
-        QFile::remove(images.filePath(fileName));
-    // A folder that an import made goes again; one with other files in it does not.
-    if (!m_imported.isEmpty() && !m_hadImagesFolder)
-        QDir().rmdir(images.path());
-    m_imported.clear();
 }
 
 } // namespace Korvex::Meridane::Designer

@@ -4,8 +4,6 @@
 
 #include "host/core/canvas/EditSession.h"
 
-#include <QStringList>
-
 #include <memory>
 
 namespace Korvex::Meridane::Designer {
@@ -48,12 +46,6 @@ public:
     /// The result of an edit of edits(), with \a extra when it was accepted.
     [[nodiscard]] static ApplyResult result(const EditResult& edit, const QJsonObject& extra = {});
 
-    /// Remembers that \a fileName came into the images folder.
-    void noteImport(const QString& fileName) { m_imported.append(fileName); }
-    [[nodiscard]] bool hasImports() const { return !m_imported.isEmpty(); }
-    /// Takes the imported files out of the images folder again: the project is not saved.
-    void dropImports();
-
 private:
     DesignerObject* find(EditArguments& arguments, bool screensToo);
     DesignerObject* find(const QString& reference, bool screensToo, QString* message);
@@ -61,8 +53,6 @@ private:
 
     EditSession m_edits;
     std::unique_ptr<CanvasInput> m_input;
-    QStringList m_imported;
-    bool m_hadImagesFolder;
 };
 
 } // namespace Korvex::Meridane::Designer
