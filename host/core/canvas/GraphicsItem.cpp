@@ -13,6 +13,7 @@
 
 #include <QGraphicsItem>
 
+#include <algorithm>
 #include <cmath>
 
 namespace Korvex::Meridane::Designer {
@@ -234,6 +235,20 @@ bool GraphicsItem::hasFrameHandles() const
     return m_resizable && !isRotated() && isLargeEnoughForHandles();
 }
 
+bool GraphicsItem::showsFrameHandle(int handle) const
+{
+    const QVector<QPointF> points = pointHandles();
+    return std::none_of(points.cbegin(), points.cend(),
+                        [this, handle](const QPointF& point) { return liesOnFrameHandle(point, handle); });
+}
+
+bool GraphicsItem::liesOnFrameHandle(const QPointF& point, int handle) const
+{
+    constexpr double RoomOnScreen = 9; // pixels: half a square and half a dot
+    const QPointF way = point - fixedPointPosition(static_cast<TransformOrigin>(handle), outerRect());
+    return std::hypot(way.x(), way.y()) <= RoomOnScreen / HitWidthOnScreen * detectionWidth();
+}
+
 QVector<QPointF> GraphicsItem::pointHandles() const
 {
     return {};
@@ -273,8 +288,7 @@ bool GraphicsItem::isLargeEnoughForHandles() const
 
 void GraphicsItem::reportOuterSize()
 {
-    updateTransformOrigin();
-    tellParent();
+    outlineChanged();
     const auto property =
         m_dataObject ? m_dataObject->getProperty(boundingSizeId()) : QSharedPointer<DesignerProperty>();
     const QString text = outerSizeText(property);
@@ -287,8 +301,7 @@ void GraphicsItem::reportOuterSize()
 
 void GraphicsItem::fillOuterSize()
 {
-    updateTransformOrigin();
-    tellParent();
+    outlineChanged();
     const auto property =
         m_dataObject ? m_dataObject->getProperty(boundingSizeId()) : QSharedPointer<DesignerProperty>();
     const QString text = outerSizeText(property);
@@ -402,6 +415,12 @@ void GraphicsItem::updateTransformOrigin()
     // An item without a rotation carries no transformation at all, which keeps it cheap to draw and to hit.
     if (m_graphic->rotation() != 0)
         m_graphic->setTransformOriginPoint(fixedPoint());
+}
+
+void GraphicsItem::outlineChanged()
+{
+    updateTransformOrigin();
+    tellParent();
 }
 
 double GraphicsItem::keptRatio() const

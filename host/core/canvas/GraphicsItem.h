@@ -73,6 +73,8 @@ public:
     /// Whether the item offers its eight frame handles at present: it is resizable, not rotated, and large enough on the
     /// screen. The canvas draws them then.
     [[nodiscard]] virtual bool hasFrameHandles() const;
+    /// Whether there is room to draw the frame handle \a handle, hasFrameHandles() given: not where a point handle lies.
+    [[nodiscard]] virtual bool showsFrameHandle(int handle) const;
     /// Where the point handles of getResizePointHandle() lie at present, in item coordinates, for the canvas to draw;
     /// none unless overridden.
     [[nodiscard]] virtual QVector<QPointF> pointHandles() const;
@@ -140,6 +142,8 @@ protected:
     [[nodiscard]] QPointF positionKeepingOpposite(int handle, const QRectF& outerRect) const;
     /// Puts the rotation's fixed point where it belongs on the present content; called after the geometry changed.
     void updateTransformOrigin();
+    /// What reportOuterSize() does before it writes: for an outline that changed while "boundingSize" is to stay.
+    void outlineChanged();
     /// "keepRatio" when it converts and is above 0, else 0.
     [[nodiscard]] double keptRatio() const;
     /// A command that sets \a property to \a value unless it already holds it (then null); shared by all items.
@@ -147,6 +151,9 @@ protected:
                                          UndoCommand* parent) const;
     /// \a outline turned about the element's fixed point as "rotation" says, in item coordinates.
     [[nodiscard]] QPainterPath rotatedShape(const QPainterPath& outline) const;
+
+    /// Whether \a point, in item coordinates, would be drawn over the frame handle \a handle.
+    [[nodiscard]] bool liesOnFrameHandle(const QPointF& point, int handle) const;
 
 private:
     [[nodiscard]] QString outerSizeText(const QSharedPointer<DesignerProperty>& boundingSize) const;

@@ -1,17 +1,50 @@
 #include "host/core/canvas/GraphicsOutline.h"
 
+#include "host/core/canvas/CanvasNumbers.h"
 #include "host/core/objects/OutlineReaction.h"
-#include "host/core/properties/DesignerProperty.h"
+#include "host/core/properties/PointListProperty.h"
 #include "host/core/values/ValueConversion.h"
 
 #include "host/common/FrameResize.h"
 #include "host/common/PaintHelper.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace Korvex::Meridane::Designer {
+
+namespace {
+
+/// Qt takes points for equal that differ in the last digits; their value strings differ.
+bool same(const QPolygonF& a, const QPolygonF& b)
+{
+    return std::equal(a.cbegin(), a.cend(), b.cbegin(), b.cend(), [](const QPointF& one, const QPointF& other) {
+        return one.x() == other.x() && one.y() == other.y();
+    });
+}
+
+/// What a drag makes of a length: \a wanted, but the very length \a before where they differ by noise alone, and where
+/// \a wanted falls below \a smallest that or, where it is smaller already, the length before.
+double draggedLength(double before, double wanted, double smallest)
+{
+    if (withoutNoise(wanted) == withoutNoise(before))
+        return before;
+    return wanted < smallest ? std::min(smallest, before) : wanted;
+}
+
+/// The smallest height of which the width, by \a ratio, is at least 1.
+double smallestHeight(double ratio)
+{
+    const double height = 1 / ratio;
+    return height * ratio < 1 ? std::nextafter(height, 2 * height) : height;
+}
+
+} // namespace
 
 GraphicsOutline::GraphicsOutline(DesignerObject* dataObject, const QPolygonF& polygon)
     : GraphicsItem(dataObject, this)
     , m_polygon(polygon)
+    , m_unscaled(polygon)
     , m_bounds(polygon.boundingRect())
 {}
 
@@ -52,30 +85,48 @@ void GraphicsOutline::updateGraphicsItem(const QSharedPointer<DesignerProperty>&
         return;
     bool ok = false;
     const QPolygonF polygon = ValueConversion::toPolygon(property->valueString(), &ok);
-    if (ok)
-        setPolygon(polygon);
+    if (!ok)
+        return;
+    m_unscaled = polygon;
+    setPolygon(polygon);
 }
 
 UndoCommand* GraphicsOutline::updateDataObject(const QSharedPointer<DesignerProperty>& property, UndoCommand* parent)
 {
     if (UndoCommand* command = GraphicsItem::updateDataObject(property, parent))
         return command;
-    if (property && property->id() == QLatin1String("points"))
-        return writeBack(property, ValueConversion::toString(m_polygon), parent);
-    return nullptr;
+    if (!property || property->id() != QLatin1String("points"))
+        return nullptr;
+    // Long lists take their time to be written; in most gestures nothing has changed.
+    const auto* points = dynamic_cast<const PointListProperty*>(property.data());
+    if (points && points->isConverted() && same(points->value(), m_polygon))
+        return nullptr;
+    return writeBack(property, ValueConversion::toString(m_polygon), parent);
 }
 
 void GraphicsOutline::resizeGraphicsItem(int handle, const QSizeF& outerSize, const QPointF&)
 {
     if (!Common::isFrameHandle(handle))
         return;
-    const QSizeF before = m_bounds.size();
-    const QSizeF wanted(Common::handleChangesWidth(handle) ? outerSize.width() : before.width(),
-                        Common::handleChangesHeight(handle) ? outerSize.height() : before.height());
-    const auto factors = outlineFactors(before, wanted, keptRatio());
-    if (!factors)
-        return;
-    const QPolygonF polygon = scaledOutline(m_polygon, *factors);
+    // Always from the element's own points: whatever the way of the mouse, the outline is what that outer size would make
+    // of it, and however small it gets in between, nothing is lost.
+    const QSizeF before = m_unscaled.boundingRect().size();
+    const double ratio = keptRatio();
+    QSizeF wanted = before;
+    if (Common::handleChangesWidth(handle))
+        wanted.setWidth(draggedLength(before.width(), outerSize.width(), minSize()));
+    if (Common::handleChangesHeight(handle))
+        wanted.setHeight(draggedLength(before.height(), outerSize.height(), minSize()));
+    // A typed size that leaves less than a pixel to the other side is refused; a drag ends before.
+    const bool widthChanged = wanted.width() != before.width();
+    const bool heightChanged = wanted.height() != before.height();
+    if (ratio > 0 && widthChanged && !heightChanged)
+        wanted.setWidth(draggedLength(before.width(), wanted.width(), ratio));
+    else if (ratio > 0 && heightChanged && !widthChanged)
+        wanted.setHeight(draggedLength(before.height(), wanted.height(), smallestHeight(ratio)));
+    const auto factors = outlineFactors(before, wanted, ratio);
+    const auto scaled = factors ? scaledOutline(m_unscaled, *factors) : std::nullopt;
+    const QPolygonF polygon = scaled.value_or(m_unscaled);
     setItemPosition(positionKeepingOpposite(handle, polygon.boundingRect()));
     setPolygon(polygon);
 }
@@ -92,14 +143,14 @@ QRectF GraphicsOutline::contentRect() const
 
 void GraphicsOutline::setPolygon(const QPolygonF& polygon)
 {
-    if (polygon == m_polygon)
+    if (same(polygon, m_polygon))
         return;
     prepareGeometryChange();
     m_polygon = polygon;
     m_bounds = polygon.boundingRect();
     update();
     if (m_keepsOuterSize)
-        updateTransformOrigin();
+        outlineChanged();
     else
         reportOuterSize();
 }

@@ -45,6 +45,7 @@ private:
     void setPolygon(const QPolygonF& polygon);
 
     QPolygonF m_polygon;
+    QPolygonF m_unscaled; // the element's points, which drags of the frame scale
     QRectF m_bounds;
     bool m_keepsOuterSize = false;
 };
