@@ -4,8 +4,8 @@
 
 namespace Korvex::Meridane::Designer {
 
-/// A gradient that sweeps around a centre, clockwise from a start angle. The centre is percent of the outline's bounding
-/// rectangle and may lie outside of it.
+/// A gradient that sweeps around a centre, counter-clockwise from a start angle, which itself is measured clockwise from
+/// the x axis. The centre is percent of the outline's bounding rectangle and may lie outside of it.
 class ConicalGradientElement : public GradientElement
 {
     Q_OBJECT

@@ -8,12 +8,29 @@
 #include "host/core/objects/OutlineReaction.h"
 #include "host/core/properties/PropertyDeclaration.h"
 #include "host/core/properties/RuntimeProperty.h"
+#include "host/core/values/ValueConversion.h"
 
 #include "host/common/EnumHelper.h"
 
 namespace Korvex::Meridane::Designer {
 
 using Common::EnumHelper;
+
+namespace {
+
+QString gradientStopsAdvice(const DesignerProperty* property)
+{
+    const QGradientStops stops = ValueConversion::toGradientStops(property->valueString());
+    for (const QGradientStop& stop : stops) {
+        if (!(stop.first >= 0 && stop.first <= 1)) {
+            return elementText("A stop at %1 cannot be drawn: positions are from 0 to 1. Correct or remove it.")
+                .arg(ValueConversion::toString(stop.first));
+        }
+    }
+    return {};
+}
+
+} // namespace
 
 GradientElement::GradientElement(QObject* parent)
     : VisualElement(parent)
@@ -47,7 +64,8 @@ bool GradientElement::initializeProperties()
     m_gradientStops = PropertyDeclaration<GradientStopsProperty>(this, QLatin1String("gradientStops"),
                                                                  elementText("Gradient Stops"), QGradientStops())
                           .rank(13)
-                          .allowInvalid();
+                          .allowInvalid()
+                          .advisor(gradientStopsAdvice);
     return true;
 }
 

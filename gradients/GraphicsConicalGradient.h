@@ -4,7 +4,7 @@
 
 namespace Korvex::Meridane::Designer {
 
-/// The canvas item of the conical gradient. The gradient's centre is percent, its angle degrees clockwise.
+/// The canvas item of the conical gradient. The gradient's centre is percent, its angle degrees clockwise, 0 to 359.99.
 class GraphicsConicalGradient : public GraphicsGradient
 {
 public:

@@ -5,6 +5,8 @@
 
 #include "host/core/values/ValueConversion.h"
 
+#include "host/common/GradientStops.h"
+
 #include <cmath>
 
 namespace Korvex::Meridane::Designer {
@@ -40,7 +42,8 @@ void GraphicsGradient::updateGraphicsItem(const QSharedPointer<DesignerProperty>
         }
     } else if (property->id() == QLatin1String("gradientStops")) {
         bool ok = false;
-        const QGradientStops stops = ValueConversion::toGradientStops(property->valueString(), &ok);
+        const QGradientStops stops =
+            Common::drawableStops(ValueConversion::toGradientStops(property->valueString(), &ok));
         if (ok && stops != m_gradient->stops()) {
             m_gradient->setStops(stops);
             update();

@@ -26,18 +26,27 @@ QString pointQml(const DesignerProperty* property, int indent)
     return wholePointQml(property, indent, isStart(property) ? "start" : "stop");
 }
 
-/// The point lies within the outline's bounding rectangle, and is another one than the other point.
+bool isPercent(double value)
+{
+    return value >= 0 && value <= 100;
+}
+
+/// The point lies within the outline's bounding rectangle, and is another one than the other point; both as the whole
+/// percents that are exported. A text that is no point is not judged, nor compared with.
 bool pointValidator(const DesignerProperty* property, QString& message)
 {
     message.clear();
     const auto other = property->parentObject()->getProperty(isStart(property) ? QStringLiteral("finalStop")
                                                                                : QStringLiteral("start"));
-    const QPoint point = ValueConversion::toPoint(property->valueString()).toPoint();
-    const QPoint otherPoint = ValueConversion::toPoint(other->valueString()).toPoint();
-    const QRect percents(QPoint(0, 0), QPoint(100, 100));
-    if (!percents.contains(point))
+    bool ok = false;
+    bool otherOk = false;
+    const QPointF point = wholePoint(ValueConversion::toPoint(property->valueString(), &ok));
+    const QPointF otherPoint = wholePoint(ValueConversion::toPoint(other->valueString(), &otherOk));
+    if (!ok)
+        return true;
+    if (!isPercent(point.x()) || !isPercent(point.y()))
         message = elementText("The X and Y must be between 0% and 100%.");
-    else if (point == otherPoint)
+    else if (otherOk && point == otherPoint)
         message = elementText("The start position must be different from the final stop position.");
     return message.isEmpty();
 }

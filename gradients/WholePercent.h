@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+
 namespace Korvex::Meridane::Designer {
 
 /// The whole percent of a gradient position from 0 to 1: position × 100 without its decimals, where the noise of binary
@@ -7,7 +9,8 @@ namespace Korvex::Meridane::Designer {
 [[nodiscard]] inline int wholePercent(double position)
 {
     constexpr double Noise = 1e-6;
-    return int(position * 100 + Noise);
+    constexpr double Largest = 1e9; // of positions that are none
+    return int(std::clamp(position * 100 + Noise, -Largest, Largest));
 }
 
 } // namespace Korvex::Meridane::Designer

@@ -1,5 +1,7 @@
 #include "runtime/GradientItem.h"
 
+#include "host/common/GradientStops.h"
+
 #include <QtGui/QColor>
 #include <QtQml/QQmlInfo>
 
@@ -16,7 +18,7 @@ std::optional<QGradientStops> toStops(const QVariantList& list)
         bool ok = pair.size() == 2;
         const double position = ok ? pair.at(0).toDouble(&ok) : 0;
         const QColor color = pair.size() == 2 ? pair.at(1).value<QColor>() : QColor();
-        if (!ok || !(position >= 0 && position <= 1) || !color.isValid()) {
+        if (!ok || !std::isfinite(position) || !color.isValid()) {
             return std::nullopt;
         }
         stops.append({position, color});
@@ -47,7 +49,7 @@ void GradientItem::setGradientStops(const QVariantList& stops)
         return;
     }
     m_gradientStops = stops;
-    m_stops = *converted;
+    m_stops = Common::drawableStops(*converted);
     contentChanged();
     Q_EMIT gradientStopsChanged();
 }

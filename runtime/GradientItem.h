@@ -11,8 +11,8 @@ class GradientItem : public Korvex::Meridane::Display::PointsItem
 {
     Q_OBJECT
     /**
-     * The colours, each a list of a position from 0 to 1 and a colour. A list with an entry that is no such pair is refused
-     * with a warning, and the stops stay as they were.
+     * The colours, each a list of a position and a colour; those at positions outside 0 to 1 are not drawn. A list with an
+     * entry that is no such pair is refused with a warning, and the stops stay as they were.
      */
     Q_PROPERTY(QVariantList gradientStops READ gradientStops WRITE setGradientStops NOTIFY gradientStopsChanged FINAL)
     QML_ANONYMOUS

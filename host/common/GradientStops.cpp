@@ -1,0 +1,15 @@
+#include "host/common/GradientStops.h"
+
+namespace Korvex::Meridane::Common {
+QGradientStops drawableStops(const QGradientStops& stops)
+{
+    QGradientStops drawable;
+    drawable.reserve(stops.size());
+    for (const QGradientStop& stop : stops) {
+        if (stop.first >= 0 && stop.first <= 1) {
+            drawable.append(stop);
+        }
+    }
+    return drawable;
+}
+} // namespace Korvex::Meridane::Common
