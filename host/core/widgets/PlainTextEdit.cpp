@@ -6,6 +6,7 @@
 #include <QtGui/QKeyEvent>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextDocument>
+#include <QtGui/QTextLayout>
 
 #include <algorithm>
 #include <array>
@@ -42,6 +43,30 @@ QChar originalOf(QChar sign)
     const auto found = std::find_if(substitutes.cbegin(), substitutes.cend(),
                                     [sign](const Substitute& s) { return s.sign == sign.unicode(); });
     return found == substitutes.cend() ? sign : QChar(found->original);
+}
+
+/** Whether lines can be broken behind @p c. */
+bool isBreakingSpace(QChar c)
+{
+    return c.isSpace() && c.decompositionTag() != QChar::NoBreak && signFor(c).isNull();
+}
+
+/**
+ * How the lines of @p text are broken: between words, or anywhere if a word is a long one. Qt looks for the end of a word
+ * anew for every line of it, which takes minutes for a megabyte.
+ */
+QTextOption::WrapMode wrapModeFor(const QString& text)
+{
+    constexpr qsizetype longestWord = 2000;
+    qsizetype start = 0;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (isBreakingSpace(text.at(i))) {
+            start = i + 1;
+        } else if (i - start >= longestWord) {
+            return QTextOption::WrapAnywhere;
+        }
+    }
+    return QTextOption::WrapAtWordBoundaryOrAnywhere;
 }
 
 QTextCharFormat substituteFormat()
@@ -81,6 +106,8 @@ void PlainTextEdit::setText(const QString& text)
     cursor.select(QTextCursor::Document);
     cursor.removeSelectedText();
     cursor.setCharFormat(QTextCharFormat());
+    cursor.block().layout()->clearLayout(); // every insertion would go through the lines of the text before
+    setWordWrapMode(wrapModeFor(text));
     insertEncoded(cursor, text);
     cursor.endEditBlock();
     // What is being edited is often what comes back: the caret stays.
@@ -212,6 +239,9 @@ void PlainTextEdit::insertFromMimeData(const QMimeData* source)
     text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
     text.replace(u'\r', u'\n');
     text.replace(QChar(QChar::ParagraphSeparator), u'\n');
+    if (wrapModeFor(text) == QTextOption::WrapAnywhere) {
+        setWordWrapMode(QTextOption::WrapAnywhere);
+    }
     QTextCursor cursor = textCursor();
     cursor.beginEditBlock();
     cursor.removeSelectedText();
