@@ -12,6 +12,7 @@
 #include "host/core/objects/Screen.h"
 #include "host/core/objects/VisualElement.h"
 #include "host/core/plugins/DesignerFactory.h"
+#include "host/core/project/FontImporter.h"
 #include "host/core/project/ImageReferences.h"
 #include "host/core/project/Project.h"
 #include "host/core/project/ResourceImporter.h"
@@ -21,6 +22,7 @@
 
 #include "host/common/LocalizationHelper.h"
 
+#include <QGuiApplication>
 #include <QScopedValueRollback>
 #include <QSet>
 #include <QSignalBlocker>
@@ -45,6 +47,8 @@ EditSession::EditSession(std::unique_ptr<Project> project, QObject* parent)
     connect(undoStack(), &UndoStack::stepApplied, this, &EditSession::onStepApplied);
     connect(m_project.get(), &Project::objectRemoved, this, &EditSession::onObjectRemoved);
     connect(m_project.get(), &Project::userModificationRefused, this, &EditSession::editRefused);
+    if (qGuiApp)
+        connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, this, &EditSession::repaintScenes);
     const QVector<Screen*> screens = m_project->screens();
     if (!screens.isEmpty())
         m_currentScreen = screens.first();
@@ -335,6 +339,20 @@ EditResult EditSession::executePlan(ImageEdits::Plan plan, const QString& image,
     return execute(std::move(plan.command));
 }
 
+EditResult EditSession::importFont(const QString& file, QString* id, QStringList* families)
+{
+    QString message;
+    QStringList found;
+    const QString fileName = FontImporter::importFont(m_project.get(), file, &found, &message);
+    if (fileName.isEmpty())
+        return refused(message);
+    if (id)
+        *id = fileName;
+    if (families)
+        *families = found;
+    return {true, false, {}};
+}
+
 EditResult EditSession::undo()
 {
     if (!undoStack()->canUndo() || undoStack()->isBlocked())
@@ -418,6 +436,13 @@ void EditSession::onSceneSelectionChanged(CanvasScene* scene)
         return;
     m_selection = objects;
     Q_EMIT selectionChanged();
+}
+
+/// Fonts have come or gone.
+void EditSession::repaintScenes()
+{
+    for (const auto& [screen, scene] : m_scenes)
+        scene->update();
 }
 
 void EditSession::dropScene(Screen* screen)

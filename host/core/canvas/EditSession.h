@@ -75,6 +75,9 @@ public:
     EditResult replaceImage(const QString& image, const QString& file, QString* id = nullptr);
     /// Removes \a image; refused while anything uses it.
     EditResult removeImage(const QString& image);
+    /// Copies a font file into the project; refused when it is none that every display can load. \a id: its name in the
+    /// project; \a families: what texts call it.
+    EditResult importFont(const QString& file, QString* id, QStringList* families = nullptr);
     EditResult undo();
     EditResult redo();
 
@@ -93,6 +96,7 @@ private:
     void onObjectRemoved(DesignerObject* object);
     void onSceneSelectionChanged(CanvasScene* scene);
     void dropScene(Screen* screen);
+    void repaintScenes();
 
     std::unique_ptr<Project> m_project;
     std::map<Screen*, std::unique_ptr<CanvasScene>> m_scenes;

@@ -4,12 +4,12 @@
 #include "host/core/project/Project.h"
 #include "host/core/project/ProjectFiles.h"
 #include "host/core/project/ProjectFolder.h"
+#include "host/core/project/ResourceNames.h"
 
 #include "host/common/LocalizationHelper.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSet>
 
 namespace Korvex::Meridane::Designer {
 
@@ -17,39 +17,11 @@ using Common::LocalizationHelper;
 
 namespace {
 
-constexpr int LongestBase = 80; // characters of a name that is made here
 constexpr int LongestName = 240; // bytes; file systems allow 255
 
 QString text(const char* source)
 {
     return LocalizationHelper::coreString(QString::fromUtf8(source));
-}
-
-/// Equal for names that some file system takes for the same.
-QString identity(const QString& name)
-{
-    return name.normalized(QString::NormalizationForm_C).toCaseFolded();
-}
-
-QStringList filesIn(const Project& project)
-{
-    return QDir(project.imagesPath()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-}
-
-/// \a base made plain: only characters that are safe in a path, a link and QML.
-QString plain(QString base)
-{
-    for (QChar& c : base) {
-        if (!c.isLetterOrNumber() && c != QLatin1Char('-') && c != QLatin1Char('_') && c != QLatin1Char('.'))
-            c = QLatin1Char('_');
-    }
-    while (base.contains(QLatin1String("..")))
-        base.replace(QLatin1String(".."), QLatin1String("."));
-    while (base.endsWith(QLatin1Char('.')))
-        base.chop(1);
-    if (base.isEmpty() || base.startsWith(QLatin1Char('.')))
-        base.prepend(QStringLiteral("image"));
-    return base.left(LongestBase);
 }
 
 /// Whether nothing stands in the way of writing \a name: no file of it, or one that the program has put there and that
@@ -65,15 +37,8 @@ bool isFreeForRenaming(const Project& project, const QString& name)
 
 QString ImageNames::freeName(const Project& project, const QString& base, const QString& suffix)
 {
-    QSet<QString> taken;
-    const QStringList names = filesIn(project) + project.imageResources();
-    for (const QString& name : names)
-        taken.insert(identity(name));
-    const QString stem = plain(base);
-    QString name = stem + QLatin1Char('.') + suffix;
-    for (int number = 2; taken.contains(identity(name)); ++number)
-        name = QStringLiteral("%1-%2.%3").arg(stem, QString::number(number), suffix);
-    return name;
+    return ResourceNames::freeName(project.imagesPath(), project.imageResources(), base, suffix,
+                                   QStringLiteral("image"));
 }
 
 QString ImageNames::completed(const QString& name, const QString& image)
@@ -108,14 +73,15 @@ QString ImageNames::fault(const Project& project, const QString& image, const QS
     for (const QString& other : project.imageResources()) {
         if (other == name)
             return text("There is already an image \"%1\".").arg(name);
-        if (other != image && identity(other) == identity(name)) {
+        if (other != image && ResourceNames::identity(other) == ResourceNames::identity(name)) {
             return text("\"%1\" and the image \"%2\" differ only in capitals, which not every computer tells apart.")
                 .arg(name, other);
         }
     }
-    const QStringList present = filesIn(project);
+    const QStringList present = ResourceNames::filesIn(project.imagesPath());
     for (const QString& other : present) {
-        if (other != image && identity(other) == identity(name) && !isFreeForRenaming(project, other))
+        if (other != image && ResourceNames::identity(other) == ResourceNames::identity(name)
+            && !isFreeForRenaming(project, other))
             return text("There is already a file \"%1\" in the project's images folder. Choose another name.")
                 .arg(other);
     }

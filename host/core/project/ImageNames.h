@@ -8,12 +8,7 @@ namespace Korvex::Meridane::Designer {
 
 class Project;
 
-/**
- * The names of image resources, which are the names of their files in the project's images folder.
- *
- * A name is a plain file name that every file system takes, and no two of them differ only in capitals: projects are
- * copied to computers that cannot tell such files apart.
- */
+/// The names of image resources, which are the names of their files in the project's images folder. See ResourceNames.
 class MERIDANE_CORE_EXPORT ImageNames
 {
 public:

@@ -141,6 +141,14 @@ void Project::setImageResources(const QStringList& fileNames)
     Q_EMIT resourcesChanged();
 }
 
+void Project::setFontResources(const QStringList& fileNames)
+{
+    if (m_fontResources == fileNames)
+        return;
+    m_fontResources = fileNames;
+    Q_EMIT resourcesChanged();
+}
+
 EditResult Project::execute(std::unique_ptr<UndoCommand> command)
 {
     return m_undoStack->execute(std::move(command));

@@ -51,8 +51,9 @@ public:
     /// The image files that the project offers, by file name. A link to an image resource names the file.
     [[nodiscard]] const QStringList& imageResources() const { return m_imageResources; }
     void setImageResources(const QStringList& fileNames);
+    /// The font files of the project, by file name. Texts use them by their families while they are in this list.
     [[nodiscard]] const QStringList& fontResources() const { return m_fontResources; }
-    void setFontResources(const QStringList& fileNames) { m_fontResources = fileNames; }
+    void setFontResources(const QStringList& fileNames);
 
     [[nodiscard]] UndoStack* undoStack() const { return m_undoStack; }
     /// Executes \a command as one undo step; takes ownership.

@@ -89,7 +89,7 @@ void ProjectChecker::checkResources()
             m_problems.append(Problem::error(file, {}, {}, reason));
         }
     }
-    m_files->fonts().load(folder, m_project->fontResources());
+    m_files->fonts().setFiles(folder, m_project->fontResources());
     for (const QString& font : m_files->fonts().unusableFiles()) {
         m_problems.append(Problem::warning(
             ProjectFolder::fontFile(font), {}, {},

@@ -20,11 +20,12 @@ ProjectFiles::ProjectFiles(Project* project)
     , m_project(project)
 {
     connect(project, &Project::resourcesChanged, this, &ProjectFiles::noteImages);
+    connect(project, &Project::resourcesChanged, this, &ProjectFiles::loadFonts);
 }
 
 ProjectFiles::~ProjectFiles()
 {
-    takeBackImages();
+    takeBackResources();
     removeDiscardedImages();
 }
 
@@ -112,15 +113,34 @@ bool ProjectFiles::writeImage(const QString& fileName, const QByteArray& content
     return true;
 }
 
-QByteArray ProjectFiles::readImage(const QString& fileName) const
+bool ProjectFiles::writeFont(const QString& fileName, const QByteArray& content, QString* message)
 {
-    return ImageFolder::read(folder(), fileName);
+    return m_fontFiles.write(folder(), fileName, content, message);
 }
 
-void ProjectFiles::takeBackImages()
+QByteArray ProjectFiles::readImage(const QString& fileName) const
 {
-    if (m_images.isChanged() && !m_temporaryFolder)
-        m_images.takeBack(ProjectFolder(m_folderPath), mentionedInFolder());
+    return m_images.read(folder(), fileName);
+}
+
+QByteArray ProjectFiles::readFont(const QString& fileName) const
+{
+    return m_fontFiles.read(folder(), fileName);
+}
+
+void ProjectFiles::setResourcesSaved()
+{
+    m_images.setSaved();
+    m_fontFiles.setSaved();
+}
+
+void ProjectFiles::takeBackResources()
+{
+    if (m_temporaryFolder || !(m_images.isChanged() || m_fontFiles.isChanged()))
+        return;
+    const std::optional<QSet<QString>> mentioned = mentionedInFolder();
+    m_images.takeBack(ProjectFolder(m_folderPath), mentioned);
+    m_fontFiles.takeBack(ProjectFolder(m_folderPath), mentioned);
 }
 
 void ProjectFiles::setReservedImages(const QStringList& images)
@@ -181,8 +201,13 @@ void ProjectFiles::noteImages()
     }
 }
 
-/// Every text by which a file of the project, as they stand now, whoever wrote them, could name an image; nothing when
-/// one of them cannot be read.
+void ProjectFiles::loadFonts()
+{
+    m_fonts.setFiles(folder(), m_project->fontResources());
+}
+
+/// Every text by which a file of the project, as they stand now, whoever wrote them, could name an image or a font;
+/// nothing when one of them cannot be read.
 std::optional<QSet<QString>> ProjectFiles::mentionedInFolder() const
 {
     const ProjectFolder folder(m_folderPath);

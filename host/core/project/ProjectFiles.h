@@ -1,8 +1,8 @@
 #pragma once
 
-#include "host/core/project/ImageFolder.h"
 #include "host/core/project/ProjectFolder.h"
 #include "host/core/project/ProjectFonts.h"
+#include "host/core/project/ResourceFolder.h"
 
 #include <QHash>
 #include <QJsonObject>
@@ -43,7 +43,7 @@ public:
     /// Of \a project, or null.
     [[nodiscard]] static const ProjectFiles* find(const Project* project);
     /// The project is closed: removes the images that a save has discarded, and takes back what was done to the images
-    /// since.
+    /// and fonts since.
     ~ProjectFiles() override;
 
     [[nodiscard]] ProjectFolder folder() const;
@@ -85,12 +85,16 @@ public:
     /// Puts \a content into the image file \a fileName of the project's folder and announces it. False with a message
     /// that names the file when that is not possible.
     bool writeImage(const QString& fileName, const QByteArray& content, QString* message);
+    /// The same for a font file.
+    bool writeFont(const QString& fileName, const QByteArray& content, QString* message);
     /// What the image file \a fileName holds; null where there is none that may be read.
     [[nodiscard]] QByteArray readImage(const QString& fileName) const;
-    /// The image files of the folder are those of the saved project.
-    void setImagesSaved() { m_images.setSaved(); }
-    /// Puts the image files of the folder, which the project is about to leave, back to what they were at its last save.
-    void takeBackImages();
+    [[nodiscard]] QByteArray readFont(const QString& fileName) const;
+    /// The image and font files of the folder are those of the saved project.
+    void setResourcesSaved();
+    /// Puts the image and font files of the folder, which the project is about to leave, back to what they were at its
+    /// last save.
+    void takeBackResources();
 
     /// Every image that has been the project's own since it was opened: those of project.json and those imported.
     [[nodiscard]] const QSet<QString>& ownImages() const { return m_ownImages; }
@@ -110,6 +114,7 @@ private:
     void readScreen(Screen* screen);
     [[nodiscard]] bool readScreenFile(ScreenFile& entry, Screen* screen, QString* error);
     void noteImages();
+    void loadFonts();
     [[nodiscard]] std::optional<QSet<QString>> mentionedInFolder() const;
     void removeDiscardedImages();
 
@@ -125,7 +130,8 @@ private:
     QSet<QString> m_ownImages;
     QSet<QString> m_reservedImages;
     QSet<QString> m_discardedImages;
-    ImageFolder m_images;
+    ResourceFolder m_images{QStringLiteral("images")};
+    ResourceFolder m_fontFiles{QStringLiteral("fonts")};
     ProjectFonts m_fonts;
 };
 

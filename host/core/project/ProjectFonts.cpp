@@ -18,16 +18,30 @@ bool canLoadFonts()
 
 ProjectFonts::~ProjectFonts()
 {
-    if (!canLoadFonts())
-        return;
-    for (const Font& font : std::as_const(m_fonts))
-        QFontDatabase::removeApplicationFont(font.handle);
+    release({});
 }
 
-void ProjectFonts::load(const ProjectFolder& folder, const QStringList& fileNames)
+/// Lets all fonts go but \a kept.
+void ProjectFonts::release(const QStringList& kept)
 {
     if (!canLoadFonts())
         return;
+    for (auto font = m_fonts.begin(); font != m_fonts.end();) {
+        if (kept.contains(font.key())) {
+            ++font;
+        } else {
+            QFontDatabase::removeApplicationFont(font->handle);
+            font = m_fonts.erase(font);
+        }
+    }
+    m_unusable.removeIf([&kept](const QString& name) { return !kept.contains(name); });
+}
+
+void ProjectFonts::setFiles(const ProjectFolder& folder, const QStringList& fileNames)
+{
+    if (!canLoadFonts())
+        return;
+    release(fileNames);
     for (const QString& name : fileNames) {
         if (m_fonts.contains(name) || m_unusable.contains(name) || !ProjectFolder::isResourceName(name))
             continue;
@@ -41,6 +55,16 @@ void ProjectFonts::load(const ProjectFolder& folder, const QStringList& fileName
         else
             m_fonts.insert(name, {handle, QFontDatabase::applicationFontFamilies(handle)});
     }
+}
+
+QStringList ProjectFonts::familiesIn(const QByteArray& content)
+{
+    const int handle = canLoadFonts() ? QFontDatabase::addApplicationFontFromData(content) : -1;
+    if (handle < 0)
+        return {};
+    const QStringList families = QFontDatabase::applicationFontFamilies(handle);
+    QFontDatabase::removeApplicationFont(handle);
+    return families;
 }
 
 QStringList ProjectFonts::filesOf(const QString& family) const

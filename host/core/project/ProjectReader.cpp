@@ -172,7 +172,6 @@ void ProjectReader::addResources(Project* project, ProjectFiles* files)
     files->setReservedImages(m_images);
     project->setImageResources(m_images + images);
     project->setFontResources(m_fonts + fonts);
-    files->fonts().load(m_folder, project->fontResources());
 }
 
 QStringList ProjectReader::unlisted(const QString& subfolder, const QStringList& listed,

@@ -332,11 +332,11 @@ void ProjectWriter::leaveUnusedImages()
 void ProjectWriter::adoptResult()
 {
     if (!m_own) {
-        m_files->takeBackImages();
+        m_files->takeBackResources();
         m_files->setFolder(m_target.path());
         leaveUnusedImages();
     }
-    m_files->setImagesSaved();
+    m_files->setResourcesSaved();
     std::vector<ProjectFiles::ScreenFile>& entries = m_files->screenFiles();
     const QStringList kept = m_screenFiles.values();
     for (const ProjectFiles::ScreenFile& entry : entries) {

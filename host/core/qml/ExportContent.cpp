@@ -28,7 +28,7 @@ ExportContent::ExportContent(Project* project)
     : m_project(project)
     , m_projectFiles(ProjectFiles::of(project))
 {
-    m_projectFiles->fonts().load(m_projectFiles->folder(), project->fontResources());
+    m_projectFiles->fonts().setFiles(m_projectFiles->folder(), project->fontResources());
     addMain();
     for (const Screen* screen : project->screens())
         addScreen(screen);

@@ -1,4 +1,4 @@
-#include "host/core/project/ImageFolder.h"
+#include "host/core/project/ResourceFolder.h"
 
 #include "host/core/project/FileOperations.h"
 
@@ -15,16 +15,11 @@ using Common::LocalizationHelper;
 
 namespace {
 
-QString imagesFolder(const ProjectFolder& folder)
-{
-    return folder.absolute(QStringLiteral("images"));
-}
-
 /// Replaces \a path, or makes it, in one step.
 bool replaceFile(const QString& path, const QByteArray& content, QString* error)
 {
     FileOperations& files = FileOperations::current();
-    const QString prepared = QFileInfo(path).path() + QLatin1String("/.meridane-image.new");
+    const QString prepared = QFileInfo(path).path() + QLatin1String("/.meridane-import.new");
     if (!files.removeTree(prepared, error) || !files.createFile(prepared, content, error))
         return false;
     // Whoever remembers a picture by the time of its file must see that it is another one now, however coarse the clock
@@ -45,24 +40,38 @@ bool replaceFile(const QString& path, const QByteArray& content, QString* error)
 
 } // namespace
 
-QByteArray ImageFolder::read(const ProjectFolder& folder, const QString& fileName)
+ResourceFolder::ResourceFolder(const QString& name)
+    : m_name(name)
+{}
+
+QString ResourceFolder::pathOf(const ProjectFolder& folder) const
+{
+    return folder.absolute(m_name);
+}
+
+QString ResourceFolder::pathOf(const ProjectFolder& folder, const QString& fileName) const
+{
+    return pathOf(folder) + QLatin1Char('/') + fileName;
+}
+
+QByteArray ResourceFolder::read(const ProjectFolder& folder, const QString& fileName) const
 {
     QByteArray content;
     QString ignored;
     const bool found =
         ProjectFolder::isResourceName(fileName)
-        && folder.read(ProjectFolder::imageFile(fileName), &content, &ignored) == ProjectFolder::Found::File;
+        && folder.read(m_name + QLatin1Char('/') + fileName, &content, &ignored) == ProjectFolder::Found::File;
     // A null array stands for no file.
     return found && content.isNull() ? QByteArray("") : content;
 }
 
-bool ImageFolder::write(const ProjectFolder& folder, const QString& fileName, const QByteArray& content,
-                        QString* message)
+bool ResourceFolder::write(const ProjectFolder& folder, const QString& fileName, const QByteArray& content,
+                           QString* message)
 {
     if (!prepare(folder, fileName, message))
         return false;
     const QByteArray before = read(folder, fileName);
-    if (!replaceFile(folder.absolute(ProjectFolder::imageFile(fileName)), content, message))
+    if (!replaceFile(pathOf(folder, fileName), content, message))
         return false;
     if (!m_written.contains(fileName))
         m_written.insert(fileName, {before.isNull() ? std::nullopt : std::optional(before), {}});
@@ -70,21 +79,21 @@ bool ImageFolder::write(const ProjectFolder& folder, const QString& fileName, co
     return true;
 }
 
-bool ImageFolder::prepare(const ProjectFolder& folder, const QString& fileName, QString* message)
+bool ResourceFolder::prepare(const ProjectFolder& folder, const QString& fileName, QString* message)
 {
-    const QString path = folder.absolute(ProjectFolder::imageFile(fileName));
+    const QString path = pathOf(folder, fileName);
     const auto refuse = [&](const QString& reason) {
         *message = QDir::toNativeSeparators(path) + QLatin1String(": ") + reason;
         return false;
     };
-    const QString images = imagesFolder(folder);
-    if (!QFileInfo::exists(images) && !QFileInfo(images).isSymLink()) {
+    const QString resources = pathOf(folder);
+    if (!QFileInfo::exists(resources) && !QFileInfo(resources).isSymLink()) {
         QStringList made;
-        if (!FileOperations::current().makePath(images, &made, message))
+        if (!FileOperations::current().makePath(resources, &made, message))
             return false;
         m_madeFolder = true;
     }
-    if (QFileInfo(images).isSymLink() || QFileInfo(path).isSymLink()) {
+    if (QFileInfo(resources).isSymLink() || QFileInfo(path).isSymLink()) {
         return refuse(LocalizationHelper::coreString(
             QStringLiteral("This is a symbolic link, and nothing is written through it.")));
     }
@@ -93,16 +102,16 @@ bool ImageFolder::prepare(const ProjectFolder& folder, const QString& fileName, 
     return true;
 }
 
-void ImageFolder::setSaved()
+void ResourceFolder::setSaved()
 {
     m_written.clear();
     m_madeFolder = false;
 }
 
-void ImageFolder::takeBack(const ProjectFolder& folder, const std::optional<QSet<QString>>& kept)
+void ResourceFolder::takeBack(const ProjectFolder& folder, const std::optional<QSet<QString>>& kept)
 {
     for (auto entry = m_written.cbegin(); entry != m_written.cend(); ++entry) {
-        const QString path = folder.absolute(ProjectFolder::imageFile(entry.key()));
+        const QString path = pathOf(folder, entry.key());
         const QByteArray present = read(folder, entry.key());
         if (present.isNull() || ProjectFolder::fingerprint(present) != entry->fingerprint)
             continue;
@@ -111,8 +120,8 @@ void ImageFolder::takeBack(const ProjectFolder& folder, const std::optional<QSet
         else if (kept && !kept->contains(entry.key()))
             FileOperations::current().removeFile(path, nullptr);
     }
-    if (m_madeFolder && QDir(imagesFolder(folder)).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot))
-        FileOperations::current().removeFolder(imagesFolder(folder), nullptr);
+    if (m_madeFolder && QDir(pathOf(folder)).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot))
+        FileOperations::current().removeFolder(pathOf(folder), nullptr);
     setSaved();
 }
 

@@ -10,20 +10,22 @@
 namespace Korvex::Meridane::Designer {
 
 /**
- * The images folder of an open project as the program writes it.
+ * The images or the fonts folder of an open project as the program writes it.
  *
- * Pictures take their place when they are imported or replaced, not when the project is saved: everything shows them from
- * the folder. So the folder remembers what it held at the last save, and is put back to that when the project is left
- * without saving.
+ * Pictures and fonts take their place when they are imported or replaced, not when the project is saved: everything shows
+ * them from the folder. So the folder remembers what it held at the last save, and is put back to that when the project is
+ * left without saving.
  */
-class ImageFolder
+class ResourceFolder
 {
 public:
-    /// What the image \a fileName of \a folder holds; null when it is not there or must not be read.
-    [[nodiscard]] static QByteArray read(const ProjectFolder& folder, const QString& fileName);
-    /// Puts \a content into the file \a fileName of the images folder, which is made where it is missing. False with a
-    /// message, which names the file, when that is not possible or would go through a symbolic link; what was there is
-    /// then still there.
+    /// \a name: "images" or "fonts".
+    explicit ResourceFolder(const QString& name);
+
+    /// What the file \a fileName of it in \a folder holds; null when it is not there or must not be read.
+    [[nodiscard]] QByteArray read(const ProjectFolder& folder, const QString& fileName) const;
+    /// Puts \a content into the file \a fileName of the folder, which is made where it is missing. False with a message, which names the file, when that is not possible or would go through a symbolic link; what was there is then still
+    /// there.
     bool write(const ProjectFolder& folder, const QString& fileName, const QByteArray& content, QString* message);
 
     /// The files as they are now are those of the saved project.
@@ -43,6 +45,10 @@ private:
 
     [[nodiscard]] bool prepare(const ProjectFolder& folder, const QString& fileName, QString* message);
 
+    [[nodiscard]] QString pathOf(const ProjectFolder& folder) const;
+    [[nodiscard]] QString pathOf(const ProjectFolder& folder, const QString& fileName) const;
+
+    QString m_name;
     QMap<QString, Written> m_written; // by file name
     bool m_madeFolder = false;
 };
