@@ -239,6 +239,11 @@ QVector<QPointF> GraphicsLine::pointHandles() const
     return {QPointF(0, 0), endPoint()};
 }
 
+bool GraphicsLine::showsFrameHandle(int handle) const
+{
+    return GraphicsItem::showsFrameHandle(handle) && !liesOnFrameHandle(QPointF(0, 0), handle);
+}
+
 void GraphicsLine::setShowStartPoint(bool show)
 {
     if (show == m_showStartPoint)

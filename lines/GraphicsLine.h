@@ -40,6 +40,8 @@ public:
     [[nodiscard]] QRectF contentRect() const override;
     /// The two ends; the end alone while a dot marks the start, which can be dragged all the same.
     [[nodiscard]] QVector<QPointF> pointHandles() const override;
+    /// Not where one end is either, also while its dot stands for the handle of the start point.
+    [[nodiscard]] bool showsFrameHandle(int handle) const override;
 
     [[nodiscard]] const LineShape& line() const { return m_line; }
     /// By how many degrees, clockwise, the item is turned about its start point.

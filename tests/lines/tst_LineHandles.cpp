@@ -187,6 +187,21 @@ private Q_SLOTS:
         QCOMPARE(item->getResizePointHandle({200, 100}, &handled), 0);
         QCOMPARE(item->pointHandles(), QVector<QPointF>({QPointF(0, 0), QPointF(100, 0)}));
     }
+
+    void frameHandlesLeaveTheEndsFree()
+    {
+        DesignerObject* line = addLine(Start, "100", "45", "2");
+        GraphicsItem* item = line->graphicsItem();
+        QVERIFY(item->hasFrameHandles());
+        for (const int end : {0, 8})
+            QVERIFY(!item->showsFrameHandle(end));
+        for (const int elsewhere : {1, 2, 3, 5, 6, 7})
+            QVERIFY(item->showsFrameHandle(elsewhere));
+        // Far in, the corner and the end are far apart.
+        canvas().set(line, "width", QStringLiteral("20"));
+        canvas().view->setZoom(4);
+        QVERIFY(item->showsFrameHandle(0));
+    }
 };
 
 QTEST_MAIN(tst_LineHandles)

@@ -263,7 +263,7 @@ SelectionHandles::Marks SelectionHandles::marks(const GraphicsItem* item, bool a
         const QRectF visible = area();
         for (const TransformOrigin handle : {TopLeft, Top, TopRight, Left, Right, BottomLeft, Bottom, BottomRight}) {
             const QPointF center = toView.map(fixedPointPosition(handle, frame));
-            if (isWithin(visible, center))
+            if (isWithin(visible, center) && item->showsFrameHandle(handle))
                 marks.squares.append(onPixel(center));
         }
     }
