@@ -80,7 +80,7 @@ private Q_SLOTS:
         edit()->setFocus();
         QTest::keyClicks(edit(), QStringLiteral("a"));
         QTest::keyClick(edit(), Qt::Key_Return);
-        QTest::keyClick(edit(), Qt::Key_Return);
+        QTest::keyClick(edit(), Qt::Key_Return, Qt::ShiftModifier);
         QTest::keyClicks(edit(), QStringLiteral("b"));
         QCOMPARE(TextEditSheet::text(box), QStringLiteral("a\n\nb"));
         QCOMPARE(m_sheet->stack()->count(), 1);
