@@ -195,6 +195,18 @@ bool PlainTextEdit::event(QEvent* event)
     return QTextEdit::event(event);
 }
 
+void PlainTextEdit::keyPressEvent(QKeyEvent* event)
+{
+    // One kind of line end: Shift+Return would insert a line separator, which looks the same and is another character.
+    if (event->matches(QKeySequence::InsertLineSeparator)) {
+        textCursor().insertBlock();
+        ensureCursorVisible();
+        event->accept();
+        return;
+    }
+    QTextEdit::keyPressEvent(event);
+}
+
 void PlainTextEdit::wheelEvent(QWheelEvent* event)
 {
     if (hasFocus()) {
