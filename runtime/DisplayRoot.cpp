@@ -2,9 +2,10 @@
 
 #include "runtime/FileName.h"
 
+#include "host/common/DisplayFont.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QSet>
-#include <QtGui/QFontDatabase>
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlContext>
 #include <QtQml/QQmlFile>
@@ -103,15 +104,13 @@ void DisplayRoot::loadFonts()
     // A font stays known for as long as the program runs.
     static QSet<QString> known;
     const QDir folder(QQmlFile::urlToLocalFileOrQrc(context->resolvedUrl(QUrl(QStringLiteral("fonts")))));
-    const QStringList files = folder.entryList(
-        {QStringLiteral("*.ttf"), QStringLiteral("*.otf"), QStringLiteral("*.ttc"), QStringLiteral("*.otc")},
-        QDir::Files, QDir::Name);
-    for (const QString& file : files) {
-        const QString path = folder.absoluteFilePath(file);
+    const QStringList files = folder.entryList(QDir::Files, QDir::Name);
+    for (const QString& name : files) {
+        const QString path = folder.absoluteFilePath(name);
         if (known.contains(path)) {
             continue;
         }
-        if (QFontDatabase::addApplicationFont(path) < 0) {
+        if (Common::addFontFile(path) < 0) {
             qmlWarning(this) << "the font " << path << " cannot be loaded";
         } else {
             known.insert(path);

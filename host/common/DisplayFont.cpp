@@ -1,12 +1,27 @@
 #include "host/common/DisplayFont.h"
 
 #include <QtCore/QMutex>
+#include <QtGui/QFontDatabase>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QRawFont>
 
 #include <atomic>
 #include <cmath>
 
 namespace Korvex::Meridane::Common {
+namespace {
+/**
+ * Of two fonts of a family the one that was registered last counts, and installed ones are registered when their family
+ * is first asked for: now.
+ */
+void registerInstalled(const QRawFont& font)
+{
+    if (font.isValid()) {
+        static_cast<void>(QFontDatabase::styles(font.familyName()));
+    }
+}
+} // namespace
+
 int pixelsFromPoints(double points)
 {
     return qMax(1, static_cast<int>(std::floor(points * 96 / 72 + 0.5)));
@@ -31,6 +46,18 @@ QFont displayFont(const QFont& font)
     result.setHintingPreference(QFont::PreferNoHinting);
     result.setStyleStrategy(static_cast<QFont::StyleStrategy>(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
     return result;
+}
+
+int addFontFile(const QString& path)
+{
+    registerInstalled(QRawFont(path, 1));
+    return QFontDatabase::addApplicationFont(path);
+}
+
+int addFontContent(const QByteArray& content)
+{
+    registerInstalled(QRawFont(content, 1));
+    return QFontDatabase::addApplicationFontFromData(content);
 }
 
 int fontGeneration()

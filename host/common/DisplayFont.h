@@ -21,6 +21,14 @@ namespace Korvex::Meridane::Common {
  */
 [[nodiscard]] MERIDANE_COMMON_EXPORT QFont displayFont(const QFont& font);
 
+/**
+ * Makes the font file @p path known to the application, before any other version of it that is installed.
+ * @return the handle by which QFontDatabase knows it; -1 when it holds no font that can be used
+ */
+[[nodiscard]] MERIDANE_COMMON_EXPORT int addFontFile(const QString& path);
+/** The same for the @p content of a font file, which need not stay in place. */
+[[nodiscard]] MERIDANE_COMMON_EXPORT int addFontContent(const QByteArray& content);
+
 /** A number that is another one after fonts have been added to the application or taken from it. Thread-safe. */
 [[nodiscard]] MERIDANE_COMMON_EXPORT int fontGeneration();
 } // namespace Korvex::Meridane::Common

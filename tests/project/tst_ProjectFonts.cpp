@@ -1,10 +1,12 @@
 #include "host/common/PaintHelper.h"
 #include "host/common/TextBoxLayout.h"
+#include "host/core/objects/Screen.h"
 #include "host/core/project/FontImporter.h"
 #include "host/core/project/Project.h"
 #include "host/core/project/ProjectChecker.h"
 #include "host/core/project/ProjectStore.h"
 #include "tests/project/ProjectTestSupport.h"
+#include "tests/support/RenamedFont.h"
 
 #include <QDir>
 #include <QFontDatabase>
@@ -40,7 +42,9 @@ private Q_SLOTS:
     void fontsAreKnownWhileTheirProjectIsOpen();
     void aFontThatLeavesTheListIsUsedNoMore();
     void textsThatWereDrawnBeforeFollow();
+    void aVersionOfTheProjectGoesBeforeTheInstalledOne();
     void aMissingFontIsReportedUntilItIsImported();
+    void aWeightThatNoDisplayShowsIsReported();
 
 private:
     QString import(const QString& file)
@@ -60,11 +64,11 @@ private:
     QString m_message;
 };
 
-/// A text in the font of the tests, as it is drawn now; with \a layout, that keeps it.
-static QImage picture(Common::TextBoxLayout* layout = nullptr)
+/// A text in \a family, as it is drawn now; with \a layout, that keeps it.
+static QImage picture(Common::TextBoxLayout* layout = nullptr, const char* family = "Panel Segments")
 {
     QFont font;
-    font.setFamilies({QStringLiteral("Panel Segments")});
+    font.setFamilies({QString::fromLatin1(family)});
     font.setPixelSize(20);
     QImage image(100, 40, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::white);
@@ -249,6 +253,35 @@ void tst_ProjectFonts::textsThatWereDrawnBeforeFollow()
     QCOMPARE(picture(&layout), fallback);
 }
 
+void tst_ProjectFonts::aVersionOfTheProjectGoesBeforeTheInstalledOne()
+{
+    const QImage installed = picture(nullptr, "DejaVu Serif");
+    const QString segments = importSegments();
+    const QImage own = picture();
+    const QString file = m_fixture->path("serif.otf");
+    writeFile(file, renamedFont(readFile(QStringLiteral(MERIDANE_FONT)), QStringLiteral("DejaVu Serif"),
+                                QStringLiteral("Book"), "PfEd"));
+    const QString serif = import(file);
+    QCOMPARE(m_families, QStringList{QStringLiteral("DejaVu Serif")});
+    QVERIFY(own != installed);
+    QCOMPARE(picture(nullptr, "DejaVu Serif"), own);
+    QCOMPARE(picture(), own);
+    // Whatever comes and goes beside it.
+    m_project->setFontResources({serif});
+    QCOMPARE(picture(nullptr, "DejaVu Serif"), own);
+    m_project->setFontResources({segments, serif});
+    QCOMPARE(picture(nullptr, "DejaVu Serif"), own);
+    m_project->setFontResources({segments});
+    QCOMPARE(picture(nullptr, "DejaVu Serif"), installed);
+    QCOMPARE(picture(), own);
+    // And when it is the first that is asked for after the project was opened.
+    m_project->setFontResources({segments, serif});
+    QVERIFY2(save(m_fixture->folder()), qUtf8Printable(m_message));
+    m_project.reset();
+    m_project = load(m_fixture->folder());
+    QCOMPARE(picture(nullptr, "DejaVu Serif"), own);
+}
+
 void tst_ProjectFonts::aMissingFontIsReportedUntilItIsImported()
 {
     QVERIFY(problems().contains(QLatin1String("main/lamp.font: The font \"Panel Segments\" is neither in")));
@@ -259,6 +292,20 @@ void tst_ProjectFonts::aMissingFontIsReportedUntilItIsImported()
     m_project->setFontResources({font});
     QVERIFY(QFile::remove(m_fixture->folder() + QStringLiteral("/fonts/") + font));
     QVERIFY(problems().contains(QLatin1String("fonts/PanelSegments.otf: The file is missing.")));
+}
+
+void tst_ProjectFonts::aWeightThatNoDisplayShowsIsReported()
+{
+    importSegments();
+    DesignerObject* lamp = m_project->screens().constFirst()->element(QStringLiteral("lamp"));
+    const auto problemsOf = [&](const char* weight) {
+        setValue(lamp, "font", QStringLiteral("family: Panel Segments; pixelSize: 20;") + QString::fromLatin1(weight));
+        return problems();
+    };
+    QCOMPARE(problemsOf(" bold: true;"), QString());
+    QVERIFY(problemsOf(" weight: 600;").contains(QLatin1String("the weight 600 is shown as bold")));
+    QVERIFY(problemsOf(" weight: 500;").contains(QLatin1String("the weight 500 is shown as normal")));
+    QCOMPARE(problemsOf(""), QString());
 }
 
 QTEST_MAIN(tst_ProjectFonts)

@@ -2,6 +2,8 @@
 
 #include "host/core/project/ProjectFolder.h"
 
+#include "host/common/DisplayFont.h"
+
 #include <QFontDatabase>
 #include <QGuiApplication>
 
@@ -49,7 +51,7 @@ void ProjectFonts::setFiles(const ProjectFolder& folder, const QStringList& file
         QString ignored;
         if (folder.read(ProjectFolder::fontFile(name), &content, &ignored) != ProjectFolder::Found::File)
             continue;
-        const int handle = QFontDatabase::addApplicationFontFromData(content);
+        const int handle = Common::addFontContent(content);
         if (handle < 0)
             m_unusable.append(name);
         else

@@ -10,7 +10,7 @@ namespace Korvex::Meridane::Designer {
 class ProjectFolder;
 
 /// The font files of an open project: makes their families known to the application for as long as it lives. They go
-/// before installed fonts of the same family. Without an application that can show text (QGuiApplication) no font is
+/// before other versions of them that are installed. Without an application that can show text (QGuiApplication) no font is
 /// loaded.
 class ProjectFonts
 {

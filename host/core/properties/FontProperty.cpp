@@ -4,15 +4,34 @@
 #include "host/core/values/ValueConversion.h"
 
 #include "host/common/DisplayFont.h"
+#include "host/common/LocalizationHelper.h"
 #include "host/common/TextHelper.h"
 
 namespace Korvex::Meridane::Designer {
 
+using Common::LocalizationHelper;
 using Common::TextHelper;
+
+namespace {
+
+QString weightAdvice(const DesignerProperty* property)
+{
+    const QFont& font = static_cast<const FontProperty*>(property)->value();
+    if (font.weight() == QFont::Normal || font.weight() == QFont::Bold)
+        return {};
+    const QString shown = font.bold() ? QStringLiteral("bold") : QStringLiteral("normal");
+    return LocalizationHelper::coreString(
+               QStringLiteral("A display draws a font normal or bold: the weight %1 is shown as %2."))
+        .arg(QString::number(font.weight()), LocalizationHelper::coreString(shown));
+}
+
+} // namespace
 
 FontProperty::FontProperty(DesignerObject* parent, const QString& id, const QString& name, const QFont& value)
     : TypedProperty(parent, id, name, value)
-{}
+{
+    setAdvisor(weightAdvice);
+}
 
 FontProperty::~FontProperty() = default;
 
