@@ -146,6 +146,8 @@ void GradientStopWidget::setButtonVisible(bool visible)
 void GradientStopWidget::onButtonClicked()
 {
     const QPointer<GradientStopWidget> self(this);
+    if (!m_removable && !m_requested)
+        commitTyping();
     if (m_removable)
         Q_EMIT requestRemove();
     else

@@ -3,6 +3,7 @@
 #include "gradients/GradientPreview.h"
 #include "gradients/GradientStopWidget.h"
 #include "gradients/GradientStopsWidget.h"
+#include "gradients/WholePercent.h"
 
 #include "host/core/widgets/ColorSwatch.h"
 #include "host/core/widgets/ColorWidget.h"
@@ -11,14 +12,18 @@
 #include "host/core/widgets/SpinBox.h"
 
 #include <QSignalSpy>
+#include <QToolButton>
 #include <QVBoxLayout>
 #include <QtTest>
 
+#include <algorithm>
 #include <functional>
+#include <memory>
 
 namespace Korvex::Meridane::Designer::Test {
 
 constexpr int Most = 101;
+const QColor Orange(248, 151, 29, 255); // of a new stop
 
 inline QWidget* focus()
 {
@@ -106,6 +111,61 @@ public:
     }
 
     Widget* const widget;
+};
+
+/// The list of gradient stops in a window, for tests to derive from.
+class GradientStopsWindow
+{
+protected:
+    void open()
+    {
+        m_warnings = std::make_unique<Warnings>();
+        m_window = std::make_unique<WindowOf<GradientStopsWidget>>(new GradientStopsWidget);
+        m_modified = std::make_unique<QSignalSpy>(stops(), &GradientStopsWidget::userModified);
+    }
+    void close()
+    {
+        m_modified.reset();
+        m_window.reset();
+        m_warnings.reset();
+    }
+
+    [[nodiscard]] GradientStopsWidget* stops() const { return m_window->widget; }
+    [[nodiscard]] GradientStopWidget* row(int index) const { return stops()->rows().at(index); }
+    [[nodiscard]] ItemButton* addButton() const { return stops()->addRow()->button(); }
+
+    /// What the rows show, from top to bottom, which is to be the order of rows().
+    [[nodiscard]] QGradientStops shownStops() const
+    {
+        stops()->layout()->activate();
+        QGradientStops all;
+        int bottom = stops()->preview()->geometry().bottom();
+        for (const GradientStopWidget* each : stops()->rows()) {
+            if (!each->isVisible() || each->y() <= bottom)
+                return {};
+            bottom = each->geometry().bottom();
+            all.append(each->gradientStop());
+        }
+        return stops()->addRow()->y() > bottom ? all : QGradientStops();
+    }
+    /// The same as text: "33 #f8971d, 67 #ffffff".
+    [[nodiscard]] QString shown() const
+    {
+        QStringList texts;
+        for (const QGradientStop& stop : shownStops())
+            texts.append(QStringLiteral("%1 %2").arg(wholePercent(stop.first)).arg(stop.second.name()));
+        return texts.join(QStringLiteral(", "));
+    }
+    [[nodiscard]] int visibleRemoveButtons() const
+    {
+        const auto all = stops()->findChildren<QToolButton*>(QStringLiteral("removeItem"));
+        return int(
+            std::count_if(all.begin(), all.end(), [](const QToolButton* button) { return button->isVisible(); }));
+    }
+
+    std::unique_ptr<Warnings> m_warnings;
+    std::unique_ptr<WindowOf<GradientStopsWidget>> m_window;
+    std::unique_ptr<QSignalSpy> m_modified; // of userModified()
 };
 
 } // namespace Korvex::Meridane::Designer::Test

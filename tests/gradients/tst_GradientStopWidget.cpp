@@ -184,6 +184,15 @@ private Q_SLOTS:
         QCOMPARE(asked.last().first, 0.45);
     }
 
+    void theAddButtonTakesTheTypedPositionOverFirst()
+    {
+        WindowOf window(new GradientStopWidget(false));
+        type(window.widget->positionField(), "45");
+        const QStringList heard = heardDuring(window.widget, [&] { window.widget->button()->click(); });
+        QCOMPARE(heard, (QStringList{QStringLiteral("position"), QStringLiteral("row"), QStringLiteral("add")}));
+        QCOMPARE(window.widget->position(), 0.45);
+    }
+
     void aHiddenButtonKeepsItsPlace()
     {
         WindowOf window(new GradientStopWidget(true));

@@ -1,14 +1,5 @@
 #include "tests/gradients/GradientStopsWindow.h"
 
-#include "gradients/WholePercent.h"
-
-#include <QAccessible>
-#include <QFrame>
-#include <QLabel>
-#include <QPointer>
-#include <QScrollArea>
-#include <QToolButton>
-
 #include <memory>
 #include <rapidcheck.h>
 
@@ -16,8 +7,6 @@ using namespace Korvex::Meridane::Designer;
 using namespace Korvex::Meridane::Designer::Test;
 
 namespace {
-
-const QColor Orange(248, 151, 29, 255);
 
 const QString AddTitle = QStringLiteral("Add Gradient Stop");
 const QString ModifyTitle = QStringLiteral("Modify Gradient Stops");
@@ -27,34 +16,16 @@ QString warning(const QString& title, int percent)
     return QStringLiteral("%1: Gradient stop at position %2% already exists.").arg(title).arg(percent);
 }
 
-bool isLike(QRgb color, QRgb expected, int tolerance)
-{
-    return std::abs(qRed(color) - qRed(expected)) <= tolerance
-           && std::abs(qGreen(color) - qGreen(expected)) <= tolerance
-           && std::abs(qBlue(color) - qBlue(expected)) <= tolerance;
-}
-
 } // namespace
 
-/// The list of gradient stops in a window of its own.
-class tst_GradientStopsWidget : public QObject
+/// The list of gradient stops: what its edits do.
+class tst_GradientStopsWidget : public QObject, private GradientStopsWindow
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        m_warnings = std::make_unique<Warnings>();
-        m_window = std::make_unique<WindowOf<GradientStopsWidget>>(new GradientStopsWidget);
-        m_modified = std::make_unique<QSignalSpy>(stops(), &GradientStopsWidget::userModified);
-    }
-
-    void cleanup()
-    {
-        m_modified.reset();
-        m_window.reset();
-        m_warnings.reset();
-    }
+    void init() { open(); }
+    void cleanup() { close(); }
 
     void aNewListShowsTheTwoDefaultStops()
     {
@@ -194,20 +165,6 @@ private Q_SLOTS:
         QCOMPARE(shown(), QStringLiteral("0 #0000ff, 50 #00ff00, 60 #ff0000"));
         QCOMPARE(m_modified->size(), 2);
         QCOMPARE(stops()->gradientStops().first().first, 0.0);
-    }
-
-    void theFocusStaysWithTheStopThatMoves()
-    {
-        stops()->setGradientStops({{0.1, Qt::red}, {0.5, Qt::green}, {0.9, Qt::blue}});
-        GradientStopWidget* moved = row(0);
-        enter(moved->positionField(), "55");
-        QCOMPARE(row(1), moved);
-        QCOMPARE(focus(), moved->positionField());
-        QTest::keyClick(focus(), Qt::Key_PageDown);
-        QCOMPARE(row(0), moved);
-        QTest::keyClick(focus(), Qt::Key_Up);
-        QCOMPARE(shown(), QStringLiteral("46 #ff0000, 50 #00ff00, 90 #0000ff"));
-        QCOMPARE(focus(), moved->positionField());
     }
 
     void aButtonPressedAfterTypingIsThatOfItsOwnStop()
@@ -375,170 +332,6 @@ private Q_SLOTS:
         QCOMPARE(stops()->findChildren<QWidget*>().size(), before);
     }
 
-    void tabVisitsTheRowsInTheirOrder()
-    {
-        stops()->setGradientStops({{0.2, Qt::red}, {0.4, Qt::green}, {0.6, Qt::blue}});
-        type(stops()->addRow()->positionField(), "10");
-        click(addButton()); // a row before all others
-        enter(row(1)->positionField(), "50"); // a row that moves
-        settle();
-        QList<QWidget*> expected;
-        for (const GradientStopWidget* each : stops()->rows() + QList{stops()->addRow()})
-            expected += {each->positionField(), each->colorPicker()->swatch(), each->button()};
-        expected.first()->setFocus();
-        for (QWidget* part : expected) {
-            QCOMPARE(focus(), part);
-            QTest::keyClick(focus(), Qt::Key_Tab);
-        }
-        expected.last()->setFocus();
-        for (auto part = expected.crbegin(); part != expected.crend(); ++part) {
-            QCOMPARE(focus(), *part);
-            QTest::keyClick(focus(), Qt::Key_Backtab);
-        }
-    }
-
-    void theFocusGoesToTheFirstPosition()
-    {
-        stops()->setGradientStops(stopsAtEachPercent(3));
-        settle();
-        row(0)->button()->click();
-        settle();
-        stops()->setFocus();
-        QCOMPARE(focus(), row(0)->positionField());
-    }
-
-    void theFocusStaysInTheListWhenItsRowGoes()
-    {
-        stops()->setGradientStops(stopsAtEachPercent(5));
-        settle();
-        click(row(1)->button());
-        QCOMPARE(focus(), row(1)->button());
-        click(row(3)->button());
-        QCOMPARE(focus(), row(2)->button());
-        QTest::keyClick(focus(), Qt::Key_Space);
-        QCOMPARE(stops()->rows().size(), 2);
-        QCOMPARE(focus(), row(1)->positionField());
-    }
-
-    void theNamesFollowTheOrder()
-    {
-        stops()->setGradientStops(stopsAtEachPercent(4));
-        row(1)->button()->click();
-        enter(row(0)->positionField(), "50");
-        for (int i = 0; i < 3; ++i) {
-            const auto* interface = QAccessible::queryAccessibleInterface(row(i)->positionField());
-            QCOMPARE(interface->text(QAccessible::Name), QStringLiteral("Position of gradient stop %1").arg(i + 1));
-        }
-    }
-
-    void theRowOfTheNewStopStaysInSight()
-    {
-        m_window->widget->setParent(nullptr);
-        auto* area = new QScrollArea;
-        area->setWidget(stops());
-        area->setWidgetResizable(true);
-        WindowOf window(area);
-        window.resize(280, 200);
-        settle();
-        stops()->addRow()->positionField()->setFocus();
-        for (const char* percent : {"10", "20", "40", "50", "60", "70", "80", "90"}) {
-            type(stops()->addRow()->positionField(), percent);
-            addButton()->click();
-            settle();
-            QTRY_VERIFY(stops()->addRow()->positionField()->visibleRegion().boundingRect()
-                        == stops()->addRow()->positionField()->rect());
-        }
-        QVERIFY(stops()->height() > area->viewport()->height());
-        stops()->setParent(m_window.get());
-    }
-
-    void thePreviewFollowsEveryChange()
-    {
-        const auto follows = [this] { return stops()->preview()->gradientStops() == stops()->gradientStops(); };
-        stops()->setGradientStops({{0, Qt::red}, {1, Qt::blue}});
-        QVERIFY(follows());
-        QVERIFY(isLike(pixel(0.02), QColor(Qt::red).rgb(), 12));
-        QVERIFY(isLike(pixel(0.98), QColor(Qt::blue).rgb(), 12));
-        QVERIFY(isLike(pixel(0.5), qRgb(128, 0, 128), 12));
-        pick(row(0)->colorPicker(), Qt::green);
-        QVERIFY(follows());
-        QVERIFY(isLike(pixel(0.02), QColor(Qt::green).rgb(), 12));
-        enter(row(0)->positionField(), "50");
-        QVERIFY(follows());
-        QVERIFY(isLike(pixel(0.25), QColor(Qt::green).rgb(), 2));
-        type(stops()->addRow()->positionField(), "75");
-        click(addButton());
-        QVERIFY(follows());
-        QVERIFY(isLike(pixel(0.75), Orange.rgb(), 12));
-        row(1)->button()->click();
-        QVERIFY(follows());
-        QVERIFY(isLike(pixel(0.75), qRgb(0, 128, 128), 12));
-    }
-
-    void translucentStopsShowTheChequerboard()
-    {
-        stops()->setGradientStops({{0, QColor(255, 0, 0, 0)}, {1, QColor(255, 0, 0, 255)}});
-        QSet<QRgb> left;
-        const QImage picture = stops()->preview()->grab().toImage();
-        for (int x = 3; x < 20; ++x)
-            left.insert(picture.pixel(x, picture.height() / 2) & 0xf0f0f0);
-        QVERIFY(left.contains(0xf0f0f0));
-        QVERIFY(left.contains(0xc0b0b0) || left.contains(0xc0c0c0));
-        QVERIFY(isLike(pixel(0.99), qRgb(255, 0, 0), 12));
-    }
-
-    void stopsBeyondThePreviewAreLeftOut()
-    {
-        GradientPreview preview;
-        preview.resize(100, 20);
-        preview.setGradientStops({{-1, Qt::red}, {0, Qt::blue}, {1, Qt::blue}, {2, Qt::red}});
-        const QImage picture = preview.grab().toImage();
-        for (const int x : {5, 50, 95})
-            QCOMPARE(picture.pixel(x, 10), qRgb(0, 0, 255));
-    }
-
-    void theLineIsSeenInEveryTheme()
-    {
-        for (const auto& [window, text] : {std::pair(Qt::white, Qt::black), std::pair(Qt::black, Qt::white)}) {
-            QPalette theme = m_window->palette();
-            theme.setColor(QPalette::Window, window);
-            theme.setColor(QPalette::WindowText, text);
-            m_window->setPalette(theme);
-            settle();
-            const auto* line = stops()->findChild<QFrame*>({}, Qt::FindDirectChildrenOnly);
-            QCOMPARE(line->frameShape(), QFrame::HLine);
-            const QImage picture = m_window->grab().toImage();
-            const QPoint middle = line->mapTo(m_window.get(), line->rect().center());
-            QCOMPARE(picture.pixelColor(middle - QPoint(0, 5)), QColor(window));
-            QVERIFY(std::abs(qGray(picture.pixel(middle)) - qGray(QColor(window).rgb())) > 100);
-        }
-    }
-
-    void withoutStopsThereIsNothingToEdit()
-    {
-        const QString reason = QStringLiteral("There is a reason.");
-        stops()->setGradientStops(stopsAtEachPercent(3));
-        const int width = stops()->minimumSizeHint().width();
-        type(row(0)->positionField(), "9");
-        stops()->showNoStops(reason);
-        settle();
-        QCOMPARE(notice(), reason);
-        QVERIFY(stops()->gradientStops().isEmpty());
-        QVERIFY(stops()->rows().isEmpty());
-        for (const QWidget* part : std::initializer_list<QWidget*>{stops()->addRow(), stops()->preview()})
-            QVERIFY(!part->isVisible());
-        addButton()->click();
-        Q_EMIT stops()->addRow()->requestAdd();
-        QCOMPARE(m_modified->size(), 0);
-        QCOMPARE(m_warnings->texts, QStringList());
-        QCOMPARE(stops()->minimumSizeHint().width(), width);
-
-        stops()->setGradientStops(stopsAtEachPercent(3));
-        QCOMPARE(shownStops(), stopsAtEachPercent(3));
-        QVERIFY(notice().isEmpty());
-        QVERIFY(stops()->addRow()->isVisible());
-    }
-
     void anEditMeetsTheListThatItIsAnnouncedTo()
     {
         const QGradientStops before{{0.1, Qt::red}, {0.5, Qt::green}, {0.9, Qt::blue}};
@@ -605,58 +398,6 @@ private Q_SLOTS:
             }
         }));
     }
-
-private:
-    [[nodiscard]] GradientStopsWidget* stops() const { return m_window->widget; }
-    [[nodiscard]] GradientStopWidget* row(int index) const { return stops()->rows().at(index); }
-    [[nodiscard]] ItemButton* addButton() const { return stops()->addRow()->button(); }
-
-    /// What the rows show, from top to bottom, which is to be the order of rows().
-    [[nodiscard]] QGradientStops shownStops() const
-    {
-        stops()->layout()->activate();
-        QGradientStops all;
-        int bottom = stops()->preview()->geometry().bottom();
-        for (const GradientStopWidget* each : stops()->rows()) {
-            if (!each->isVisible() || each->y() <= bottom)
-                return {};
-            bottom = each->geometry().bottom();
-            all.append(each->gradientStop());
-        }
-        return stops()->addRow()->y() > bottom ? all : QGradientStops();
-    }
-    /// The same as text: "33 #f8971d, 67 #ffffff".
-    [[nodiscard]] QString shown() const
-    {
-        QStringList texts;
-        for (const QGradientStop& stop : shownStops())
-            texts.append(QStringLiteral("%1 %2").arg(wholePercent(stop.first)).arg(stop.second.name()));
-        return texts.join(QStringLiteral(", "));
-    }
-    [[nodiscard]] int visibleRemoveButtons() const
-    {
-        const auto all = stops()->findChildren<QToolButton*>(QStringLiteral("removeItem"));
-        return int(
-            std::count_if(all.begin(), all.end(), [](const QToolButton* button) { return button->isVisible(); }));
-    }
-    [[nodiscard]] QString notice() const
-    {
-        for (const QLabel* label : stops()->findChildren<QLabel*>()) {
-            if (label->isVisible())
-                return label->text();
-        }
-        return {};
-    }
-    /// The colour of the preview at that share of its width.
-    [[nodiscard]] QRgb pixel(double position) const
-    {
-        const QImage picture = stops()->preview()->grab().toImage();
-        return picture.pixel(int(position * (picture.width() - 1)), picture.height() / 2);
-    }
-
-    std::unique_ptr<Warnings> m_warnings;
-    std::unique_ptr<WindowOf<GradientStopsWidget>> m_window;
-    std::unique_ptr<QSignalSpy> m_modified;
 };
 
 QTEST_MAIN(tst_GradientStopsWidget)
