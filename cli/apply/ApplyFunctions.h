@@ -25,6 +25,9 @@ class EditArguments;
 [[nodiscard]] ApplyResult applyReplaceImage(ApplySession& session, EditArguments& arguments);
 [[nodiscard]] ApplyResult applyRemoveImage(ApplySession& session, EditArguments& arguments);
 
+// ApplyFonts.cpp
+[[nodiscard]] ApplyResult applyImportFont(ApplySession& session, EditArguments& arguments);
+
 // ApplyValues.cpp
 [[nodiscard]] ApplyResult applySet(ApplySession& session, EditArguments& arguments);
 [[nodiscard]] ApplyResult applyGet(ApplySession& session, EditArguments& arguments);

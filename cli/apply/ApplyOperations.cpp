@@ -37,6 +37,7 @@ constexpr Operation operations[] = {
     {"rename-image", applyRenameImage},
     {"replace-image", applyReplaceImage},
     {"remove-image", applyRemoveImage},
+    {"import-font", applyImportFont},
     {"undo", applyUndo},
     {"redo", applyRedo},
     {"undo-count", applyUndoCount},
