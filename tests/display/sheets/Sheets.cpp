@@ -2,5 +2,6 @@
 
 QList<Sheet> allSheets()
 {
-    return rectangleSheets() + ellipseSheets() + polygonSheets() + lineSheets() + irregularPolygonSheets();
+    return rectangleSheets() + ellipseSheets() + polygonSheets() + lineSheets() + irregularPolygonSheets()
+           + textSheets();
 }

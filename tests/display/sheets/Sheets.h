@@ -10,5 +10,6 @@ QList<Sheet> ellipseSheets();
 QList<Sheet> polygonSheets();
 QList<Sheet> lineSheets();
 QList<Sheet> irregularPolygonSheets();
+QList<Sheet> textSheets();
 
 QList<Sheet> allSheets();
