@@ -126,13 +126,17 @@ void ImageSourceEditor::choicesReplaced()
 
 void ImageSourceEditor::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (isCandidate(draggedImage(event->mimeData())) || (session() && !draggedFile(event->mimeData()).isEmpty()))
-        event->acceptProposedAction();
+    if (!isCandidate(draggedImage(event->mimeData())) && (!session() || draggedFile(event->mimeData()).isEmpty()))
+        return;
+    // A copy, whatever is proposed: the program that a file is moved from would delete it.
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
 }
 
 void ImageSourceEditor::dropEvent(QDropEvent* event)
 {
-    event->acceptProposedAction();
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
     const QString image = draggedImage(event->mimeData());
     if (isCandidate(image))
         linkTo(image);

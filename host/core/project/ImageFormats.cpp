@@ -4,6 +4,7 @@
 
 #include <QBuffer>
 #include <QImageReader>
+#include <QSet>
 
 #include <algorithm>
 
@@ -82,10 +83,16 @@ bool ImageFormats::nameSameFormat(const QString& one, const QString& other)
 
 bool ImageFormats::isPictureSuffix(const QString& suffix)
 {
-    const QString lower = suffix.toLower();
-    return QImageReader::supportedImageFormats().contains(lower.toLatin1())
-           || std::any_of(formats().cbegin(), formats().cend(),
-                          [&](const Format& format) { return format.suffixes.contains(lower); });
+    static const QSet<QString> known = [] {
+        QSet<QString> suffixes;
+        const QList<QByteArray> readable = QImageReader::supportedImageFormats();
+        for (const QByteArray& format : readable)
+            suffixes.insert(QString::fromLatin1(format));
+        for (const Format& format : formats())
+            suffixes.unite(QSet<QString>(format.suffixes.cbegin(), format.suffixes.cend()));
+        return suffixes;
+    }();
+    return known.contains(suffix.toLower());
 }
 
 QString ImageFormats::fileFilter()

@@ -120,7 +120,8 @@ QString ResourceImporter::importPicture(Project* project, const QImage& picture,
         *message = text("This picture cannot be used (%1).").arg(fault);
         return {};
     }
-    return add(project, image, base, QStringLiteral("png"), message);
+    const QString known = resourceHolding(project, image.bytes);
+    return known.isEmpty() ? add(project, image, base, QStringLiteral("png"), message) : known;
 }
 
 QString ResourceImporter::resourceHolding(const Project* project, const QByteArray& bytes)

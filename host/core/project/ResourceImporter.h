@@ -35,7 +35,8 @@ public:
     /// name: that of the file where it is free and plain and ends as the content asks for, else one made of it. Empty with
     /// a message, which names the file, when the file cannot be read or shown, or when the copy cannot be written.
     static QString importImage(Project* project, const QString& file, QString* message);
-    /// The same for \a picture, which comes from no file; \a base is what its name is made of.
+    /// The same for \a picture, which comes from no file; \a base is what its name is made of. A picture that the project
+    /// holds already is not added a second time.
     static QString importPicture(Project* project, const QImage& picture, const QString& base, QString* message);
 
     /// The picture in \a file; nothing with a message, which names the file, when it cannot be read or shown.
