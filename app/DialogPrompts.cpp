@@ -3,6 +3,8 @@
 #include "app/CoreText.h"
 #include "app/NewProjectDialog.h"
 
+#include "host/core/project/ImageFormats.h"
+
 #include <QFileDialog>
 #include <QMessageBox>
 
@@ -49,6 +51,17 @@ QString DialogPrompts::chooseExportFolder(const QString& startFolder)
 {
     return QFileDialog::getExistingDirectory(m_window, coreText("Export QML Into an Empty Folder or an Earlier Export"),
                                              startFolder);
+}
+
+QStringList DialogPrompts::chooseImages(const QString& startFolder)
+{
+    return QFileDialog::getOpenFileNames(m_window, coreText("Import Images"), startFolder, ImageFormats::fileFilter());
+}
+
+QString DialogPrompts::chooseReplacement(const QString& name, const QString& startFolder)
+{
+    return QFileDialog::getOpenFileName(m_window, coreText("Replace \"%1\"").arg(name), startFolder,
+                                        ImageFormats::fileFilter());
 }
 
 } // namespace Korvex::Meridane::Designer

@@ -19,6 +19,8 @@ public:
     QString chooseProject(const QString& startFolder) override;
     QString chooseSaveFolder(const QString& proposal) override;
     QString chooseExportFolder(const QString& startFolder) override;
+    QStringList chooseImages(const QString& startFolder) override;
+    QString chooseReplacement(const QString& name, const QString& startFolder) override;
 
 private:
     QPointer<QWidget> m_window;

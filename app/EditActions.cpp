@@ -2,6 +2,7 @@
 
 #include "app/CoreText.h"
 #include "app/ElementClipboard.h"
+#include "app/ImageData.h"
 #include "app/MessageBar.h"
 #include "app/SiblingOrder.h"
 #include "app/WindowAction.h"
@@ -145,7 +146,11 @@ void EditActions::copy()
 void EditActions::paste()
 {
     const QMimeData* content = QGuiApplication::clipboard()->mimeData();
-    if (m_session && content)
+    if (!m_session || !content)
+        return;
+    if (!content->hasFormat(ElementClipboard::mimeType()) && ImageData::holdsImages(content))
+        Q_EMIT imagesPasted(content);
+    else
         report(ElementClipboard::insert(m_session, content->data(ElementClipboard::mimeType()), coreText("Paste")));
 }
 
@@ -223,7 +228,8 @@ void EditActions::updateSelection()
     m_selectAll->setEnabled(hasScreen);
     m_addScreen->setEnabled(free);
     const QMimeData* content = QGuiApplication::clipboard()->mimeData();
-    m_paste->setEnabled(hasScreen && content && content->hasFormat(ElementClipboard::mimeType()));
+    m_paste->setEnabled(hasScreen && content
+                        && (content->hasFormat(ElementClipboard::mimeType()) || ImageData::holdsImages(content)));
 }
 
 void EditActions::report(const EditResult& result)

@@ -5,6 +5,7 @@
 
 class QAction;
 class QMenu;
+class QMimeData;
 
 namespace Korvex::Meridane::Designer {
 
@@ -42,6 +43,8 @@ public:
 Q_SIGNALS:
     /// The name of the selected object is to be edited in the tree.
     void renameRequested();
+    /// Images are to be pasted on the screen; \a data lives until the slots return.
+    void imagesPasted(const QMimeData* data);
 
 private:
     QAction* make(const char* icon, const char* text, const QList<QKeySequence>& shortcuts, void (EditActions::*run)());

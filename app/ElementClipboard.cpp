@@ -134,7 +134,8 @@ void ElementClipboard::moveAside(EditSession* session, const std::vector<std::un
 
 void ElementClipboard::takeImages(EditSession* session, DesignerObject* element, const QString& imagesFolder)
 {
-    if (imagesFolder.isEmpty() || imagesFolder == session->project()->imagesPath())
+    // Also in the same project: an image may have been renamed or removed since.
+    if (imagesFolder.isEmpty())
         return;
     for (const auto& property : element->properties()) {
         if (!dynamic_cast<const LinkProperty*>(property.data()))

@@ -1,6 +1,7 @@
 #include "app/MainWindow.h"
 
 #include "app/AppSettings.h"
+#include "app/CanvasImageDrop.h"
 #include "app/CanvasPanel.h"
 #include "app/CoreText.h"
 #include "app/EditActions.h"
@@ -9,6 +10,8 @@
 #include "app/FileActions.h"
 #include "app/HelpActions.h"
 #include "app/HistoryPanel.h"
+#include "app/ImageActions.h"
+#include "app/ImagePanel.h"
 #include "app/MenuText.h"
 #include "app/MessageBar.h"
 #include "app/OutputActions.h"
@@ -33,6 +36,7 @@
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
@@ -61,6 +65,7 @@ MainWindow::MainWindow(UserPrompts* prompts, QWidget* parent)
     , m_edit(new EditActions(m_messages, this))
     , m_view(new ViewActions(this))
     , m_output(new OutputActions(m_document.get(), prompts, m_messages, this))
+    , m_images(new ImageActions(prompts, m_messages, this))
     , m_help(new HelpActions(this))
 {
     setWindowIcon(QIcon(QStringLiteral(":/meridane/designer/icons/application.svg")));
@@ -86,7 +91,12 @@ MainWindow::MainWindow(UserPrompts* prompts, QWidget* parent)
     connect(m_output, &OutputActions::problemsFound, this, &MainWindow::showProblems);
     connect(m_problems, &ProblemsPanel::objectRequested, this,
             [this](const QString& object) { m_workspace->goTo(object); });
-    connect(m_edit, &EditActions::renameRequested, this, [this] { m_workspace->tree()->renameCurrent(); });
+    connect(m_edit, &EditActions::renameRequested, this, [this] {
+        reveal(m_treeDock);
+        m_workspace->tree()->renameCurrent();
+    });
+    connect(m_edit, &EditActions::imagesPasted, m_images, &ImageActions::placeData);
+    connect(m_images, &ImageActions::imported, this, [this] { reveal(m_imagesDock); });
     connect(m_zoomBox, &ZoomBox::zoomRequested, m_view, &ViewActions::setZoom);
     connect(m_zoomBox, &ZoomBox::fitRequested, m_view, &ViewActions::fit);
 
@@ -153,6 +163,8 @@ void MainWindow::makePanels()
 {
     m_paletteDock = addPanel(QStringLiteral("PaletteDock"), coreText("Elements"), Qt::LeftDockWidgetArea);
     m_treeDock = addPanel(QStringLiteral("TreeDock"), coreText("Project"), Qt::LeftDockWidgetArea);
+    m_imagesDock = addPanel(QStringLiteral("ImagesDock"), coreText("Images"), Qt::LeftDockWidgetArea);
+    tabifyDockWidget(m_treeDock, m_imagesDock);
     m_sheetDock = addPanel(QStringLiteral("SheetDock"), coreText("Properties"), Qt::RightDockWidgetArea);
     m_historyDock = addPanel(QStringLiteral("HistoryDock"), coreText("History"), Qt::RightDockWidgetArea);
     m_problemsDock = addPanel(QStringLiteral("ProblemsDock"), coreText("Problems"), Qt::BottomDockWidgetArea);
@@ -169,6 +181,7 @@ void MainWindow::makeMenus()
     QMenu* file = addMenu("&File");
     m_file->addTo(file);
     file->addSeparator();
+    m_images->addTo(file);
     m_output->addTo(file);
     file->addSeparator();
     m_file->addEndTo(file);
@@ -177,7 +190,8 @@ void MainWindow::makeMenus()
     QMenu* view = addMenu("&View");
     m_view->addTo(view);
     QMenu* panels = view->addMenu(coreText("&Panels"));
-    for (const QDockWidget* dock : {m_paletteDock, m_treeDock, m_sheetDock, m_historyDock, m_problemsDock})
+    for (const QDockWidget* dock :
+         {m_paletteDock, m_treeDock, m_imagesDock, m_sheetDock, m_historyDock, m_problemsDock})
         panels->addAction(dock->toggleViewAction());
     view->addSeparator();
     const auto add = [this, view](const char* text, const QKeySequence& shortcut, auto run) {
@@ -228,6 +242,7 @@ void MainWindow::arrangePanels()
     resizeDocks({m_paletteDock, m_sheetDock}, {LeftWidth, RightWidth}, Qt::Horizontal);
     resizeDocks({m_paletteDock, m_treeDock}, {380, 300}, Qt::Vertical);
     resizeDocks({m_sheetDock, m_historyDock}, {500, 180}, Qt::Vertical);
+    m_treeDock->raise();
 }
 
 void MainWindow::attach(EditSession* session)
@@ -236,12 +251,21 @@ void MainWindow::attach(EditSession* session)
     CanvasView* canvas = m_workspace->canvas();
     centralWidget()->layout()->addWidget(m_workspace->canvasPanel());
     m_treeDock->setWidget(m_workspace->tree());
+    ImagePanel* images = m_workspace->images();
+    m_imagesDock->setWidget(images);
     m_historyDock->setWidget(m_workspace->history());
     // Last: the sheet's rows come and go and are appended to the order of the Tab key, where they follow its heading.
     m_sheetDock->setWidget(m_workspace->sheet());
     m_workspace->tree()->addActions(m_edit->treeActions());
     m_edit->setSession(session);
+    m_images->setWorkspace(m_workspace.get());
     m_view->setCanvas(canvas);
+    connect(images, &ImagePanel::importRequested, m_images, &ImageActions::importFiles);
+    connect(images, &ImagePanel::replaceRequested, m_images, &ImageActions::replaceFile);
+    connect(images, &ImagePanel::placeRequested, m_images, &ImageActions::placeImages);
+    connect(images, &ImagePanel::dataOffered, m_images, &ImageActions::importData);
+    connect(images, &ImagePanel::removalRefused, m_images, &ImageActions::explainRefusedRemoval);
+    connect(m_workspace->imageDrop(), &CanvasImageDrop::dropped, m_images, &ImageActions::placeDataAt);
     connect(canvas, &CanvasView::zoomChanged, m_zoomBox, &ZoomBox::showZoom);
     connect(canvas, &CanvasView::pointerMoved, m_readout, &StatusReadout::showPointer);
     connect(canvas, &CanvasView::readoutChanged, m_readout, &StatusReadout::showGesture);
@@ -259,8 +283,8 @@ void MainWindow::attach(EditSession* session)
         if (m_messages->kind() == MessageBar::Kind::Error)
             m_messages->hide();
     });
-    for (QWidget* panel : {static_cast<QWidget*>(m_workspace->tree()), static_cast<QWidget*>(m_workspace->sheet()),
-                           static_cast<QWidget*>(m_workspace->history())})
+    for (QWidget* panel : {static_cast<QWidget*>(m_workspace->tree()), static_cast<QWidget*>(images),
+                           static_cast<QWidget*>(m_workspace->sheet()), static_cast<QWidget*>(m_workspace->history())})
         panel->show();
     m_zoomBox->showZoom(canvas->zoom());
     m_readout->clear();
@@ -293,6 +317,7 @@ void MainWindow::showWholeScreen()
 void MainWindow::detach()
 {
     m_edit->setSession(nullptr);
+    m_images->setWorkspace(nullptr);
     m_view->setCanvas(nullptr);
     m_workspace.reset();
 }
@@ -329,10 +354,15 @@ void MainWindow::updateTitle()
     setWindowModified(m_document->isModified());
 }
 
+void MainWindow::reveal(QDockWidget* dock)
+{
+    dock->show();
+    dock->raise();
+}
+
 void MainWindow::editProperties()
 {
-    m_sheetDock->show();
-    m_sheetDock->raise();
+    reveal(m_sheetDock);
     // The first editor of the sheet; its rows come before whatever follows in the window's order.
     PropertySheet* sheet = m_workspace->sheet();
     for (QWidget* widget = sheet->nextInFocusChain(); widget && widget != sheet; widget = widget->nextInFocusChain()) {

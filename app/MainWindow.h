@@ -13,6 +13,7 @@ class EditSession;
 class ElementPalette;
 class FileActions;
 class HelpActions;
+class ImageActions;
 class MessageBar;
 class OutputActions;
 class ProblemsPanel;
@@ -24,7 +25,7 @@ class Workspace;
 class ZoomBox;
 
 /**
- * The window of the application: palette and project tree on the left, the canvas in the middle, property sheet and
+ * The window of the application: palette, project tree and images on the left, the canvas in the middle, property sheet and
  * history on the right, with menus, tool bar and status bar around them. It always shows one project.
  */
 class MainWindow : public QMainWindow
@@ -49,6 +50,7 @@ public:
     [[nodiscard]] StatusReadout* statusReadout() const { return m_readout; }
     [[nodiscard]] FileActions* fileActions() const { return m_file; }
     [[nodiscard]] EditActions* editActions() const { return m_edit; }
+    [[nodiscard]] ImageActions* imageActions() const { return m_images; }
 
     [[nodiscard]] QSize sizeHint() const override;
 
@@ -71,6 +73,7 @@ private:
     void showProblems(const QList<Problem>& problems, const QString& consequence = {});
     void updateTitle();
     void editProperties();
+    static void reveal(QDockWidget* dock);
 
     std::unique_ptr<ProjectDocument> m_document;
     std::unique_ptr<Workspace> m_workspace; // goes before the document
@@ -83,9 +86,11 @@ private:
     EditActions* m_edit;
     ViewActions* m_view;
     OutputActions* m_output;
+    ImageActions* m_images;
     HelpActions* m_help;
     QDockWidget* m_paletteDock;
     QDockWidget* m_treeDock;
+    QDockWidget* m_imagesDock;
     QDockWidget* m_sheetDock;
     QDockWidget* m_historyDock;
     QDockWidget* m_problemsDock;

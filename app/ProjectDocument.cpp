@@ -3,6 +3,7 @@
 #include "app/CoreText.h"
 
 #include "host/core/canvas/EditSession.h"
+#include "host/core/project/ImageWatcher.h"
 #include "host/core/project/Project.h"
 #include "host/core/project/ProjectStore.h"
 #include "host/core/properties/DesignerProperty.h"
@@ -97,6 +98,7 @@ void ProjectDocument::replaceSession(std::unique_ptr<Project> project, bool unti
     auto old = std::exchange(m_session, std::make_unique<EditSession>(std::move(project)));
     m_untitled = untitled;
     Project* opened = m_session->project();
+    m_imageWatcher = std::make_unique<ImageWatcher>(opened);
     connect(opened, &Project::modifiedChanged, this, &ProjectDocument::titleChanged);
     connect(opened, &Project::objectPropertyChanged, this, [this, opened](const DesignerObject* object) {
         if (object == opened)

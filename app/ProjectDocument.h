@@ -10,12 +10,13 @@
 namespace Korvex::Meridane::Designer {
 
 class EditSession;
+class ImageWatcher;
 class Project;
 
 /**
  * The project that is open in the window, with its editing session: creates, opens and saves it. There is always one.
  *
- * It asks the user nothing; see FileActions for that.
+ * It follows what other programs do to the project's images. It asks the user nothing; see FileActions for that.
  */
 class ProjectDocument : public QObject
 {
@@ -61,6 +62,7 @@ private:
     void nameAfter(const QString& folder) const;
 
     std::unique_ptr<EditSession> m_session;
+    std::unique_ptr<ImageWatcher> m_imageWatcher; // goes before the session
     bool m_untitled = true;
 };
 

@@ -12,6 +12,13 @@
 
 namespace Korvex::Meridane::Designer {
 
+/// A key that is no shortcut of a menu, and what it does.
+struct ListedKey
+{
+    const char* keys;
+    const char* effect;
+};
+
 namespace {
 
 QString withoutMark(QString text)
@@ -22,13 +29,7 @@ QString withoutMark(QString text)
     return text.replace(QLatin1Char('\n'), QLatin1Char('&'));
 }
 
-struct CanvasKey
-{
-    const char* keys;
-    const char* effect;
-};
-
-constexpr CanvasKey CanvasKeys[] = {
+constexpr ListedKey CanvasKeys[] = {
     {"Arrow keys", "Move the selection by one pixel, with Shift by ten"},
     {"Escape", "Take the running drag back; leave the placing of an element"},
     {"Drag", "Move elements; on empty ground, select with a frame"},
@@ -36,6 +37,14 @@ constexpr CanvasKey CanvasKeys[] = {
     {"Ctrl+Click, Shift+Click", "Add an element to the selection or take it out"},
     {"Space+Drag, middle button", "Scroll"},
     {"Ctrl+Wheel", "Zoom at the pointer"},
+};
+
+constexpr ListedKey ImageKeys[] = {
+    {"Enter", "Place the image in the middle of the view"},
+    {"F2", "Rename the image; the elements that show it follow"},
+    {"Del", "Remove the image, unless an element shows it"},
+    {"Ctrl+V", "Import the image files or the picture on the clipboard"},
+    {"Drag", "Place the image on the screen, or give it to an element's source"},
 };
 
 } // namespace
@@ -54,7 +63,8 @@ ShortcutsDialog::ShortcutsDialog(QMainWindow* window)
     const QList<QAction*> menus = window->menuBar()->actions();
     for (const QAction* menu : menus)
         addMenu(menu->menu(), withoutMark(menu->text()));
-    addCanvas();
+    addKeys(coreText("Canvas"), CanvasKeys, int(std::size(CanvasKeys)));
+    addKeys(coreText("Images"), ImageKeys, int(std::size(ImageKeys)));
     m_list->expandAll();
     m_list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
 
@@ -88,14 +98,14 @@ void ShortcutsDialog::addMenu(const QMenu* menu, const QString& title)
         delete group;
 }
 
-void ShortcutsDialog::addCanvas()
+void ShortcutsDialog::addKeys(const QString& title, const ListedKey* keys, int count)
 {
-    auto* group = new QTreeWidgetItem({coreText("Canvas")});
+    auto* group = new QTreeWidgetItem({title});
     QFont bold = font();
     bold.setBold(true);
     group->setFont(0, bold);
-    for (const CanvasKey& key : CanvasKeys)
-        group->addChild(new QTreeWidgetItem({coreText(key.keys), coreText(key.effect)}));
+    for (int i = 0; i < count; ++i)
+        group->addChild(new QTreeWidgetItem({coreText(keys[i].keys), coreText(keys[i].effect)}));
     m_list->addTopLevelItem(group);
 }
 

@@ -8,7 +8,9 @@ class QTreeWidget;
 
 namespace Korvex::Meridane::Designer {
 
-/// Lists the keys of the window, read from its menus, and what mouse and keys do on the canvas.
+struct ListedKey;
+
+/// Lists the keys of the window, read from its menus, and what mouse and keys do on the canvas and in the list of images.
 class ShortcutsDialog : public QDialog
 {
     Q_OBJECT
@@ -18,7 +20,7 @@ public:
 
 private:
     void addMenu(const QMenu* menu, const QString& title);
-    void addCanvas();
+    void addKeys(const QString& title, const ListedKey* keys, int count);
 
     QTreeWidget* m_list;
 };

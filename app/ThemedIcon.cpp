@@ -15,9 +15,9 @@ ThemedIcon::ThemedIcon(const QString& file, QPalette::ColorRole role)
 
 ThemedIcon::~ThemedIcon() = default;
 
-QIcon ThemedIcon::named(const QString& name)
+QIcon ThemedIcon::named(const QString& name, QPalette::ColorRole role)
 {
-    return QIcon(new ThemedIcon(QStringLiteral(":/meridane/designer/icons/%1.svg").arg(name)));
+    return QIcon(new ThemedIcon(QStringLiteral(":/meridane/designer/icons/%1.svg").arg(name), role));
 }
 
 void ThemedIcon::paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State)

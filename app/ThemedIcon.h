@@ -24,8 +24,8 @@ public:
     explicit ThemedIcon(const QString& file, QPalette::ColorRole role = QPalette::WindowText);
     ~ThemedIcon() override;
 
-    /// The icon drawn in app/icons/\a name.svg.
-    [[nodiscard]] static QIcon named(const QString& name);
+    /// The icon drawn in app/icons/\a name.svg, in the palette's colour for \a role.
+    [[nodiscard]] static QIcon named(const QString& name, QPalette::ColorRole role = QPalette::WindowText);
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override;
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override;

@@ -2,6 +2,7 @@
 
 #include <QSizeF>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -38,6 +39,10 @@ public:
     virtual QString chooseSaveFolder(const QString& proposal) = 0;
     /// The folder to export to.
     virtual QString chooseExportFolder(const QString& startFolder) = 0;
+    /// Image files to import; none when the user cancels.
+    virtual QStringList chooseImages(const QString& startFolder) = 0;
+    /// The file to be shown in the place of the image \a name.
+    virtual QString chooseReplacement(const QString& name, const QString& startFolder) = 0;
 };
 
 } // namespace Korvex::Meridane::Designer

@@ -1,10 +1,12 @@
 #include "app/Workspace.h"
 
+#include "app/CanvasImageDrop.h"
 #include "app/CanvasPanel.h"
 #include "app/CoreText.h"
 #include "app/ElementInsertion.h"
 #include "app/ElementPalette.h"
 #include "app/HistoryPanel.h"
+#include "app/ImagePanel.h"
 #include "app/ProjectTree.h"
 
 #include "host/core/canvas/CanvasView.h"
@@ -22,7 +24,9 @@ Workspace::Workspace(EditSession* session, ElementPalette* palette)
     : m_session(session)
     , m_palette(palette)
     , m_canvasPanel(new CanvasPanel(session))
+    , m_imageDrop(new CanvasImageDrop(m_canvasPanel->view()))
     , m_tree(new ProjectTree(session))
+    , m_images(new ImagePanel(session))
     , m_sheet(new PropertySheet(session))
     , m_history(new HistoryPanel(session))
 {
@@ -38,6 +42,7 @@ Workspace::Workspace(EditSession* session, ElementPalette* palette)
     connect(view, &CanvasView::placementFinished, palette, &ElementPalette::disarm);
     connect(session, &EditSession::editRefused, this, &Workspace::refused);
     connect(m_tree, &ProjectTree::refused, this, &Workspace::refused);
+    connect(m_images, &ImagePanel::objectsRequested, this, &Workspace::show);
     connect(m_canvasPanel, &CanvasPanel::addScreenRequested, this, [this] { m_session->addScreen(); });
 }
 
@@ -47,6 +52,7 @@ Workspace::~Workspace()
     m_palette->disarm();
     delete m_history;
     delete m_sheet;
+    delete m_images;
     delete m_tree;
     delete m_canvasPanel;
 }
@@ -65,11 +71,20 @@ void Workspace::goTo(const QString& object)
         return;
     m_session->setCurrentScreen(screen);
     DesignerObject* found = elementId.isEmpty() ? screen : screen->element(elementId);
-    if (!found)
-        return;
-    m_session->setSelection({found});
-    if (const GraphicsItem* item = found->graphicsItem())
-        canvas()->ensureVisible(item->graphic()->sceneBoundingRect());
+    if (found)
+        show({found});
+}
+
+void Workspace::show(const QList<DesignerObject*>& objects)
+{
+    m_session->setSelection(objects);
+    QRectF place;
+    for (const DesignerObject* object : objects) {
+        if (const GraphicsItem* item = object->graphicsItem())
+            place |= item->graphic()->sceneBoundingRect();
+    }
+    if (!place.isNull())
+        canvas()->ensureVisible(place);
 }
 
 void Workspace::insertInView(const QString& className)

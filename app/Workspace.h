@@ -6,11 +6,14 @@
 
 namespace Korvex::Meridane::Designer {
 
+class CanvasImageDrop;
 class CanvasPanel;
 class CanvasView;
+class DesignerObject;
 class EditSession;
 class ElementPalette;
 class HistoryPanel;
+class ImagePanel;
 class ProjectTree;
 class PropertySheet;
 
@@ -32,11 +35,15 @@ public:
     [[nodiscard]] CanvasPanel* canvasPanel() const { return m_canvasPanel; }
     [[nodiscard]] CanvasView* canvas() const;
     [[nodiscard]] ProjectTree* tree() const { return m_tree; }
+    [[nodiscard]] ImagePanel* images() const { return m_images; }
+    [[nodiscard]] CanvasImageDrop* imageDrop() const { return m_imageDrop; }
     [[nodiscard]] PropertySheet* sheet() const { return m_sheet; }
     [[nodiscard]] HistoryPanel* history() const { return m_history; }
 
     /// Selects the object that "screen/id" or the id of a screen names and brings it into view.
     void goTo(const QString& object);
+    /// Selects \a objects, which stand on one screen, and brings them into view.
+    void show(const QList<DesignerObject*>& objects);
 
 Q_SIGNALS:
     /// An edit was refused; \a message is for the user.
@@ -48,7 +55,9 @@ private:
     EditSession* m_session;
     ElementPalette* m_palette;
     CanvasPanel* m_canvasPanel;
+    CanvasImageDrop* m_imageDrop;
     ProjectTree* m_tree;
+    ImagePanel* m_images;
     PropertySheet* m_sheet;
     HistoryPanel* m_history;
 };

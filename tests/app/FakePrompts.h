@@ -41,12 +41,26 @@ public:
         return exportFolder;
     }
 
+    QStringList chooseImages(const QString&) override
+    {
+        asked << QStringLiteral("images");
+        return images;
+    }
+
+    QString chooseReplacement(const QString& name, const QString&) override
+    {
+        asked << QStringLiteral("replace ") + name;
+        return replacement;
+    }
+
     SaveAnswer saveAnswer = SaveAnswer::Cancel;
     std::optional<NewProject> newProject;
     QString project;
     QString saveFolder;
     QString exportFolder;
     QString proposedFolder;
+    QStringList images;
+    QString replacement;
     QStringList asked;
 };
 
