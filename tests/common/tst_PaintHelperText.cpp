@@ -1,6 +1,7 @@
 #include "host/common/DisplayFont.h"
 #include "host/common/PaintHelper.h"
 
+#include <QFontDatabase>
 #include <QImage>
 #include <QPainter>
 #include <QTest>
@@ -89,6 +90,12 @@ private Q_SLOTS:
     void colourAndDecorationAreDrawn();
     void markupIsShownAsItStands();
     void zoomKeepsTheLineBreaks();
+    void weightsAreNormalOrBold();
+    void theApplicationsOwnFontPlaysNoPart();
+    void theSameTextLooksTheSameAllOverTheDevice_data();
+    void theSameTextLooksTheSameAllOverTheDevice();
+    void theGroundMakesNoDifference_data();
+    void theGroundMakesNoDifference();
 };
 
 void TestPaintHelperText::pointsBecomePixelsTheSameOnEveryMachine()
@@ -307,6 +314,127 @@ void TestPaintHelperText::zoomKeepsTheLineBreaks()
         QVERIFY(qAbs(zoomed.height() / 2.0 - normal.height()) < 2.1);
         QVERIFY(qAbs(zoomed.width() / 2.0 - normal.width()) < 2.1);
     }
+}
+
+void TestPaintHelperText::weightsAreNormalOrBold()
+{
+    QFont font(QStringLiteral("DejaVu Sans"));
+    for (int weight : {100, 300, 400, 500}) {
+        font.setWeight(static_cast<QFont::Weight>(weight));
+        QCOMPARE(displayFont(font).weight(), QFont::Normal);
+    }
+    for (int weight : {501, 600, 700, 900}) {
+        font.setWeight(static_cast<QFont::Weight>(weight));
+        QCOMPARE(displayFont(font).weight(), QFont::Bold);
+    }
+}
+
+void TestPaintHelperText::theApplicationsOwnFontPlaysNoPart()
+{
+    const QFont before = QGuiApplication::font();
+    QFont odd(QStringLiteral("DejaVu Serif"), 31, QFont::Bold, true);
+    odd.setLetterSpacing(QFont::AbsoluteSpacing, 4);
+    odd.setStyleHint(QFont::Monospace);
+    for (const char* family : {"DejaVu Sans", "No Such Family", ""}) {
+        Box text = box();
+        text.font.setFamilies({QString::fromLatin1(family)});
+        const QImage usual = painted(text);
+        QGuiApplication::setFont(odd);
+        text.font = QFont();
+        text.font.setFamilies({QString::fromLatin1(family)});
+        text.font.setPixelSize(20);
+        text.font.setWeight(QFont::Normal);
+        text.font.setItalic(false);
+        text.font.setLetterSpacing(QFont::PercentageSpacing, 0);
+        const QImage unusual = painted(text);
+        QGuiApplication::setFont(before);
+        QCOMPARE(unusual, usual);
+    }
+}
+
+void TestPaintHelperText::theSameTextLooksTheSameAllOverTheDevice_data()
+{
+    QTest::addColumn<QString>("style");
+    QTest::addColumn<QPointF>("fraction");
+    for (const char* style : {"Normal", "Outline", "Raised", "Sunken"}) {
+        for (const QPointF& fraction :
+             {QPointF(0.1, 0.7), QPointF(0.4, 0.5), QPointF(0.77, 0.99), QPointF(0.249, 0.001)}) {
+            QTest::addRow("%s at %g, %g", style, fraction.x(), fraction.y()) << QString::fromLatin1(style) << fraction;
+        }
+    }
+}
+
+void TestPaintHelperText::theSameTextLooksTheSameAllOverTheDevice()
+{
+    QFETCH(QString, style);
+    QFETCH(QPointF, fraction);
+    for (int pixelSize = 7; pixelSize < 40; ++pixelSize) {
+        Box text = box(pixelSize);
+        text.text = QStringLiteral("lilo \u05e9\u05dc Ag");
+        text.style = style;
+        // The device shows the box from one of its own pixels on: the box begins where it shows, or left of and above it.
+        const auto from = [&](const QPoint& pixel) {
+            QImage image(200, 140, QImage::Format_ARGB32_Premultiplied);
+            image.fill(Qt::white);
+            QPainter painter(&image);
+            painter.translate(fraction - pixel);
+            PaintHelper::paintTextBox(text.size, text.font, text.pen, text.text, text.alignment, text.style,
+                                      text.stylePen, &painter);
+            return image;
+        };
+        const QPoint shift(23, 9);
+        QCOMPARE(from(shift).copy(0, 0, 170, 130), from(QPoint(0, 0)).copy(shift.x(), shift.y(), 170, 130));
+        QCOMPARE(from(-shift).copy(shift.x(), shift.y(), 170, 130), from(QPoint(0, 0)).copy(0, 0, 170, 130));
+    }
+}
+
+void TestPaintHelperText::theGroundMakesNoDifference_data()
+{
+    QTest::addColumn<QString>("family");
+    QTest::addColumn<QString>("style");
+    for (const char* family : {"DejaVu Sans", "Panel Segments"}) {
+        for (const char* style : {"Normal", "Outline", "Raised"}) {
+            QTest::addRow("%s, %s", family, style) << QString::fromLatin1(family) << QString::fromLatin1(style);
+        }
+    }
+}
+
+/** A display draws a text on a transparent ground of its own, which is then laid over the screen. */
+void TestPaintHelperText::theGroundMakesNoDifference()
+{
+    QFETCH(QString, family);
+    QFETCH(QString, style);
+    const int handle = addFontFile(QStringLiteral(MERIDANE_FONT));
+    for (const QColor& color : {QColor(Qt::black), QColor(Qt::white), QColor(200, 40, 90, 120)}) {
+        for (const QColor& ground : {QColor(Qt::white), QColor(16, 24, 38)}) {
+            Box text = box();
+            text.font.setFamilies({family});
+            text.pen = QPen(color);
+            text.style = style;
+            text.stylePen = QPen(QColor(255, 140, 0, 160));
+            const auto drawn = [&](const QColor& fill) {
+                QImage image(160, 40, QImage::Format_ARGB32_Premultiplied);
+                image.fill(fill);
+                QPainter painter(&image);
+                PaintHelper::paintTextBox(text.size, text.font, text.pen, text.text, text.alignment, text.style,
+                                          text.stylePen, &painter);
+                return image;
+            };
+            QImage laidOver(160, 40, QImage::Format_ARGB32_Premultiplied);
+            laidOver.fill(ground);
+            QPainter(&laidOver).drawImage(0, 0, drawn(Qt::transparent));
+            const QImage straight = drawn(ground);
+            for (int y = 0; y < straight.height(); ++y) {
+                for (int x = 0; x < straight.width(); ++x) {
+                    const QColor a = straight.pixelColor(x, y);
+                    const QColor b = laidOver.pixelColor(x, y);
+                    QVERIFY(qAbs(a.red() - b.red()) <= 2 && qAbs(a.green() - b.green()) <= 2
+                            && qAbs(a.blue() - b.blue()) <= 2);
+                }
+            }
+        }
+    }
+    QFontDatabase::removeApplicationFont(handle);
 }
 
 QTEST_MAIN(TestPaintHelperText)
