@@ -11,6 +11,8 @@
 #include <QKeyEvent>
 #include <QPointer>
 
+#include <utility>
+
 namespace Korvex::Meridane::Designer {
 
 namespace {
@@ -108,10 +110,15 @@ bool GradientStopWidget::eventFilter(QObject* watched, QEvent* event)
         if (asksToAdd(key)) {
             // The click comes a moment later; what is typed until then belongs to the next stop.
             m_requested = gradientStop();
+            m_pending = true;
             m_button->animateClick();
         }
         if (key == Qt::Key_Plus)
             QMetaObject::invokeMethod(this, &GradientStopWidget::dropPlus, Qt::QueuedConnection);
+    } else if (watched == m_position && event->type() == QEvent::FocusOut && m_pending) {
+        // The click could come when another list is shown.
+        m_answered = true;
+        add();
     }
     return QWidget::eventFilter(watched, event);
 }
@@ -145,13 +152,20 @@ void GradientStopWidget::setButtonVisible(bool visible)
 
 void GradientStopWidget::onButtonClicked()
 {
-    const QPointer<GradientStopWidget> self(this);
-    if (!m_removable && !m_requested)
-        commitTyping();
-    if (m_removable)
+    if (m_removable) {
         Q_EMIT requestRemove();
-    else
-        Q_EMIT requestAdd();
+    } else if (!std::exchange(m_answered, false)) {
+        if (!m_pending)
+            commitTyping();
+        add();
+    }
+}
+
+void GradientStopWidget::add()
+{
+    const QPointer<GradientStopWidget> self(this);
+    m_pending = false;
+    Q_EMIT requestAdd();
     if (self)
         m_requested.reset();
 }

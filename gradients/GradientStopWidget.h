@@ -67,15 +67,18 @@ Q_SIGNALS:
 
 private:
     void onButtonClicked();
+    void add();
     void dropPlus();
 
     SpinBox* m_position;
     ColorWidget* m_color;
     ItemButton* m_button;
-    std::optional<QGradientStop> m_requested; // since a key asked for it
+    std::optional<QGradientStop> m_requested; // by a key
     int m_number = 0;
     bool m_removable;
     bool m_buttonVisible = true;
+    bool m_pending = false; // a key has asked to add, the click is to come
+    bool m_answered = false; // the click that is to come has been forestalled
 };
 
 } // namespace Korvex::Meridane::Designer

@@ -184,6 +184,35 @@ private Q_SLOTS:
         QCOMPARE(asked.last().first, 0.45);
     }
 
+    void aKeyIsAnsweredAtTheLatestWhenTheFocusLeaves()
+    {
+        WindowOf window(new GradientStopWidget(false));
+        GradientStopWidget* row = window.widget;
+        const QSignalSpy added(row, &GradientStopWidget::requestAdd);
+        enter(row->positionField(), "30");
+        QTest::keyClick(row->positionField(), Qt::Key_Tab);
+        QCOMPARE(added.size(), 1);
+        QTRY_VERIFY(!row->button()->isDown());
+        QCOMPARE(added.size(), 1);
+        click(row->button());
+        QCOMPARE(added.size(), 2);
+        row->positionField()->setFocus();
+        QTest::keyClick(row->positionField(), Qt::Key_Tab);
+        QCOMPARE(added.size(), 2);
+    }
+
+    void aKeyAndAClickAreTwoRequests()
+    {
+        WindowOf window(new GradientStopWidget(false));
+        GradientStopWidget* row = window.widget;
+        QList<double> asked;
+        connect(row, &GradientStopWidget::requestAdd, this, [&] { asked.append(row->requestedStop().first); });
+        enter(row->positionField(), "30");
+        QTest::keyClicks(row->positionField(), QStringLiteral("40"));
+        click(row->button());
+        QTRY_COMPARE(asked, (QList<double>{0.3, 0.4}));
+    }
+
     void theAddButtonTakesTheTypedPositionOverFirst()
     {
         WindowOf window(new GradientStopWidget(false));

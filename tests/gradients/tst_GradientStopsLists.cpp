@@ -176,6 +176,19 @@ private Q_SLOTS:
         QCOMPARE(GradientSheet::value(other), Default);
     }
 
+    void aKeyAddsToTheElementThatItWasPressedFor()
+    {
+        DesignerObject* other = m_sheet->add(Three);
+        DesignerObject* gradient = m_sheet->addAndSelect(Default);
+        SheetFixture::enter(m_sheet->newPosition(), "50");
+        m_sheet->select({other});
+        QCOMPARE(GradientSheet::value(gradient), QStringLiteral("0.33 #f8971d, 0.5 #f8971d, 0.67 #ffffff"));
+        QTRY_VERIFY(!m_sheet->addButton()->isDown());
+        QCOMPARE(GradientSheet::value(other), Three);
+        QCOMPARE(m_sheet->shown(), percents(Three));
+        QCOMPARE(stack()->count(), 1);
+    }
+
     void theRowOfTheNewStopStaysWhileTheElementChanges()
     {
         DesignerObject* gradient = m_sheet->addAndSelect(Three);
@@ -197,7 +210,8 @@ private Q_SLOTS:
         QCOMPARE(m_sheet->shown(), percents(GradientSheet::value(gradient)));
         QVERIFY(!m_sheet->addButton()->isVisible());
         QTest::keyClick(m_sheet->newPosition(), Qt::Key_Return);
-        QTest::qWait(150);
+        QVERIFY(m_sheet->addButton()->isDown());
+        QTRY_VERIFY(!m_sheet->addButton()->isDown()); // it has been clicked
         QCOMPARE(stack()->count(), 1);
         m_sheet->pick(100, "#abcdef");
         m_sheet->removeButton(50)->click();

@@ -251,10 +251,11 @@ private Q_SLOTS:
 
         for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
             QTest::keyClick(focus(), Qt::Key(key));
-            QTest::qWait(150);
+            QVERIFY(addButton()->isDown());
+            QTRY_VERIFY(!addButton()->isDown()); // it has been clicked
         }
         QTest::keyClick(focus(), '+');
-        QTest::qWait(150);
+        QTRY_VERIFY(!addButton()->isDown());
         QCOMPARE(stops()->rows().size(), Most);
         QCOMPARE(m_warnings->texts, QStringList());
         QCOMPARE(m_modified->size(), 1);
