@@ -105,7 +105,8 @@ QString ImageFormats::fileFilter()
         for (const QString& suffix : format.suffixes)
             patterns.append(QStringLiteral("*.") + suffix);
     }
-    return Common::LocalizationHelper::coreString(QStringLiteral("Images (%1)")).arg(patterns.join(QLatin1Char(' ')));
+    return Common::LocalizationHelper::coreString(QStringLiteral("Images (%1);;All Files (*)"))
+        .arg(patterns.join(QLatin1Char(' ')));
 }
 
 } // namespace Korvex::Meridane::Designer
