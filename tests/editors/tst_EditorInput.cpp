@@ -20,6 +20,7 @@
 #include "host/core/widgets/ColorSwatch.h"
 #include "host/core/widgets/ColorWidget.h"
 #include "host/core/widgets/ComboBox.h"
+#include "host/core/widgets/FontFamilyBox.h"
 #include "host/core/widgets/FontStyleButton.h"
 #include "host/core/widgets/FontWidget.h"
 #include "host/core/widgets/HexColorField.h"
@@ -393,6 +394,38 @@ private Q_SLOTS:
         editor->importFile(elsewhere.filePath(QStringLiteral("missing.png")));
         QCOMPARE(refused.size(), 1);
         QCOMPARE(m_element->value("source"), QStringLiteral("logo.png"));
+    }
+
+    void anImportedFontIsChosen()
+    {
+        const QString before = m_element->value("font");
+        auto* editor = show<FontEditor>("font");
+        FontFamilyBox* family = editor->fontWidget()->familyBox();
+        QVERIFY(editor->fontWidget()->importButton()->isEnabled());
+        editor->importFile(QStringLiteral(MERIDANE_FONT));
+        QVERIFY(m_element->value("font").startsWith(QLatin1String("family: Panel Segments;")));
+        QCOMPARE(stack()->count(), 1);
+        QCOMPARE(family->currentText(), QStringLiteral("Panel Segments"));
+        QVERIFY(family->isInstalled());
+        QVERIFY(family->toolTip().isEmpty());
+        // A font that goes is shown as missing, one that comes back as there.
+        Project* project = m_session->project();
+        const QStringList fonts = project->fontResources();
+        project->setFontResources({});
+        QCOMPARE(family->currentText(), QStringLiteral("Panel Segments"));
+        QVERIFY(!family->isInstalled());
+        QVERIFY(!family->toolTip().isEmpty());
+        project->setFontResources(fonts);
+        QVERIFY(family->isInstalled());
+        QVERIFY(family->toolTip().isEmpty());
+        stack()->undo();
+        QCOMPARE(m_element->value("font"), before);
+        QCOMPARE(project->fontResources(), fonts);
+
+        QSignalSpy refused(editor, &PropertyEditor::refused);
+        editor->importFile(QStringLiteral("/missing.ttf"));
+        QCOMPARE(refused.size(), 1);
+        QCOMPARE(m_element->value("font"), before);
     }
 
     void valuesOutsideTheLimitsOfAnEditorAreShownAndKept()

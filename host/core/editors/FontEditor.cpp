@@ -1,5 +1,6 @@
 #include "host/core/editors/FontEditor.h"
 
+#include "host/core/canvas/EditSession.h"
 #include "host/core/values/ValueConversion.h"
 #include "host/core/widgets/ComboBox.h"
 #include "host/core/widgets/FontFamilyBox.h"
@@ -7,9 +8,16 @@
 #include "host/core/widgets/FontWidget.h"
 #include "host/core/widgets/SpinBox.h"
 
+#include "host/common/LocalizationHelper.h"
+
+#include <QFileDialog>
+#include <QToolButton>
+
 #include <array>
 
 namespace Korvex::Meridane::Designer {
+
+using Common::LocalizationHelper;
 
 namespace {
 
@@ -52,8 +60,43 @@ bool FontEditor::createEditorWidget()
         field->setMinimumWidth(fieldWidth);
         joinSteps(field);
     }
+    connect(m_widget->importButton(), &QToolButton::clicked, this, &FontEditor::chooseFile);
     setEditorWidget(m_widget);
+    propertyReplaced();
     return true;
+}
+
+void FontEditor::propertyReplaced()
+{
+    if (m_widget)
+        m_widget->importButton()->setEnabled(session() != nullptr);
+}
+
+void FontEditor::importFile(const QString& file)
+{
+    if (!session())
+        return;
+    QString id;
+    QStringList families;
+    const EditResult result = session()->importFont(file, &id, &families);
+    if (!result.accepted) {
+        refuse(result.message);
+        return;
+    }
+    QFont font = m_widget->value();
+    font.setFamilies({families.constFirst()});
+    m_widget->setValue(font);
+    endSteps();
+    edit(QStringLiteral("family"));
+}
+
+void FontEditor::chooseFile()
+{
+    const QString file = QFileDialog::getOpenFileName(
+        this, LocalizationHelper::coreString(QStringLiteral("Import Font")), QString(),
+        LocalizationHelper::coreString(QStringLiteral("Fonts (%1)")).arg(QStringLiteral("*.ttf *.otf *.ttc")));
+    if (!file.isEmpty())
+        importFile(file);
 }
 
 bool FontEditor::showValue(const QString& value)

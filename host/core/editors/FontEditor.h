@@ -7,7 +7,8 @@ namespace Korvex::Meridane::Designer {
 class FontWidget;
 
 /// The editor of a font: family, size, weight, style and spacing. With several elements an edit of one attribute leaves
-/// the others of each as they are. Editor parameter: "tooltip".
+/// the others of each as they are. A button imports a font file into the project; it needs the session() and is disabled
+/// without one. Editor parameter: "tooltip".
 class MERIDANE_CORE_EXPORT FontEditor : public StandardEditor
 {
     Q_OBJECT
@@ -18,6 +19,10 @@ public:
 
     [[nodiscard]] QString className() const override;
     bool createEditorWidget() override;
+    void propertyReplaced() override;
+
+    /// Copies \a file into the project and chooses its family; a file that is no font is refused with a message.
+    void importFile(const QString& file);
 
     [[nodiscard]] FontWidget* fontWidget() const { return m_widget; }
 
@@ -26,6 +31,8 @@ protected:
     [[nodiscard]] QString widgetValue() const override;
 
 private:
+    void chooseFile();
+
     FontWidget* m_widget = nullptr;
 };
 

@@ -3,6 +3,7 @@
 #include "host/common/LocalizationHelper.h"
 
 #include <QtCore/QSignalBlocker>
+#include <QtGui/QGuiApplication>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QWheelEvent>
 #include <QtWidgets/QLineEdit>
@@ -18,6 +19,8 @@ FontFamilyBox::FontFamilyBox(QWidget* parent)
     setInsertPolicy(QComboBox::NoInsert);
     setAccessibleName(LocalizationHelper::coreString(QStringLiteral("Font family")));
     connect(this, &QComboBox::activated, this, &FontFamilyBox::commit);
+    // The list has followed already, and shows something of it.
+    connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, this, &FontFamilyBox::showFamily);
     showFamily();
 }
 

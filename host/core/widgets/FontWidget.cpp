@@ -13,6 +13,7 @@
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QToolButton>
 
 #include <algorithm>
 #include <array>
@@ -66,6 +67,7 @@ SpinBox* createSpacingField(const QString& label, QWidget* parent)
 FontWidget::FontWidget(QWidget* parent)
     : QWidget(parent)
     , m_family(new FontFamilyBox(this))
+    , m_import(new QToolButton(this))
     , m_size(new SpinBox(false, this))
     , m_unit(new ComboBox({}, this))
     , m_weight(new ComboBox({}, this))
@@ -82,6 +84,12 @@ FontWidget::FontWidget(QWidget* parent)
     m_weight->setToolTip(m_weight->accessibleName());
     m_family->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // long names do not widen the sheet
     setFocusProxy(m_family);
+    m_import->setText(LocalizationHelper::coreString(QStringLiteral("Import\u2026")));
+    m_import->setToolTip(LocalizationHelper::coreString(QStringLiteral("Copy a font file into the project")));
+    m_import->setAccessibleName(m_import->toolTip());
+    m_import->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Minimum);
+    m_import->setFocusPolicy(Qt::StrongFocus);
+    m_import->setEnabled(false);
 
     auto* styleRow = new QHBoxLayout;
     using Style = FontStyleButton::Style;
@@ -108,7 +116,11 @@ FontWidget::FontWidget(QWidget* parent)
     wordRow->addWidget(m_wordSpacing, 1);
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_family, 0, 0, 1, 2);
+    auto* familyRow = new QHBoxLayout;
+    familyRow->setSpacing(4);
+    familyRow->addWidget(m_family, 1);
+    familyRow->addWidget(m_import);
+    layout->addLayout(familyRow, 0, 0, 1, 2);
     layout->addLayout(sizeRow, 1, 0);
     layout->addWidget(m_weight, 1, 1);
     layout->addLayout(styleRow, 2, 0, 1, 2);

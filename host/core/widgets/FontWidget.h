@@ -6,6 +6,10 @@
 #include <QtGui/QFont>
 #include <QtWidgets/QWidget>
 
+QT_BEGIN_NAMESPACE
+class QToolButton;
+QT_END_NAMESPACE
+
 namespace Korvex::Meridane::Designer {
 class ComboBox;
 class FontFamilyBox;
@@ -28,6 +32,8 @@ public:
     void setValue(const QFont& font);
 
     [[nodiscard]] FontFamilyBox* familyBox() const { return m_family; }
+    /** Beside the families, for whoever can import a font; disabled until somebody enables it. */
+    [[nodiscard]] QToolButton* importButton() const { return m_import; }
     [[nodiscard]] SpinBox* sizeField() const { return m_size; }
     /** Keys "pointSize" and "pixelSize". A change of the unit keeps the size on the screen, rounded to whole pixels. */
     [[nodiscard]] ComboBox* unitBox() const { return m_unit; }
@@ -53,6 +59,7 @@ private:
 
     QFont m_font;
     FontFamilyBox* m_family;
+    QToolButton* m_import;
     SpinBox* m_size;
     ComboBox* m_unit;
     ComboBox* m_weight;
