@@ -10,7 +10,6 @@
 #include "host/core/values/ValueConversion.h"
 
 #include "host/common/LocalizationHelper.h"
-#include "host/common/PictureFile.h"
 
 #include <QKeyEvent>
 
@@ -23,7 +22,7 @@ GraphicsImage::GraphicsImage(DesignerObject* dataObject)
     m_updater->setImageFile({});
     if (Project* project = Project::parentProject(dataObject)) {
         QObject::connect(project, &Project::imageFileChanged, m_updater.get(), [this](const QString& fileName) {
-            if (m_path.endsWith(QLatin1Char('/') + fileName))
+            if (imageNameOf(this->dataObject()) == fileName)
                 reload();
         });
     }
@@ -45,7 +44,7 @@ void GraphicsImage::updateGraphicsItem(const QSharedPointer<DesignerProperty>& p
 {
     GraphicsFrameItem::updateGraphicsItem(property);
     if (property && property->id() == QLatin1String("source"))
-        setImageFile(imageFileOf(dataObject()));
+        showSource();
 }
 
 void GraphicsImage::selectedChanged(bool selected)
@@ -54,14 +53,6 @@ void GraphicsImage::selectedChanged(bool selected)
         m_updater->startAnimation();
     else
         m_updater->stopAnimation();
-}
-
-void GraphicsImage::reload()
-{
-    m_path = imageFileOf(dataObject()); // the project may have moved
-    m_updater->setImageFile(m_path);
-    if (takesPartInSelection())
-        m_updater->startAnimation();
 }
 
 void GraphicsImage::paintContent(QPainter* painter)
@@ -85,6 +76,8 @@ QVariant GraphicsImage::itemChange(GraphicsItemChange change, const QVariant& va
         selectedChanged(value.toBool());
     else if (change == ItemEnabledHasChanged && !value.toBool())
         m_updater->unload();
+    else if (change == ItemEnabledHasChanged)
+        reload(); // what was given up can be played again
     return QGraphicsItem::itemChange(change, value);
 }
 
@@ -97,7 +90,7 @@ void GraphicsImage::keyPressEvent(QKeyEvent* event)
         QGraphicsItem::keyPressEvent(event);
         return;
     }
-    const QSize natural = m_path.isEmpty() ? QSize() : Common::pictureInfo(m_path).size;
+    const QSize natural = naturalSizeOf(m_path);
     if (natural.isEmpty() || QSizeF(natural) == size())
         return;
     auto* command = new ChangeProperty(property, ValueConversion::toString(QSizeF(natural)), true, nullptr);
@@ -105,12 +98,25 @@ void GraphicsImage::keyPressEvent(QKeyEvent* event)
     project->emitUserModified(command);
 }
 
-void GraphicsImage::setImageFile(const QString& path)
+void GraphicsImage::showSource()
 {
+    const QString path = imageFileOf(dataObject());
     if (path != m_path) {
         m_path = path;
         m_updater->setImageFile(path);
     }
+    playWhereSelected();
+}
+
+void GraphicsImage::reload()
+{
+    m_path = imageFileOf(dataObject());
+    m_updater->setImageFile(m_path);
+    playWhereSelected();
+}
+
+void GraphicsImage::playWhereSelected()
+{
     if (takesPartInSelection())
         m_updater->startAnimation();
 }

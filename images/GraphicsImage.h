@@ -22,8 +22,6 @@ public:
     void selectedChanged(bool selected) override;
 
     [[nodiscard]] const ImageUpdater& updater() const { return *m_updater; }
-    /// Loads the picture again: its file has changed.
-    void reload();
 
 protected:
     void paintContent(QPainter* painter) override;
@@ -34,7 +32,11 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void setImageFile(const QString& path);
+    /// Shows the picture that the element names, which is loaded when its file is another one than before.
+    void showSource();
+    /// Loads the picture again: the file may have other content than before.
+    void reload();
+    void playWhereSelected();
     [[nodiscard]] bool takesPartInSelection() const;
 
     QString m_path;

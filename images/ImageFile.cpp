@@ -1,32 +1,51 @@
 #include "images/ImageFile.h"
 
+#include "images/ImageSizeWidget.h"
+
 #include "host/core/objects/DesignerObject.h"
 #include "host/core/project/Project.h"
+#include "host/core/project/ProjectFolder.h"
 #include "host/core/properties/DesignerProperty.h"
 #include "host/core/values/ObjectLinkInfo.h"
 #include "host/core/values/ValueConversion.h"
 
-#include "host/common/PictureFile.h"
+#include "host/common/PictureCache.h"
 
 namespace Korvex::Meridane::Designer {
 
-QString imageFileOf(const DesignerObject* element)
+QString imageNameOf(const DesignerObject* element)
 {
     const auto source = element ? element->getProperty(QStringLiteral("source")) : QSharedPointer<DesignerProperty>();
-    const Project* project = Project::parentProject(element);
-    if (!source || !project)
-        return {};
     bool ok = false;
-    const ObjectLinkInfo link = ValueConversion::toLinkInfo(source->valueString(), &ok);
-    if (!ok || !link.isValid() || link.objectId().isEmpty())
+    const ObjectLinkInfo link = source ? ValueConversion::toLinkInfo(source->valueString(), &ok) : ObjectLinkInfo();
+    return ok && link.isValid() ? link.objectId() : QString();
+}
+
+QString imageFileOf(const DesignerObject* element)
+{
+    const QString name = imageNameOf(element);
+    const Project* project = Project::parentProject(element);
+    if (name.isEmpty() || !project || project->folder().isEmpty())
         return {};
-    return QStringLiteral("%1/%2").arg(project->imagesPath(), link.objectId());
+    QString reason;
+    const ProjectFolder::Found found = ProjectFolder(project->folder()).find(ProjectFolder::imageFile(name), &reason);
+    return found == ProjectFolder::Found::Refused ? QString()
+                                                  : QStringLiteral("%1/%2").arg(project->imagesPath(), name);
+}
+
+QSize naturalSizeOf(const QString& file)
+{
+    if (file.isEmpty())
+        return {};
+    const Common::PictureInfo info = Common::PictureCache::content(file)->info;
+    const bool fits =
+        info.size.width() <= ImageSizeWidget::LargestSide && info.size.height() <= ImageSizeWidget::LargestSide;
+    return info.kind != Common::PictureKind::Unreadable && !info.size.isEmpty() && fits ? info.size : QSize();
 }
 
 QSize naturalSizeOf(const DesignerObject* element)
 {
-    const QString file = imageFileOf(element);
-    return file.isEmpty() ? QSize() : Common::pictureInfo(file).size;
+    return naturalSizeOf(imageFileOf(element));
 }
 
 } // namespace Korvex::Meridane::Designer

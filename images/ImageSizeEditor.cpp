@@ -32,6 +32,7 @@ QWidget* ImageSizeEditor::createWidgets(SizeWidget** sizeWidget)
     m_widget = new ImageSizeWidget(this);
     connect(m_widget, &ImageSizeWidget::imageSizeWanted, this, &ImageSizeEditor::setToImageSize);
     *sizeWidget = m_widget->sizeWidget();
+    followProject();
     takePicture();
     return m_widget;
 }
@@ -39,7 +40,27 @@ QWidget* ImageSizeEditor::createWidgets(SizeWidget** sizeWidget)
 void ImageSizeEditor::propertyReplaced()
 {
     SizeEditor::propertyReplaced();
+    followProject();
     takePicture();
+}
+
+/// An element announces its new source to its own editor; that of several elements hears of the others from the project.
+void ImageSizeEditor::followProject()
+{
+    Project* project = property() ? Project::parentProject(property()->parentObject()) : nullptr;
+    if (project == m_project)
+        return;
+    if (m_project)
+        m_project->disconnect(this);
+    m_project = project;
+    if (!project)
+        return;
+    connect(project, &Project::imageFileChanged, this, &ImageSizeEditor::takePicture);
+    connect(project, &Project::objectPropertyChanged, this,
+            [this](const DesignerObject*, const QSharedPointer<DesignerProperty>& changed) {
+                if (changed && changed->id() == QLatin1String("source"))
+                    takePicture();
+            });
 }
 
 void ImageSizeEditor::takePicture()
@@ -59,8 +80,9 @@ void ImageSizeEditor::setToImageSize()
         return;
     }
     // What is changed directly while a click is handled becomes one step of the sheet.
-    for (const auto& edited : properties()) {
-        DesignerObject* element = edited->parentObject();
+    const QList<QSharedPointer<DesignerProperty>> edited = properties();
+    for (const auto& outerSize : edited) {
+        DesignerObject* element = outerSize->parentObject();
         const QSize natural = naturalSizeOf(element);
         if (!natural.isEmpty()) {
             element->changePropertyValue(element->getProperty(QStringLiteral("size")),

@@ -5,6 +5,7 @@
 namespace Korvex::Meridane::Designer {
 
 class ImageSizeWidget;
+class Project;
 
 /**
  * The editor of an image's outer size: a size editor with a button that gives the element the natural size of its picture.
@@ -23,7 +24,7 @@ public:
     [[nodiscard]] QString className() const override;
     void propertyReplaced() override;
 
-    /// The element's "source" has changed: the button is enabled or disabled.
+    /// A picture may be another one: the button is enabled or disabled.
     void takePicture();
 
     [[nodiscard]] ImageSizeWidget* imageSizeWidget() const { return m_widget; }
@@ -32,10 +33,12 @@ protected:
     [[nodiscard]] QWidget* createWidgets(SizeWidget** sizeWidget) override;
 
 private:
+    void followProject();
     void setToImageSize();
     void setOneToImageSize();
 
     ImageSizeWidget* m_widget = nullptr;
+    QPointer<Project> m_project; // whose changes are followed
 };
 
 } // namespace Korvex::Meridane::Designer

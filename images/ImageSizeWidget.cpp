@@ -13,13 +13,12 @@ ImageSizeWidget::ImageSizeWidget(QWidget* parent)
     , m_size(new SizeWidget(this))
     , m_button(new QPushButton(elementText("Set to Image Size"), this))
 {
-    constexpr double Largest = 99999;
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_size);
     layout->addWidget(m_button);
     m_size->setMinimum(QSizeF(1, 1));
-    m_size->setMaximum(QSizeF(Largest, Largest));
+    m_size->setMaximum(QSizeF(LargestSide, LargestSide));
     m_size->setDecimals(2);
     m_button->setDefault(false);
     m_button->setAutoDefault(false);

@@ -15,6 +15,9 @@ class ImageSizeWidget : public QWidget
     Q_OBJECT
 
 public:
+    /// The largest width and height that can be entered, in pixels.
+    static constexpr int LargestSide = 99999;
+
     explicit ImageSizeWidget(QWidget* parent);
 
     [[nodiscard]] SizeWidget* sizeWidget() const { return m_size; }

@@ -10,7 +10,7 @@ ImageUpdater::ImageUpdater(QGraphicsItem* item)
     : m_item(item)
     , m_picture(new Common::Picture(this))
 {
-    connect(m_picture, &Common::Picture::changed, this, &ImageUpdater::onFrameChanged);
+    connect(m_picture, &Common::Picture::changed, this, [this] { onFrameChanged(m_picture->frame()); });
 }
 
 ImageUpdater::~ImageUpdater() = default;
@@ -53,7 +53,7 @@ void ImageUpdater::unload()
     m_picture->freeze();
 }
 
-void ImageUpdater::onFrameChanged()
+void ImageUpdater::onFrameChanged(int)
 {
     m_item->update();
 }

@@ -13,7 +13,7 @@ class Picture;
 namespace Korvex::Meridane::Designer {
 
 /// Loads the picture of an image item, plays it when it moves, and repaints the item with each frame. A picture that cannot
-/// be shown is replaced by a placeholder.
+/// be shown is replaced by a placeholder. Pictures are shared with the other items that show the same file.
 class ImageUpdater : public QObject
 {
     Q_OBJECT
@@ -29,6 +29,7 @@ public:
     void paint(const QSizeF& size, QPainter* painter) const;
 
 public Q_SLOTS:
+    /// An empty path is that of a picture that cannot be shown.
     void setImageFile(const QString& path);
     void startAnimation();
     /// Back to the first frame.
@@ -39,7 +40,7 @@ public Q_SLOTS:
     void unload();
 
 private Q_SLOTS:
-    void onFrameChanged();
+    void onFrameChanged(int frameNumber);
 
 private:
     QGraphicsItem* m_item;

@@ -1,125 +1,258 @@
 #include "host/common/DrawingCheck.h"
 
-#include <QtCore/QBuffer>
-#include <QtCore/QHash>
-#include <QtCore/QList>
+#include "host/common/DrawingElements.h"
+#include "host/common/RasterFile.h"
+#include "host/common/StyleSheetCost.h"
+
 #include <QtCore/QRegularExpression>
 #include <QtCore/QXmlStreamReader>
-#include <QtGui/QImageReader>
-
-#include <limits>
 
 namespace Korvex::Meridane::Common {
 namespace {
-constexpr qsizetype LargestFile = 16 * 1024 * 1024;
-constexpr int DeepestNesting = 200;
-constexpr qint64 MostElements = 200000;
+constexpr qsizetype LargestFile = 8 * 1024 * 1024;
+constexpr qsizetype DeepestNesting = 200;
+constexpr qint64 MostElements = 100 * 1000;
+constexpr qsizetype MostAttributes = 300; // of an element
+constexpr int MostStops = 1000; // of a gradient; each is put into its place among all others
+constexpr qsizetype LongestStyle = 64 * 1024; // of an element
+constexpr qint64 LargestEntities = 1024 * 1024; // where they are used
 constexpr qint64 MostEmbeddedPixels = 16 * 1000 * 1000;
+constexpr qint64 ElementsALetter = 5;
+constexpr qint64 AttributeLettersAnElement = 100;
 
-/** An element: how many stand below it, and what it refers to. */
-struct Node
+bool isSpace(char c)
 {
-    QString id;
-    QStringList references;
-    QList<int> children;
-};
+    return c == ' ' || c == '\t' || c == '\n' || c == '\r';
+}
 
-/** A drawing as it is read: its elements, and the pixels of the pictures in it. */
+/** Whether an element has more attributes than any drawing needs: the XML reader compares each of them with all others. No
+ *  attribute holds a "<", so they are counted from one to the next. */
+bool hasCrowdedElement(const QByteArray& svg)
+{
+    qsizetype attributes = 0;
+    bool afterEquals = false;
+    for (const char c : svg) {
+        if (c == '<') {
+            attributes = 0;
+        } else if (afterEquals && (c == '"' || c == '\'') && ++attributes > MostAttributes) {
+            return true;
+        }
+        afterEquals = c == '=' || (afterEquals && isSpace(c));
+    }
+    return false;
+}
+
+/** Whether entities are declared that the document type itself uses; the XML reader follows them before it tells of them. */
+bool hasParameterEntity(const QByteArray& svg)
+{
+    const auto declaration = QByteArrayLiteral("<!ENTITY");
+    for (qsizetype at = svg.indexOf(declaration); at >= 0; at = svg.indexOf(declaration, at)) {
+        at += declaration.size();
+        while (at < svg.size() && isSpace(svg.at(at))) {
+            ++at;
+        }
+        if (at < svg.size() && svg.at(at) == '%') {
+            return true;
+        }
+    }
+    return false;
+}
+
+/** What can be said of a drawing without reading it as XML, which these would hang; empty when nothing is wrong. */
+QString faultOfText(const QByteArray& svg)
+{
+    if (svg.size() > LargestFile) {
+        return QStringLiteral("the file is larger than 8 MiB");
+    }
+    if (svg.contains('\0')) {
+        return QStringLiteral("the file is not in UTF-8");
+    }
+    if (hasParameterEntity(svg)) {
+        return QStringLiteral("it declares entities that cannot be followed");
+    }
+    return hasCrowdedElement(svg) ? QStringLiteral("an element of it has too many attributes") : QString();
+}
+
+/** The name without its prefix: "image" of "svg:image". Prefixes are often left undeclared, and nobody minds. */
+QStringView localName(QStringView name)
+{
+    return name.sliced(name.lastIndexOf(u':') + 1);
+}
+
+/** Whether what an element of this name refers to is neither painted nor used: the target of a hyperlink or an animation. */
+bool refersInNameOnly(QStringView element)
+{
+    return element == u"a" || element == u"set" || element == u"script" || element.startsWith(u"animate");
+}
+
+/** Reads a drawing once and finds the first thing that is wrong with it. */
 class DrawingReader
 {
 public:
     explicit DrawingReader(const QByteArray& svg)
-        : m_xml(svg)
-    {}
+        : m_svg(svg)
+        , m_xml(svg)
+    {
+        m_xml.setNamespaceProcessing(false);
+    }
 
-    /** Empty when the drawing can be shown. */
+    /** Empty when the drawing can be read. */
     QString fault()
     {
-        const QString read = readElements();
-        if (!read.isEmpty()) {
-            return read;
+        while (!m_xml.atEnd()) {
+            const QString fault = faultOf(m_xml.readNext());
+            if (!fault.isEmpty()) {
+                return fault;
+            }
         }
-        if (m_nodes.isEmpty()) {
+        if (m_xml.hasError()) {
+            return m_xml.errorString();
+        }
+        if (m_elements.count() == 0) {
             return QStringLiteral("the file holds no drawing");
         }
-        m_counts.fill(Unknown, m_nodes.size());
-        const qint64 count = expandedCount(0);
-        if (count < 0) {
+        if (m_styles.isTooLarge()) {
+            return QStringLiteral("its style sheets are too large");
+        }
+        const qint64 weight = m_elements.expandedWeight(MostElements);
+        if (weight == DrawingElements::Endless) {
             return QStringLiteral("an element refers to itself");
         }
-        return count > MostElements ? QStringLiteral("its references multiply its elements") : QString();
+        return weight > MostElements ? QStringLiteral("it has too many elements, or its references multiply them")
+                                     : QString();
     }
 
 private:
-    static constexpr qint64 Unknown = -1;
-    static constexpr qint64 BeingCounted = -2;
-    static constexpr qint64 Endless = -3;
-
-    QString readElements()
+    /** An element whose end has not been read yet. */
+    struct Open
     {
-        QList<int> open;
-        while (!m_xml.atEnd()) {
-            switch (m_xml.readNext()) {
-            case QXmlStreamReader::DTD:
-                if (!m_xml.entityDeclarations().isEmpty()) {
-                    return QStringLiteral("it declares entities");
-                }
-                break;
-            case QXmlStreamReader::StartElement: {
-                if (open.size() >= DeepestNesting) {
-                    return QStringLiteral("its elements are nested too deeply");
-                }
-                if (m_nodes.size() >= MostElements) {
-                    return QStringLiteral("it has too many elements");
-                }
-                const QString fault = addElement(open.isEmpty() ? -1 : open.last());
-                if (!fault.isEmpty()) {
-                    return fault;
-                }
-                open.append(int(m_nodes.size()) - 1);
-                break;
-            }
-            case QXmlStreamReader::EndElement:
-                open.removeLast();
-                break;
-            default:
-                break;
-            }
+        int number = -1;
+        int children = 0;
+        bool isStyleSheet = false;
+        bool isText = false; // or stands in one
+    };
+
+    QString faultOf(QXmlStreamReader::TokenType token)
+    {
+        switch (token) {
+        case QXmlStreamReader::DTD:
+            return faultOfEntities();
+        case QXmlStreamReader::ProcessingInstruction:
+            // It is followed before anything else is read, wherever it leads.
+            return m_xml.processingInstructionTarget() == u"xml-stylesheet" ? refersElsewhere() : QString();
+        case QXmlStreamReader::StartElement:
+            return addElement();
+        case QXmlStreamReader::EndElement:
+            m_open.removeLast();
+            return {};
+        case QXmlStreamReader::Characters:
+            addText();
+            return {};
+        default:
+            return {};
         }
-        return m_xml.hasError() ? m_xml.errorString() : QString();
     }
 
-    QString addElement(int parent)
+    static QString refersElsewhere() { return QStringLiteral("it refers to another file"); }
+
+    /** Drawing programs declare entities for long names; they are plain texts, each used a few times. */
+    QString faultOfEntities() const
     {
-        Node node;
-        const bool isImage = m_xml.name() == QLatin1String("image");
-        for (const QXmlStreamAttribute& attribute : m_xml.attributes()) {
-            const QString value = attribute.value().toString().trimmed();
-            if (attribute.name() == QLatin1String("id")) {
-                node.id = value;
-            } else if (attribute.name() == QLatin1String("href") && value.startsWith(QLatin1Char('#'))) {
-                node.references.append(value.mid(1));
-            } else if (attribute.name() == QLatin1String("href") && isImage) {
-                const QString fault = addPicture(value);
+        qint64 longest = 0;
+        const QXmlStreamEntityDeclarations entities = m_xml.entityDeclarations();
+        for (const QXmlStreamEntityDeclaration& entity : entities) {
+            if (!entity.systemId().isEmpty() || !entity.publicId().isEmpty()) {
+                return refersElsewhere();
+            }
+            if (entity.value().contains(u'&') || entity.value().contains(u'<')) {
+                return QStringLiteral("it declares entities that cannot be followed");
+            }
+            longest = qMax<qint64>(longest, entity.value().size());
+        }
+        return longest * m_svg.count('&') > LargestEntities ? QStringLiteral("its entities are too large") : QString();
+    }
+
+    QString addElement()
+    {
+        if (m_open.size() >= DeepestNesting) {
+            return QStringLiteral("its elements are nested too deeply");
+        }
+        if (m_elements.count() >= MostElements) {
+            return QStringLiteral("it has too many elements, or its references multiply them");
+        }
+        const QStringView name = localName(m_xml.qualifiedName());
+        if (name == u"stop" && !m_open.isEmpty() && m_open.constLast().children >= MostStops) {
+            return QStringLiteral("a gradient of it has too many colours");
+        }
+        DrawingElements::Element element;
+        const QXmlStreamAttributes attributes = m_xml.attributes();
+        qsizetype letters = 0;
+        QStringView classes;
+        for (const QXmlStreamAttribute& attribute : attributes) {
+            const QStringView key = localName(attribute.qualifiedName());
+            const QStringView value = attribute.value();
+            letters += value.size();
+            if (key == u"id") {
+                element.id = value.toString();
+            } else if (key == u"class") {
+                classes = value;
+            } else if (key == u"style" && value.size() > LongestStyle) {
+                return QStringLiteral("its style sheets are too large");
+            } else if (key == u"href") {
+                const QString fault = faultOfReference(name, value, &element.references);
                 if (!fault.isEmpty()) {
                     return fault;
                 }
-            } else {
-                addReferences(value, &node.references);
+                continue;
             }
+            addReferences(value.toString(), &element.references);
         }
-        m_ids.insert(node.id, int(m_nodes.size()));
-        if (parent >= 0) {
-            m_nodes[parent].children.append(int(m_nodes.size()));
+        element.weight += letters / AttributeLettersAnElement;
+        m_styles.addElement(int(m_open.size()) + 1, m_open.isEmpty() ? 0 : m_open.constLast().children, classes);
+        const int number = m_elements.add(element, m_open.isEmpty() ? -1 : m_open.constLast().number);
+        if (!m_open.isEmpty()) {
+            ++m_open.last().children;
         }
-        m_nodes.append(node);
+        const bool inText = !m_open.isEmpty() && m_open.constLast().isText;
+        m_open.append({number, 0, name == u"style", inText || name == u"text" || name == u"textArea"});
+        return {};
+    }
+
+    void addText()
+    {
+        if (m_open.isEmpty()) {
+            return;
+        }
+        if (m_open.constLast().isStyleSheet) {
+            m_styles.addStyleSheet(m_xml.text());
+        } else if (m_open.constLast().isText) {
+            m_elements.addWeight(m_open.constLast().number, ElementsALetter * m_xml.text().size());
+        }
+    }
+
+    QString faultOfReference(QStringView element, QStringView target, QStringList* references)
+    {
+        if (target.trimmed().isEmpty() || refersInNameOnly(element)) {
+            return {};
+        }
+        if (element == u"image") {
+            return faultOfPicture(target);
+        }
+        if (!target.trimmed().startsWith(u'#')) {
+            return refersElsewhere();
+        }
+        references->append(target.trimmed().sliced(1).toString());
+        // Some readers cut off what they take for the "#".
+        if (!target.startsWith(u'#')) {
+            references->append(target.sliced(1).toString());
+        }
         return {};
     }
 
     /** Collects the ids of "url(#id)", as presentation attributes and styles write references. */
     static void addReferences(const QString& value, QStringList* references)
     {
-        static const QRegularExpression reference(QStringLiteral("url\\(\\s*['\"]?#([^'\")]+)"));
+        static const QRegularExpression reference(QStringLiteral("url\\(\\s*['\"]?\\s*#([^'\")]+)"));
         if (!value.contains(QLatin1String("url("))) {
             return;
         }
@@ -129,69 +262,39 @@ private:
         }
     }
 
-    QString addPicture(const QString& reference)
+    /** \p target is read as it will be when the drawing is loaded: whatever follows the last "base64,". */
+    QString faultOfPicture(QStringView target)
     {
-        if (!reference.startsWith(QLatin1String("data:"))) {
-            return QStringLiteral("it refers to another file");
+        const QLatin1String marker("base64,");
+        const qsizetype at = target.lastIndexOf(marker);
+        if (!target.startsWith(u"data:") || at < 0) {
+            return refersElsewhere();
         }
-        const qsizetype comma = reference.indexOf(QLatin1Char(','));
-        QByteArray bytes = QByteArray::fromBase64(reference.mid(comma + 1).toLatin1());
-        QBuffer buffer(&bytes);
-        buffer.open(QIODevice::ReadOnly);
-        QImageReader reader(&buffer);
-        if (reader.format().startsWith("svg")) {
-            return QStringLiteral("it embeds another drawing");
+        const QByteArray bytes = QByteArray::fromBase64(target.sliced(at + marker.size()).toLatin1());
+        QString reason;
+        const PictureInfo info = rasterInfo(bytes, &reason);
+        if (info.kind == PictureKind::Unreadable) {
+            return QStringLiteral("a picture in it cannot be used: %1").arg(reason);
         }
-        const QSize size = reader.size();
-        m_pixels += size.isValid() ? qint64(size.width()) * size.height() : 0;
+        m_pixels += qint64(info.size.width()) * info.size.height();
         return m_pixels > MostEmbeddedPixels ? QStringLiteral("the pictures in it are too large") : QString();
     }
 
-    /** The elements that drawing \p index comes to, references followed; Endless when they lead in a circle. */
-    qint64 expandedCount(int index)
-    {
-        qint64& known = m_counts[index];
-        if (known != Unknown) {
-            return known == BeingCounted ? Endless : known;
-        }
-        known = BeingCounted;
-        qint64 count = 1;
-        QList<int> parts = m_nodes.at(index).children;
-        for (const QString& id : m_nodes.at(index).references) {
-            if (m_ids.contains(id)) {
-                parts.append(m_ids.value(id));
-            }
-        }
-        for (const int part : std::as_const(parts)) {
-            if (++m_depth > MostReferences) {
-                return m_counts[index] = Endless;
-            }
-            const qint64 below = expandedCount(part);
-            --m_depth;
-            if (below == Endless) {
-                return m_counts[index] = Endless;
-            }
-            // Beyond the limit the exact number does not matter.
-            count = qMin(count + below, MostElements + 1);
-        }
-        return m_counts[index] = count;
-    }
-
-    static constexpr int MostReferences = 2000; // that follow each other; keeps the recursion shallow
-
+    const QByteArray& m_svg;
     QXmlStreamReader m_xml;
-    QList<Node> m_nodes;
-    QHash<QString, int> m_ids;
-    QList<qint64> m_counts;
+    QList<Open> m_open;
+    DrawingElements m_elements;
+    StyleSheetCost m_styles;
     qint64 m_pixels = 0;
-    int m_depth = 0;
 };
 } // namespace
 
 bool isHarmlessDrawing(const QByteArray& svg, QString* reason)
 {
-    const QString fault =
-        svg.size() > LargestFile ? QStringLiteral("the file is larger than 16 MiB") : DrawingReader(svg).fault();
+    QString fault = faultOfText(svg);
+    if (fault.isEmpty()) {
+        fault = DrawingReader(svg).fault();
+    }
     if (reason) {
         *reason = fault;
     }

@@ -2,12 +2,9 @@
 
 #include "host/common/PaintHelper.h"
 #include "host/common/PictureCache.h"
-#include "host/common/PictureFile.h"
 
+#include <QtCore/QBuffer>
 #include <QtGui/QMovie>
-#include <QtSvg/QSvgRenderer>
-
-#include <utility>
 
 namespace Korvex::Meridane::Common {
 namespace {
@@ -19,45 +16,47 @@ bool fitsIntoCache(const PictureInfo& info)
     constexpr qint64 BytesAPixel = 4;
     return BytesAPixel * info.size.width() * info.size.height() * info.frames <= MostCachedBytes;
 }
+
+const std::shared_ptr<const PictureContent>& nothing()
+{
+    static const auto content = std::make_shared<const PictureContent>();
+    return content;
+}
 } // namespace
 
 Picture::Picture(QObject* parent)
     : QObject(parent)
+    , m_content(nothing())
 {}
 
-Picture::~Picture() = default;
+Picture::~Picture()
+{
+    endMovie();
+}
 
 void Picture::setFile(const QString& file)
 {
-    clear();
-    const PictureInfo info = file.isEmpty() ? PictureInfo() : pictureInfo(file);
-    switch (info.kind) {
-    case PictureKind::Unreadable:
-        break;
-    case PictureKind::Animation:
-        m_movie = std::make_unique<QMovie>(file);
-        m_movie->setCacheMode(fitsIntoCache(info) ? QMovie::CacheAll : QMovie::CacheNone);
-        connect(m_movie.get(), &QMovie::frameChanged, this, &Picture::changed);
-        if (!m_movie->jumpToFrame(0)) {
-            clear();
-        }
-        break;
-    case PictureKind::Drawing:
-        setDrawing(file);
-        return;
-    case PictureKind::Still:
-        m_still = PictureCache::still(file);
-        break;
-    }
-    Q_EMIT changed();
+    show(file.isEmpty() ? nothing() : PictureCache::content(file));
 }
 
 void Picture::setDrawing(const QString& file)
 {
-    clear();
-    m_drawing = std::make_unique<QSvgRenderer>(file);
-    m_drawingId = PictureCache::nextDrawingId();
-    Q_EMIT changed();
+    show(PictureCache::drawing(file));
+}
+
+bool Picture::isNull() const
+{
+    return m_content->info.kind == PictureKind::Unreadable;
+}
+
+bool Picture::holdsMovie() const
+{
+    return m_content->info.kind == PictureKind::Animation && m_frozen.isNull();
+}
+
+bool Picture::holdsDrawing() const
+{
+    return m_content->info.kind == PictureKind::Drawing;
 }
 
 bool Picture::isRunning() const
@@ -67,24 +66,31 @@ bool Picture::isRunning() const
 
 int Picture::frame() const
 {
-    return m_movie ? m_movie->currentFrameNumber() : 0;
+    return m_movie ? qMax(m_movie->currentFrameNumber(), 0) : 0;
 }
 
 void Picture::start()
 {
-    if (m_movie && m_movie->state() != QMovie::Running) {
-        m_movie->start();
+    if (!holdsMovie() || isRunning()) {
+        return;
     }
+    if (!m_movie) {
+        m_frames = std::make_unique<QBuffer>();
+        m_frames->setData(m_content->animation);
+        m_frames->open(QIODevice::ReadOnly);
+        m_movie = std::make_unique<QMovie>(m_frames.get());
+        m_movie->setCacheMode(fitsIntoCache(m_content->info) ? QMovie::CacheAll : QMovie::CacheNone);
+        connect(m_movie.get(), &QMovie::frameChanged, this, &Picture::changed);
+    }
+    m_movie->start();
 }
 
 void Picture::stop()
 {
-    if (!m_movie) {
-        return;
+    if (m_movie) {
+        endMovie();
+        Q_EMIT changed();
     }
-    m_movie->stop();
-    m_movie->jumpToFrame(0);
-    Q_EMIT changed();
 }
 
 void Picture::pause()
@@ -103,13 +109,11 @@ void Picture::resume()
 
 void Picture::freeze()
 {
-    if (!m_movie) {
+    if (!holdsMovie()) {
         return;
     }
-    const auto movie = std::exchange(m_movie, nullptr);
-    movie->disconnect(this);
-    movie->stop();
-    m_still = movie->currentImage();
+    m_frozen = m_movie ? m_movie->currentImage() : m_content->pixels;
+    endMovie();
     Q_EMIT changed();
 }
 
@@ -117,21 +121,28 @@ void Picture::paint(const QSizeF& size, QPainter* painter) const
 {
     if (m_movie) {
         PaintHelper::paintPicture(size, m_movie->currentImage(), true, painter);
-    } else if (m_drawing) {
-        PaintHelper::paintDrawing(size, m_drawing.get(), m_drawingId, painter);
+    } else if (m_content->drawing) {
+        PaintHelper::paintDrawing(size, m_content->drawing.get(), m_content->drawingId, painter);
     } else {
-        PaintHelper::paintPicture(size, m_still, false, painter);
+        PaintHelper::paintPicture(size, m_frozen.isNull() ? m_content->pixels : m_frozen, false, painter);
     }
 }
 
-void Picture::clear()
+void Picture::show(const std::shared_ptr<const PictureContent>& content)
+{
+    endMovie();
+    m_frozen = QImage();
+    m_content = content;
+    Q_EMIT changed();
+}
+
+void Picture::endMovie()
 {
     if (m_movie) {
         m_movie->disconnect(this);
         m_movie->stop();
-        m_movie.reset();
     }
-    m_drawing.reset();
-    m_still = QImage();
+    m_movie.reset();
+    m_frames.reset();
 }
 } // namespace Korvex::Meridane::Common

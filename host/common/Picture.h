@@ -8,17 +8,19 @@
 #include <memory>
 
 QT_BEGIN_NAMESPACE
+class QBuffer;
 class QMovie;
 class QPainter;
-class QSvgRenderer;
 QT_END_NAMESPACE
 
 namespace Korvex::Meridane::Common {
+struct PictureContent;
+
 /**
  * The picture in a file, ready to be painted: pixels, vectors, or an animation that can be played.
  *
- * What kind of picture a file holds is told by pictureInfo(). An animation stands on its first frame until it is started;
- * while it stands, it costs nothing.
+ * What kind of picture a file holds is told by pictureInfo(); its content is shared with all pictures of the same file. An
+ * animation stands on its first frame until it is started; while it stands it has neither a timer nor frames of its own.
  */
 class MERIDANE_COMMON_EXPORT Picture : public QObject
 {
@@ -28,20 +30,22 @@ public:
     explicit Picture(QObject* parent = nullptr);
     ~Picture() override;
 
-    /** Loads \p file. A file that cannot be shown leaves the picture empty; see isNull(). */
+    /** Loads \p file, anew also when it is the present one. A file that cannot be shown leaves the picture empty; see
+     *  isNull(). */
     void setFile(const QString& file);
-    /** Shows the drawing \p file, for instance one of the program's own, without asking whether it is harmless. */
+    /** Shows the drawing \p file, whatever it is called, for instance one of the program's own. */
     void setDrawing(const QString& file);
 
-    [[nodiscard]] bool isNull() const { return !m_movie && !m_drawing && m_still.isNull(); }
-    [[nodiscard]] bool holdsMovie() const { return m_movie != nullptr; }
-    [[nodiscard]] bool holdsDrawing() const { return m_drawing != nullptr; }
+    [[nodiscard]] bool isNull() const;
+    /** Whether the picture is an animation, playing or not. */
+    [[nodiscard]] bool holdsMovie() const;
+    [[nodiscard]] bool holdsDrawing() const;
     /** Whether the animation is being played. */
     [[nodiscard]] bool isRunning() const;
     /** The number of the frame that is shown, from 0; 0 without an animation. */
     [[nodiscard]] int frame() const;
 
-    /** Plays the animation unless it is being played. */
+    /** Plays the animation unless it is being played; goes on with one that is paused. */
     void start();
     /** Stops the animation and goes back to its first frame. */
     void stop();
@@ -58,11 +62,12 @@ Q_SIGNALS:
     void changed();
 
 private:
-    void clear();
+    void show(const std::shared_ptr<const PictureContent>& content);
+    void endMovie();
 
-    std::unique_ptr<QMovie> m_movie;
-    std::unique_ptr<QSvgRenderer> m_drawing;
-    quint64 m_drawingId = 0; // of PictureCache
-    QImage m_still;
+    std::shared_ptr<const PictureContent> m_content; // never null
+    QImage m_frozen;
+    std::unique_ptr<QBuffer> m_frames; // of the movie
+    std::unique_ptr<QMovie> m_movie; // while the animation plays or pauses
 };
 } // namespace Korvex::Meridane::Common
