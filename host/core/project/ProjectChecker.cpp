@@ -13,6 +13,7 @@
 #include "host/core/properties/LinkProperty.h"
 
 #include "host/common/LocalizationHelper.h"
+#include "host/common/PictureCache.h"
 
 #include <QFontDatabase>
 #include <QGuiApplication>
@@ -173,6 +174,7 @@ void ProjectChecker::checkImageFile(const DesignerProperty& property)
     QString reason;
     switch (m_files->folder().find(file, &reason)) {
     case ProjectFolder::Found::File:
+        checkPicture(property, file);
         break;
     case ProjectFolder::Found::Nothing:
         report(Problem::Severity::Error, property,
@@ -184,6 +186,20 @@ void ProjectChecker::checkImageFile(const DesignerProperty& property)
         report(Problem::Severity::Error, property, file + QLatin1String(": ") + reason);
         break;
     }
+}
+
+/// Reports a picture that is shown nowhere. Reading some needs fonts.
+void ProjectChecker::checkPicture(const DesignerProperty& property, const QString& file)
+{
+    if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
+        return;
+    const auto picture = Common::PictureCache::content(m_files->folder().absolute(file));
+    if (picture->info.kind != Common::PictureKind::Unreadable)
+        return;
+    report(Problem::Severity::Error, property,
+           LocalizationHelper::coreString(
+               QStringLiteral("The image file \"%1\" cannot be shown (%2). Replace it, or link another image."))
+               .arg(file, LocalizationHelper::coreString(picture->reason)));
 }
 
 bool ProjectChecker::isOffScreen(const DesignerObject* object) const

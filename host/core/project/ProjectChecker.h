@@ -33,6 +33,7 @@ private:
     void checkProperty(const DesignerProperty& property);
     void checkFont(const DesignerProperty& property);
     void checkImageFile(const DesignerProperty& property);
+    void checkPicture(const DesignerProperty& property, const QString& file);
     [[nodiscard]] bool isOffScreen(const DesignerObject* object) const;
     void report(Problem::Severity severity, const DesignerProperty& property, const QString& message);
 

@@ -3,6 +3,7 @@
 #include "host/core/objects/DesignerObject.h"
 #include "host/core/objects/IdRegistry.h"
 #include "host/core/project/Project.h"
+#include "host/core/project/ProjectFolder.h"
 #include "host/core/values/ValueConversion.h"
 
 #include "host/common/LocalizationHelper.h"
@@ -47,8 +48,14 @@ bool LinkProperty::validateObjectValue(QString& message) const
     if (!isConverted() || target.isEmpty() || !project)
         return true;
     const QStringList& filter = value().filterType();
-    if (filter.contains(QLatin1String("ImageResource")) && project->imageResources().contains(target))
-        return true;
+    if (filter.contains(QLatin1String("ImageResource")) && project->imageResources().contains(target)) {
+        // It need not exist; but what stands there must be a file of the project.
+        const QString file = ProjectFolder::imageFile(target);
+        if (ProjectFolder(project->folder()).find(file, &message) != ProjectFolder::Found::Refused)
+            return true;
+        message = file + QLatin1String(": ") + message;
+        return false;
+    }
     const DesignerObject* object = linkedObject();
     if (object && (filter.isEmpty() || filter.contains(object->idInfo().filterType())))
         return true;
