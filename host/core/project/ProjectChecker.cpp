@@ -154,7 +154,7 @@ void ProjectChecker::checkFont(const DesignerProperty& property)
     if (!font || !qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
         return;
     const QString family = font->value().family();
-    if (QFontDatabase::hasFamily(family) || !m_files->fonts().filesOf(family).isEmpty())
+    if (isKnown(family))
         return;
     report(
         Problem::Severity::Warning, property,
@@ -163,6 +163,16 @@ void ProjectChecker::checkFont(const DesignerProperty& property)
                 "The font \"%1\" is neither in the project's fonts folder nor installed here; another one is shown in "
                 "its place. Add its file to the project, or choose another font."))
             .arg(family));
+}
+
+/// The system takes its time to look for a family, and a project has few of them.
+bool ProjectChecker::isKnown(const QString& family)
+{
+    auto known = m_families.constFind(family);
+    if (known == m_families.cend())
+        known =
+            m_families.insert(family, QFontDatabase::hasFamily(family) || !m_files->fonts().filesOf(family).isEmpty());
+    return *known;
 }
 
 void ProjectChecker::checkImageFile(const DesignerProperty& property)

@@ -2,6 +2,8 @@
 
 #include "host/core/project/Problem.h"
 
+#include <QHash>
+
 namespace Korvex::Meridane::Designer {
 
 class DesignerObject;
@@ -32,6 +34,7 @@ private:
     void checkElement(const DesignerObject* object, bool mayBeOffScreen);
     void checkProperty(const DesignerProperty& property);
     void checkFont(const DesignerProperty& property);
+    [[nodiscard]] bool isKnown(const QString& family);
     void checkImageFile(const DesignerProperty& property);
     void checkPicture(const DesignerProperty& property, const QString& file);
     [[nodiscard]] bool isOffScreen(const DesignerObject* object) const;
@@ -41,6 +44,7 @@ private:
     ProjectFiles* m_files;
     const Screen* m_screen = nullptr;
     QString m_file; // that is being checked
+    QHash<QString, bool> m_families; // whether texts find them
     QList<Problem> m_problems;
 };
 
