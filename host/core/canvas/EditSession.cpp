@@ -47,8 +47,8 @@ EditSession::EditSession(std::unique_ptr<Project> project, QObject* parent)
     connect(undoStack(), &UndoStack::stepApplied, this, &EditSession::onStepApplied);
     connect(m_project.get(), &Project::objectRemoved, this, &EditSession::onObjectRemoved);
     connect(m_project.get(), &Project::userModificationRefused, this, &EditSession::editRefused);
-    if (qGuiApp)
-        connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, this, &EditSession::repaintScenes);
+    if (auto* application = qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
+        connect(application, &QGuiApplication::fontDatabaseChanged, this, &EditSession::repaintScenes);
     const QVector<Screen*> screens = m_project->screens();
     if (!screens.isEmpty())
         m_currentScreen = screens.first();
