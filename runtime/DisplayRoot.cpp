@@ -124,7 +124,7 @@ QQuickItem* DisplayRoot::loadScreen(const QString& name)
     if (!context) {
         return nullptr;
     }
-    if (!isFileName(name)) {
+    if (!isFileName(name) || name.startsWith(QLatin1Char('.'))) {
         qmlWarning(this) << '"' << name << "\" is no name of a screen";
         return nullptr;
     }
