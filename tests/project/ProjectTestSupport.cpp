@@ -76,8 +76,8 @@ bool AllTypesElement::initializeProperties()
     const auto longText = [](const DesignerProperty* property) {
         return property->valueString().size() > 40 ? QStringLiteral("Is the text not too long?") : QString();
     };
-    declare(PropertyDeclaration<StringProperty>(this, QLatin1String("text"), label("Text"), QString())
-                .advisor(longText));
+    declare(
+        PropertyDeclaration<StringProperty>(this, QLatin1String("text"), label("Text"), QString()).advisor(longText));
     declare(PropertyDeclaration<FontProperty>(this, QLatin1String("font"), label("Font"), font));
     declare(PropertyDeclaration<PointProperty>(this, QLatin1String("point"), label("Point"), QPointF(0, 0))
                 .flags(Stored | Shown));
