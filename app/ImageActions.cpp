@@ -143,7 +143,7 @@ void ImageActions::reportRefused(const QStringList& refused)
 
 QString ImageActions::startFolder() const
 {
-    const QString known = AppSettings().value(FolderKey).toString();
+    QString known = AppSettings().value(FolderKey).toString();
     if (!known.isEmpty() && QDir(known).exists())
         return known;
     const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);

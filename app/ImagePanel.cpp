@@ -137,7 +137,7 @@ QWidget* ImagePanel::makeToolRow()
     return row;
 }
 
-QWidget* ImagePanel::makeInvitation()
+QWidget* ImagePanel::makeInvitation() const
 {
     auto* page = new QWidget;
     auto* text = new QLabel(coreText("No images yet. Drop image files here or on the screen, or import them."));

@@ -66,7 +66,7 @@ protected:
 private:
     QAction* make(const char* icon, const char* text, const char* hint, void (ImagePanel::*run)());
     [[nodiscard]] QWidget* makeToolRow();
-    [[nodiscard]] QWidget* makeInvitation();
+    [[nodiscard]] QWidget* makeInvitation() const;
     void place();
     void replace();
     void rename();

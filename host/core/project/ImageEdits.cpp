@@ -59,7 +59,7 @@ QString places(const QList<ImageUse>& uses)
 {
     QStringList names;
     for (const ImageUse& use : uses) {
-        const QString object = ObjectTree::name(use.object);
+        const QString object = use.object ? ObjectTree::name(use.object) : QString();
         const QString name = object.isEmpty() ? ProjectFolder::projectFile() : object;
         if (!names.contains(name))
             names.append(name);

@@ -50,7 +50,7 @@ QByteArray ImageFormats::formatOf(const QByteArray& content)
         return {};
     QImageReader reader(&buffer);
     reader.setDecideFormatFromContent(true);
-    const QByteArray format = reader.format().toLower();
+    QByteArray format = reader.format().toLower();
     // Readers that serve several endings call the format by one of them.
     for (const Format& known : formats()) {
         if (known.suffixes.contains(QString::fromLatin1(format)))

@@ -18,11 +18,11 @@ void collectTexts(const QJsonValue& value, QSet<QString>& texts)
         texts.insert(value.toString());
     } else if (value.isArray()) {
         const QJsonArray list = value.toArray();
-        for (const QJsonValue& item : list)
+        for (const QJsonValue item : list)
             collectTexts(item, texts);
     } else if (value.isObject()) {
         const QJsonObject object = value.toObject();
-        for (const QJsonValue& item : object)
+        for (const QJsonValue item : object)
             collectTexts(item, texts);
     }
 }

@@ -56,7 +56,7 @@ QString faultOf(const ImageContent& image)
 /// Offers \a image under a free name made of \a base and \a suffix; empty with a message when it cannot be written.
 QString add(Project* project, const ImageContent& image, const QString& base, const QString& suffix, QString* message)
 {
-    const QString name = ImageNames::freeName(*project, base, suffix);
+    QString name = ImageNames::freeName(*project, base, suffix);
     if (!ProjectFiles::of(project)->writeImage(name, image.bytes, message))
         return {};
     project->setImageResources(QStringList(project->imageResources()) << name);
