@@ -20,7 +20,6 @@
 #include <QMap>
 #include <QPointer>
 #include <QScrollArea>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -48,24 +47,36 @@ bool isSame(const QGradientStop& one, const QGradientStop& other)
     return !(one.first < other.first) && !(other.first < one.first) && one.second == other.second;
 }
 
-/// Holds a layout still while rows come and go: otherwise the whole window would be laid out anew for each of them.
-class LayoutPause
+/// Holds the layout of \a list still while rows come and go, and gives it its new size and order in one go afterwards:
+/// first the widgets around it make room, then the rows take their places. Left to itself, the window would be laid out
+/// anew for each row, and the list painted too tight until the room is made.
+class RowChange
 {
 public:
-    explicit LayoutPause(QLayout* layout)
-        : m_layout(layout)
+    explicit RowChange(QWidget* list)
+        : m_list(list)
     {
-        m_layout->setEnabled(false);
+        m_list->layout()->setEnabled(false);
     }
-    ~LayoutPause()
+    ~RowChange()
     {
-        m_layout->setEnabled(true);
-        m_layout->update();
+        m_list->layout()->invalidate();
+        m_list->updateGeometry();
+        for (QWidget* around = m_list->parentWidget(); around && m_list->isVisible(); around = around->parentWidget()) {
+            if (QLayout* layout = around->layout())
+                layout->activate();
+            else
+                QCoreApplication::sendPostedEvents(around, QEvent::LayoutRequest); // as scroll areas need it
+            if (around->isWindow())
+                break;
+        }
+        m_list->layout()->setEnabled(true);
+        m_list->layout()->activate();
     }
-    Q_DISABLE_COPY_MOVE(LayoutPause)
+    Q_DISABLE_COPY_MOVE(RowChange)
 
 private:
-    QLayout* m_layout;
+    QWidget* m_list;
 };
 
 } // namespace
@@ -87,6 +98,8 @@ GradientStopsWidget::GradientStopsWidget(QWidget* parent)
     m_notice->setWordWrap(true);
     m_notice->hide();
 
+    // A list that grows paints only the row that is new.
+    setAttribute(Qt::WA_StaticContents);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(PartGap);
@@ -110,6 +123,7 @@ void GradientStopsWidget::setGradientStops(const QGradientStops& stops)
     if (stops.size() < FewestStops || stops.size() > MostStops
         || std::equal(stops.begin(), stops.end(), m_stops.begin(), m_stops.end(), isSame))
         return;
+    const RowChange change(this);
     setRowCount(stops.size());
     m_stops = stops;
     updateRows();
@@ -119,6 +133,7 @@ void GradientStopsWidget::setGradientStops(const QGradientStops& stops)
 
 void GradientStopsWidget::showNoStops(const QString& reason)
 {
+    const RowChange change(this);
     setRowCount(0);
     m_stops.clear();
     updateRows();
@@ -192,16 +207,19 @@ void GradientStopsWidget::onRemoveGradientStop()
     m_stops.remove(index);
     const QWidget* focused = QApplication::focusWidget();
     const bool hadFocus = focused && row->isAncestorOf(focused);
-    updateRows();
-    if (hadFocus) {
-        // It stays in the list, among the buttons as long as there are any.
-        const GradientStopWidget* next = m_rows.at(std::min(index, m_rows.size() - 1));
-        if (next->isButtonVisible())
-            next->button()->setFocus();
-        else
-            next->positionField()->setFocus();
+    {
+        const RowChange change(this);
+        updateRows();
+        if (hadFocus) {
+            // It stays in the list, among the buttons as long as there are any.
+            const GradientStopWidget* next = m_rows.at(std::min(index, m_rows.size() - 1));
+            if (next->isButtonVisible())
+                next->button()->setFocus();
+            else
+                next->positionField()->setFocus();
+        }
+        dropRow(row);
     }
-    dropRow(row);
     Q_EMIT userModified();
 }
 
@@ -221,14 +239,13 @@ void GradientStopsWidget::onAddGradientStop()
     }
     m_stops.append(stop);
     {
-        const LayoutPause pause(layout());
+        const RowChange change(this);
         appendRow();
         if (m_rows.size() >= MostStops && m_addRow->button()->hasFocus())
             m_addRow->positionField()->setFocus(); // the button goes
         sort();
     }
-    // Once the rows have their places.
-    QTimer::singleShot(0, this, &GradientStopsWidget::showAddRow);
+    showAddRow();
     Q_EMIT userModified();
 }
 
@@ -241,6 +258,7 @@ void GradientStopsWidget::appendRow()
     connect(row, &GradientStopWidget::requestRemove, this, &GradientStopsWidget::onRemoveGradientStop);
     m_rowLayout->addWidget(row);
     m_rows.append(row);
+    row->resize(0, 0); // until it has its place: what it lies over would be painted anew
     row->show();
     Q_EMIT rowAdded(row);
 }
@@ -256,9 +274,6 @@ void GradientStopsWidget::dropRow(GradientStopWidget* row)
 
 void GradientStopsWidget::setRowCount(qsizetype count)
 {
-    if (count == m_rows.size())
-        return;
-    const LayoutPause pause(layout());
     while (m_rows.size() > count)
         dropRow(m_rows.takeLast());
     while (m_rows.size() < count)

@@ -244,6 +244,37 @@ private Q_SLOTS:
         }
     }
 
+    void theScreenShowsWhatTheSheetPaints()
+    {
+        DesignerObject* gradient = m_sheet->addAndSelect(Three);
+        const auto isUpToDate = [this] {
+            const QImage painted = m_sheet->sheet->grab().toImage().convertToFormat(QImage::Format_RGB32);
+            const QPixmap screen = m_sheet->sheet->screen()->grabWindow(m_sheet->sheet->winId());
+            return screen.size() == painted.size() && screen.toImage().convertToFormat(QImage::Format_RGB32) == painted;
+        };
+        m_sheet->idField()->clearFocus(); // no cursor that blinks
+        QTRY_VERIFY(isUpToDate());
+        m_sheet->addButton()->click();
+        QTRY_VERIFY(isUpToDate());
+        m_sheet->removeButton(1)->click();
+        QTRY_VERIFY(isUpToDate());
+        m_sheet->set(gradient, qPrintable(stopsAtEachPercent(40)));
+        QTRY_VERIFY(isUpToDate());
+        m_sheet->sheet->resize(400, 700);
+        QTRY_VERIFY(isUpToDate());
+        m_sheet->sheet->ensureWidgetVisible(m_sheet->newPosition());
+        m_sheet->removeButton(35)->click();
+        QTRY_VERIFY(isUpToDate());
+        m_sheet->sheet->resize(250, 300);
+        QTRY_VERIFY(isUpToDate());
+        m_sheet->session->undo();
+        m_sheet->session->undo();
+        m_sheet->session->undo();
+        QTRY_VERIFY(isUpToDate());
+        m_sheet->select({});
+        QTRY_VERIFY(isUpToDate());
+    }
+
     void theRowsStandInLineWithTheSheet()
     {
         m_sheet->addAndSelect(Three);

@@ -46,7 +46,10 @@ EditResult executeDetached(UndoCommand& command)
 
 PropertyEditor::PropertyEditor(QWidget* parent)
     : QWidget(parent)
-{}
+{
+    // It paints nothing itself: a new size leaves what its parts have painted as it is.
+    setAttribute(Qt::WA_StaticContents);
+}
 
 PropertyEditor::~PropertyEditor()
 {

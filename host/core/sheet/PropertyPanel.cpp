@@ -21,6 +21,7 @@ PropertyPanel::PropertyPanel(const QList<RowDescription>& descriptions, bool sev
     , m_descriptions(descriptions)
     , m_several(several)
 {
+    setAttribute(Qt::WA_StaticContents);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(SheetMetrics::RowGap);

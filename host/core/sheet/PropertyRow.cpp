@@ -27,6 +27,7 @@ PropertyRow::PropertyRow(const RowDescription& description, QWidget* parent)
     , m_editorBox(new QHBoxLayout)
 {
     setObjectName(QStringLiteral("row_") + description.propertyId);
+    setAttribute(Qt::WA_StaticContents);
     m_label->setTextFormat(Qt::PlainText);
     m_label->setWordWrap(true);
     m_label->setMinimumHeight(SheetMetrics::fieldHeight(this));

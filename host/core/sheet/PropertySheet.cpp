@@ -62,6 +62,8 @@ PropertySheet::PropertySheet(EditSession* session, QWidget* parent)
     m_column->addWidget(m_hint);
     m_column->addWidget(m_heading);
     m_column->addStretch(1);
+    // Here and in all that the sheet nests: a new size leaves what is painted already as it is.
+    m_content->setAttribute(Qt::WA_StaticContents);
     setWidget(m_content);
     colorHint();
 
