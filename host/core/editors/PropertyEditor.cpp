@@ -83,11 +83,15 @@ void PropertyEditor::setProperty(const QSharedPointer<DesignerProperty>& propert
 
 void PropertyEditor::setProperties(const QList<QSharedPointer<DesignerProperty>>& properties)
 {
+    const bool replaced = m_properties != properties;
     m_properties = properties;
     const QSharedPointer<DesignerProperty> property = properties.value(0);
     if (m_property == property) {
-        if (m_property)
-            m_property->setEditorWidget(this);
+        if (!m_property)
+            return;
+        m_property->setEditorWidget(this);
+        if (replaced)
+            propertyReplaced(); // other elements are edited together with the first
         return;
     }
     if (m_property && m_property->editorWidget() == this)
