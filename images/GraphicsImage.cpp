@@ -75,8 +75,8 @@ QVariant GraphicsImage::itemChange(GraphicsItemChange change, const QVariant& va
     if (change == ItemSelectedHasChanged)
         selectedChanged(value.toBool());
     else if (change == ItemEnabledHasChanged && !value.toBool())
-        m_updater->unload();
-    else if (change == ItemEnabledHasChanged)
+        m_updater->unload(); // a selected item has been deselected by Qt before, and stands on its first frame
+    else if (change == ItemEnabledHasChanged && value.toBool())
         reload(); // what was given up can be played again
     return QGraphicsItem::itemChange(change, value);
 }
