@@ -3,6 +3,7 @@
 #include "app/Appearance.h"
 
 #include "host/core/canvas/GraphicsItem.h"
+#include "host/core/canvas/GraphicsOutline.h"
 #include "host/core/commands/ChangeScopes.h"
 #include "host/core/objects/DesignerObject.h"
 
@@ -15,7 +16,14 @@ namespace Korvex::Meridane::Designer {
 
 namespace {
 
-/// Dots where an element has points to drag: they tell a free polygon from a regular one.
+/// The points that make up an element: they tell a free polygon from a regular one, and a path from a rectangle.
+QVector<QPointF> pointsOf(const GraphicsItem& item)
+{
+    if (const auto* outline = dynamic_cast<const GraphicsOutline*>(&item))
+        return outline->polygon();
+    return item.pointHandles();
+}
+
 void drawPoints(const QVector<QPointF>& points, double radius, QPainter* painter)
 {
     const QPolygonF onPixmap = painter->transform().map(QPolygonF(points));
@@ -121,7 +129,7 @@ QPixmap ElementIconEngine::drawn(const QSize& pixels, QIcon::Mode mode) const
             QStyleOptionGraphicsItem option;
             option.exposedRect = bounds;
             m_model->graphic->paint(&painter, &option, nullptr);
-            drawPoints(m_model->item->pointHandles(), qMin(card.width(), card.height()) / 18, &painter);
+            drawPoints(pointsOf(*m_model->item), qMin(card.width(), card.height()) / 18, &painter);
         }
     }
     m_model->pictures.insert(key, pixmap);

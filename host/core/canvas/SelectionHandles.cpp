@@ -182,7 +182,9 @@ void SelectionHandles::paint(QPainter* painter) const
     for (const GraphicsItem* item : shown) {
         const Marks shownMarks = marks(item, shown.size() == 1);
         painter->setRenderHint(QPainter::Antialiasing);
-        if (shownMarks.hasKnob) {
+        // A scripted drag also reaches a knob that is out of view; it need not be drawn.
+        const bool knobIsSeen = shownMarks.hasKnob && knobRect(shownMarks.knobFoot, shownMarks.knob).intersects(area());
+        if (knobIsSeen) {
             painter->setPen(QPen(Light, 3));
             painter->drawLine(shownMarks.knobFoot, shownMarks.knob);
             painter->setPen(QPen(Dark, 1));
@@ -197,7 +199,7 @@ void SelectionHandles::paint(QPainter* painter) const
             painter->setBrush(color);
             painter->drawEllipse(around(center, diameter));
         };
-        if (shownMarks.hasKnob)
+        if (knobIsSeen)
             drawDot(shownMarks.knob, KnobDiameter, Light);
         // Whole pixels without antialiasing: sharp at every zoom.
         painter->setRenderHint(QPainter::Antialiasing, false);
@@ -273,7 +275,7 @@ SelectionHandles::Marks SelectionHandles::marks(const GraphicsItem* item, bool a
         const QPointF up = toView.map(frame.topLeft()) - toView.map(frame.topLeft() + QPointF(0, 1));
         const double length = std::hypot(up.x(), up.y());
         marks.knob = marks.knobFoot + up * (length > 0 ? KnobDistance / length : 0);
-        marks.hasKnob = isWithin(area().adjusted(-KnobDistance, -KnobDistance, KnobDistance, KnobDistance), marks.knob);
+        marks.hasKnob = std::isfinite(marks.knob.x()) && std::isfinite(marks.knob.y());
     }
     return marks;
 }
