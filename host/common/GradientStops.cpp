@@ -10,6 +10,9 @@ QGradientStops drawableStops(const QGradientStops& stops)
             drawable.append(stop);
         }
     }
+    if (drawable.isEmpty()) {
+        drawable.append({0, QColor(0, 0, 0, 0)});
+    }
     return drawable;
 }
 } // namespace Korvex::Meridane::Common

@@ -109,10 +109,15 @@ public:
     /**
      * Fills @p polygon with a gradient whose start and final stop are percent (0 … 100) of the polygon's bounding
      * rectangle. Only the two points are mapped: the stripes stay at right angles to the line between them.
+     *
+     * Of this and the other gradients nothing is drawn when one of their numbers is not finite.
      */
     static void paintGradientItem(const QPolygonF& polygon, const QLinearGradient& gradient, QPainter* painter);
 
-    /** Fills @p polygon with a gradient whose centre, radius and focal point are pixels of the polygon's coordinates. */
+    /**
+     * Fills @p polygon with a gradient whose centre, radius and focal point are pixels of the polygon's coordinates. A
+     * radius that is not above 0 leaves the last colour to everything.
+     */
     static void paintGradientItem(const QPolygonF& polygon, const QRadialGradient& gradient, QPainter* painter);
 
     /**

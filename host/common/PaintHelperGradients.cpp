@@ -14,6 +14,9 @@ namespace {
  */
 constexpr double Farthest = 1e9;
 
+/** A circle without a radius has no colours; the smallest one leaves the last colour to everything. */
+constexpr double SmallestRadius = 0.001;
+
 double limited(double length)
 {
     return qBound(-Farthest, length, Farthest);
@@ -66,7 +69,8 @@ void PaintHelper::paintGradientItem(const QPolygonF& polygon, const QRadialGradi
         return;
     }
     // Only this constructor moves a focal point outside the circle onto it; the setters keep it where it is.
-    QRadialGradient adjusted(limited(gradient.center()), limited(gradient.radius()), limited(gradient.focalPoint()));
+    QRadialGradient adjusted(limited(gradient.center()), qBound(SmallestRadius, gradient.radius(), Farthest),
+                             limited(gradient.focalPoint()));
     adjusted.setStops(gradient.stops());
     adjusted.setSpread(gradient.spread());
     fillPolygon(polygon, adjusted, painter);

@@ -1,3 +1,4 @@
+#include "host/common/GradientStops.h"
 #include "host/common/PaintHelper.h"
 
 #include <QConicalGradient>
@@ -6,6 +7,11 @@
 #include <QPainter>
 #include <QRadialGradient>
 #include <QTest>
+
+#include <cmath>
+#include <limits>
+
+#include <rapidcheck.h>
 
 using namespace Korvex::Meridane::Common;
 
@@ -44,6 +50,10 @@ private Q_SLOTS:
     void conicalCentreIsPercentAndMayLieOutside();
     void conicalAngleIsClockwise();
     void onlyThePolygonIsFilled();
+    void whatIsFarAwayIsDrawnWithoutHarm();
+    void withoutARadiusEverythingHasTheLastColour();
+    void numbersThatAreNoneDrawNothing();
+    void onlyStopsWithinTheGradientAreDrawable();
 };
 
 void TestPaintHelperGradients::linearPointsArePercentOfTheBoundingRectangle()
@@ -131,6 +141,73 @@ void TestPaintHelperGradients::onlyThePolygonIsFilled()
     QCOMPARE(qAlpha(image.pixel(20, 20)), 255);
     QCOMPARE(qAlpha(image.pixel(200, 100)), 0);
     QCOMPARE(qAlpha(image.pixel(5, 5)), 0);
+}
+
+void TestPaintHelperGradients::whatIsFarAwayIsDrawnWithoutHarm()
+{
+    // From 1e38 on a radial gradient of the painter's own would read colours from anywhere.
+    const bool held = rc::check("far away", [] {
+        const auto number = [] {
+            const double size = *rc::gen::element(0.0, 1e-300, 1e-9, 1.0, 50.0, 1e6, 1e9, 1e18, 1e38, 1e154, 1e300);
+            return *rc::gen::element(-size, size);
+        };
+        const QPointF first(number(), number());
+        const QPointF second(number(), number());
+        const auto spread = static_cast<QGradient::Spread>(*rc::gen::inRange(0, 3));
+        QLinearGradient linear(first, second);
+        linear.setSpread(spread);
+        QRadialGradient radial(first, number(), second);
+        radial.setSpread(spread);
+        for (const QImage& image :
+             {painted(Wide, linear), painted(Wide, radial), painted(Wide, QConicalGradient(first, number()))}) {
+            RC_ASSERT(qAlpha(image.pixel(110, 60)) == 255);
+            RC_ASSERT(qAlpha(image.pixel(5, 5)) == 0);
+        }
+    });
+    QVERIFY(held);
+    // A circle far beyond the polygon is still the circle that it was.
+    const QImage image = painted(Wide, QRadialGradient(QPointF(60 - 1e6, 60), 1e6 + 40, QPointF(60 - 1e6, 60)));
+    QVERIFY(grey(image, 20, 60) > 200 && grey(image, 20, 60) <= grey(image, 200, 60));
+}
+
+void TestPaintHelperGradients::withoutARadiusEverythingHasTheLastColour()
+{
+    for (double radius : {0.0, -1.0, -1e300, 1e-300}) {
+        const QImage image = painted(Wide, QRadialGradient(QPointF(60.25, 60.25), radius, QPointF(100, 60)));
+        for (const QPoint& point : {QPoint(20, 20), QPoint(61, 61), QPoint(100, 60), QPoint(200, 100)}) {
+            QCOMPARE(grey(image, point.x(), point.y()), 255);
+        }
+    }
+}
+
+void TestPaintHelperGradients::numbersThatAreNoneDrawNothing()
+{
+    QImage blank(220, 120, QImage::Format_ARGB32_Premultiplied);
+    blank.fill(Qt::transparent);
+    for (double none : {std::nan(""), std::numeric_limits<double>::infinity()}) {
+        for (double number : {none, -none}) {
+            QCOMPARE(painted(Wide, QLinearGradient(number, 0, 100, 100)), blank);
+            QCOMPARE(painted(Wide, QLinearGradient(0, 0, 100, number)), blank);
+            QCOMPARE(painted(Wide, QRadialGradient(QPointF(60, number), 40, QPointF(60, 60))), blank);
+            QCOMPARE(painted(Wide, QRadialGradient(QPointF(60, 60), number, QPointF(60, 60))), blank);
+            QCOMPARE(painted(Wide, QRadialGradient(QPointF(60, 60), 40, QPointF(number, 60))), blank);
+            QCOMPARE(painted(Wide, QConicalGradient(number, 50, 0)), blank);
+            QCOMPARE(painted(Wide, QConicalGradient(50, 50, number)), blank);
+        }
+    }
+}
+
+void TestPaintHelperGradients::onlyStopsWithinTheGradientAreDrawable()
+{
+    const QGradientStops inside = {{1, Qt::red}, {0, Qt::blue}, {0.5, Qt::red}};
+    QCOMPARE(drawableStops(inside), inside);
+    QCOMPARE(drawableStops({{-1e-9, Qt::red}, {0, Qt::blue}, {1.000001, Qt::green}, {std::nan(""), Qt::red}}),
+             QGradientStops({{0, Qt::blue}}));
+    // Of no stops a gradient would make black and white.
+    QImage blank(220, 120, QImage::Format_ARGB32_Premultiplied);
+    blank.fill(Qt::transparent);
+    QCOMPARE(painted(Wide, QLinearGradient(0, 0, 100, 100), drawableStops({})), blank);
+    QCOMPARE(painted(Wide, QLinearGradient(0, 0, 100, 100), drawableStops({{-1, Qt::red}, {2, Qt::blue}})), blank);
 }
 
 QTEST_MAIN(TestPaintHelperGradients)
