@@ -1,11 +1,11 @@
 #include "runtime/GradientItem.h"
 
 #include "host/common/GradientStops.h"
+#include "runtime/PointList.h"
 
 #include <QtGui/QColor>
 #include <QtQml/QQmlInfo>
 
-#include <cmath>
 #include <optional>
 
 namespace Korvex::Meridane::Display {
@@ -15,13 +15,12 @@ std::optional<QGradientStops> toStops(const QVariantList& list)
     QGradientStops stops;
     for (const QVariant& entry : list) {
         const QVariantList pair = entry.toList();
-        bool ok = pair.size() == 2;
-        const double position = ok ? pair.at(0).toDouble(&ok) : 0;
+        const std::optional<double> position = pair.size() == 2 ? toNumber(pair.at(0)) : std::nullopt;
         const QColor color = pair.size() == 2 ? pair.at(1).value<QColor>() : QColor();
-        if (!ok || !std::isfinite(position) || !color.isValid()) {
+        if (!position || !color.isValid()) {
             return std::nullopt;
         }
-        stops.append({position, color});
+        stops.append({*position, color});
     }
     return stops;
 }

@@ -3,10 +3,9 @@
 #include <cmath>
 
 namespace Korvex::Meridane::Display {
-namespace {
-/** As QML does for a property of a number, nothing but a number is taken for one: no text and no truth value. */
 std::optional<double> toNumber(const QVariant& value)
 {
+    double number = 0;
     switch (value.typeId()) {
     case QMetaType::Double:
     case QMetaType::Float:
@@ -14,12 +13,13 @@ std::optional<double> toNumber(const QVariant& value)
     case QMetaType::UInt:
     case QMetaType::LongLong:
     case QMetaType::ULongLong:
-        return value.toDouble();
+        number = value.toDouble();
+        break;
     default:
         return std::nullopt;
     }
+    return std::isfinite(number) ? std::optional(number) : std::nullopt;
 }
-} // namespace
 
 std::optional<QPolygonF> toPolygon(const QVariantList& points)
 {
@@ -32,7 +32,7 @@ std::optional<QPolygonF> toPolygon(const QVariantList& points)
         }
         const std::optional<double> x = toNumber(pair.at(0));
         const std::optional<double> y = toNumber(pair.at(1));
-        if (!x || !y || !std::isfinite(*x) || !std::isfinite(*y)) {
+        if (!x || !y) {
             return std::nullopt;
         }
         polygon.append(QPointF(*x, *y));

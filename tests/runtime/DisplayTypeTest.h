@@ -33,7 +33,13 @@ struct DisplayType
     std::function<QRectF(const QQuickItem&)> content;
     /** What the item covers, in its coordinates, apart from a border; the content where there is none here. */
     std::function<QRectF(const QQuickItem&)> outline;
-    /** How many pixels may differ when the item is turned, beyond the rounding of translucent colours. */
+    /**
+     * How many pixels may differ by more than the rounding of translucent colours. The rasterizer rounds coordinates to
+     * 1/64 pixel; when a corner's coordinate lies on the limit, moving the shape by a whole number of pixels may turn the
+     * rounding. Seen once in tens of thousands of shapes.
+     */
+    int strayPixels = 4;
+    /** The same when the item is turned. */
     int strayPixelsWhenTurned = 4;
 };
 
