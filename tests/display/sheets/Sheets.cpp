@@ -3,5 +3,5 @@
 QList<Sheet> allSheets()
 {
     return rectangleSheets() + ellipseSheets() + polygonSheets() + lineSheets() + irregularPolygonSheets()
-           + textSheets();
+           + textSheets() + gradientSheets();
 }

@@ -11,5 +11,6 @@ QList<Sheet> polygonSheets();
 QList<Sheet> lineSheets();
 QList<Sheet> irregularPolygonSheets();
 QList<Sheet> textSheets();
+QList<Sheet> gradientSheets();
 
 QList<Sheet> allSheets();
