@@ -25,10 +25,11 @@ QSize devicePixels(const QSizeF& size, const QPainter& painter)
 
 void drawStretched(const QImage& picture, const QSizeF& size, QPainter* painter)
 {
-    const bool smooth = painter->testRenderHint(QPainter::SmoothPixmapTransform);
-    painter->setRenderHint(QPainter::SmoothPixmapTransform, true);
+    const QPainter::RenderHints hints = painter->renderHints();
+    // The second hint is for edges between pixels and of turned pictures.
+    painter->setRenderHints(QPainter::SmoothPixmapTransform | QPainter::Antialiasing);
     painter->drawImage(QRectF(QPointF(0, 0), size), picture, QRectF(picture.rect()));
-    painter->setRenderHint(QPainter::SmoothPixmapTransform, smooth);
+    painter->setRenderHints(hints ^ painter->renderHints(), false);
 }
 } // namespace
 

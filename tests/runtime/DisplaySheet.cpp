@@ -3,6 +3,7 @@
 #include "host/common/TransformOrigin.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
 #include <QtGui/QPainter>
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlEngine>
@@ -35,7 +36,8 @@ DisplaySheet::DisplaySheet(const QString& type)
     const QString file = QStringLiteral(
         "import Meridane.Display\n"
         "Screen { width: 300; height: 200; color: \"#e0f0ff\"; Group { objectName: \"group\"; %1 { objectName: \"item\" } } }\n");
-    component.setData(file.arg(type).toUtf8(), QUrl(QStringLiteral("sheet.qml")));
+    component.setData(file.arg(type).toUtf8(),
+                      QUrl::fromLocalFile(QDir::current().filePath(QStringLiteral("sheet.qml"))));
     QObject* root = component.create();
     if (!root) {
         qWarning("%s", qPrintable(component.errorString()));

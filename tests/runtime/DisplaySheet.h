@@ -13,7 +13,8 @@
 class DisplaySheet
 {
 public:
-    /** A screen of 300 × 200 with an item of @p type, for instance "Rectangle2". Fails the test when there is none. */
+    /** A screen of 300 × 200, a file in the current folder, with an item of @p type, for instance "Rectangle2". Fails the
+     *  test when there is none. */
     explicit DisplaySheet(const QString& type);
 
     [[nodiscard]] bool isValid() const;
