@@ -98,8 +98,8 @@ public:
                              const QString& textStyle, const QPen& stylePen, QPainter* painter, TextBoxLayout* layout);
 
     /**
-     * @p picture, stretched over a content of @p size. Still pictures are scaled smoothly, once for each size in device
-     * pixels; @p moving says that the picture is one frame of many, which is not worth keeping.
+     * @p picture, stretched over a content of @p size. It is scaled smoothly, once for each size in device pixels;
+     * @p moving says that it is one frame of many, and that what becomes of it is not worth keeping.
      */
     static void paintPicture(const QSizeF& size, const QImage& picture, bool moving, QPainter* painter);
 

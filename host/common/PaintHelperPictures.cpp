@@ -41,7 +41,7 @@ void PaintHelper::paintPicture(const QSizeF& size, const QImage& picture, bool m
     }
     // A picture that is enlarged is stretched while it is drawn; one that is reduced would lose its fine lines so.
     const bool reduced = pixels.width() < picture.width() || pixels.height() < picture.height();
-    drawStretched(reduced && !moving ? PictureCache::scaled(picture, pixels) : picture, size, painter);
+    drawStretched(reduced ? PictureCache::scaled(picture, pixels, moving) : picture, size, painter);
 }
 
 void PaintHelper::paintDrawing(const QSizeF& size, QSvgRenderer* drawing, quint64 id, QPainter* painter)

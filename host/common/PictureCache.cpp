@@ -145,17 +145,21 @@ QImage scaledPicture(const QString& key, Make make)
     return made;
 }
 
+QImage smoothlyScaled(const QImage& picture, const QSize& pixels)
+{
+    return picture.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
 /** \p picture halved as long as it stays twice as large as \p pixels: a step that is worth keeping for the next size. */
-QImage halved(const QImage& picture, const QSize& pixels)
+QImage halved(const QImage& picture, const QSize& pixels, bool passing)
 {
     QImage result = picture;
     int level = 0;
     while (result.width() >= 4 * pixels.width() && result.height() >= 4 * pixels.height()) {
         ++level;
+        const auto half = [&result] { return smoothlyScaled(result, result.size() / 2); };
         const QString key = QStringLiteral("%1 / %2").arg(picture.cacheKey()).arg(1 << level);
-        result = scaledPicture(key, [&result] {
-            return result.scaled(result.size() / 2, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        });
+        result = passing ? half() : scaledPicture(key, half);
     }
     return result;
 }
@@ -176,14 +180,14 @@ QImage PictureCache::still(const QString& file)
     return content(file)->pixels;
 }
 
-QImage PictureCache::scaled(const QImage& picture, const QSize& pixels)
+QImage PictureCache::scaled(const QImage& picture, const QSize& pixels, bool passing)
 {
     if (picture.isNull() || pixels.isEmpty() || picture.size() == pixels) {
         return picture;
     }
+    const auto scale = [&] { return smoothlyScaled(halved(picture, pixels, passing), pixels); };
     const QString key = QStringLiteral("%1 %2x%3").arg(picture.cacheKey()).arg(pixels.width()).arg(pixels.height());
-    return scaledPicture(
-        key, [&] { return halved(picture, pixels).scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation); });
+    return passing ? scale() : scaledPicture(key, scale);
 }
 
 QImage PictureCache::painted(QSvgRenderer* drawing, quint64 id, const QSize& pixels)

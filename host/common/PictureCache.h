@@ -25,8 +25,8 @@ public:
     /** The pixels of content(): null for a drawing and for what cannot be read. */
     [[nodiscard]] static QImage still(const QString& file);
 
-    /** \p picture scaled to \p pixels, smoothly. */
-    [[nodiscard]] static QImage scaled(const QImage& picture, const QSize& pixels);
+    /** \p picture scaled to \p pixels, smoothly. It is kept for the next time unless it is \p passing. */
+    [[nodiscard]] static QImage scaled(const QImage& picture, const QSize& pixels, bool passing = false);
 
     /** \p drawing, whose id in its content is \p id, painted on a transparent picture of \p pixels. */
     [[nodiscard]] static QImage painted(QSvgRenderer* drawing, quint64 id, const QSize& pixels);

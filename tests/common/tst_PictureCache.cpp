@@ -74,6 +74,7 @@ private Q_SLOTS:
     void pausingKeepsTheFrame();
     void freezingKeepsTheFrameForGood();
     void anAnimationEndsAfterItsLastLoop();
+    void aFrameLooksAsAPictureOfIts();
     void standingAnimationsNeedNeitherFilesNorTimers();
     void anotherFileReplacesTheAnimation();
 
@@ -410,6 +411,23 @@ void TestPictureCache::anAnimationEndsAfterItsLastLoop()
     picture.start();
     QVERIFY(picture.isRunning());
     QTRY_COMPARE(picture.frame(), 1);
+}
+
+void TestPictureCache::aFrameLooksAsAPictureOfIts()
+{
+    // The first frame, which stands still on the canvas and is the first one of many on the display.
+    Picture picture;
+    const QByteArray quarter = SamplePictures::gifQuarters({400, 300});
+    const QByteArray frame =
+        quarter.sliced(quarter.indexOf("\x21\xf9"), quarter.size() - quarter.indexOf("\x21\xf9") - 1);
+    picture.setFile(file("a.gif", quarter.chopped(1) + frame + ';'));
+    for (const QSizeF& size : {QSizeF(400, 300), QSizeF(37, 50), QSizeF(501, 20), QSizeF(1000, 800)}) {
+        const QImage standing = painted(picture, size);
+        picture.start();
+        QCOMPARE(picture.frame(), 0);
+        QCOMPARE(painted(picture, size), standing);
+        picture.stop();
+    }
 }
 
 void TestPictureCache::standingAnimationsNeedNeitherFilesNorTimers()
