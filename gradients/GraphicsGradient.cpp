@@ -23,7 +23,7 @@ QGradient::Spread spreadOf(const QString& name)
 } // namespace
 
 GraphicsGradient::GraphicsGradient(DesignerObject* dataObject, QGradient* gradient)
-    : GraphicsOutline(dataObject, QPolygonF(QRectF(QPointF(0, 0), DefaultOutlineSize)))
+    : GraphicsOutline(dataObject, QStringLiteral("points"), QPolygonF(QRectF(QPointF(0, 0), DefaultOutlineSize)))
     , m_gradient(gradient)
 {}
 

@@ -10,7 +10,7 @@
 namespace Korvex::Meridane::Designer {
 
 GraphicsPathItem::GraphicsPathItem(DesignerObject* dataObject)
-    : GraphicsOutline(dataObject, QPolygonF(QRectF(QPointF(0, 0), DefaultOutlineSize)))
+    : GraphicsOutline(dataObject, QStringLiteral("points"), QPolygonF(QRectF(QPointF(0, 0), DefaultOutlineSize)))
     , m_brush(QColor(248, 151, 29, 255))
 {}
 

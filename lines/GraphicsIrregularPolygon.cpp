@@ -3,13 +3,13 @@
 #include "host/core/canvas/CanvasNumbers.h"
 #include "host/core/objects/DesignerObject.h"
 #include "host/core/objects/ElementText.h"
-#include "host/core/properties/PointListProperty.h"
+#include "host/core/objects/OutlineReaction.h"
+#include "host/core/properties/DesignerProperty.h"
 #include "host/core/values/ValueConversion.h"
 
 #include "host/common/FrameResize.h"
 #include "host/common/PaintHelper.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace Korvex::Meridane::Designer {
@@ -20,23 +20,10 @@ namespace {
 
 constexpr double DotDiameter = 10;
 
-double factor(double before, double after)
-{
-    return before > 0 ? after / before : 1;
-}
-
-/// Qt takes points for equal that differ in the last digits; their value strings differ.
-bool same(const QPolygonF& a, const QPolygonF& b)
-{
-    return std::equal(a.cbegin(), a.cend(), b.cbegin(), b.cend(), [](const QPointF& one, const QPointF& other) {
-        return one.x() == other.x() && one.y() == other.y();
-    });
-}
-
 } // namespace
 
 GraphicsIrregularPolygon::GraphicsIrregularPolygon(DesignerObject* dataObject)
-    : GraphicsItem(dataObject, this)
+    : GraphicsOutline(dataObject, QStringLiteral("pointList"), QPolygonF())
     , m_brush(QColor(248, 151, 29, 255))
 {}
 
@@ -44,24 +31,18 @@ GraphicsIrregularPolygon::~GraphicsIrregularPolygon() = default;
 
 QRectF GraphicsIrregularPolygon::boundingRect() const
 {
-    return m_bounds;
+    if (m_highlightedPoint < 0 || m_highlightedPoint >= polygon().size())
+        return outerRect();
+    const QPointF reach(0.5 * DotDiameter, 0.5 * DotDiameter);
+    const QPointF point = polygon().at(m_highlightedPoint);
+    return outerRect() | QRectF(point - reach, point + reach);
 }
 
-QPainterPath GraphicsIrregularPolygon::shape() const
+void GraphicsIrregularPolygon::paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget)
 {
-    QPainterPath path;
-    path.addPolygon(m_polygon);
-    path.closeSubpath();
-    return path;
-}
-
-void GraphicsIrregularPolygon::paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget*)
-{
-    PaintHelper::paintIrregularPolygon(m_polygon, m_brush, painter);
-    refreshToolTip();
-    PaintHelper::paintHighlightSelected(outerRect(), painter, option);
+    GraphicsOutline::paint(painter, option, widget);
     if (m_highlightedPoint >= 0) {
-        PaintHelper::paintDot(m_polygon.at(m_highlightedPoint), DotDiameter,
+        PaintHelper::paintDot(polygon().at(m_highlightedPoint), DotDiameter,
                               PaintHelper::contrastColor(m_brush.color()), painter);
     }
 }
@@ -71,42 +52,23 @@ QString GraphicsIrregularPolygon::className() const
     return QStringLiteral("GraphicsIrregularPolygon");
 }
 
-QPainterPath GraphicsIrregularPolygon::getShape() const
-{
-    return rotatedShape(shape());
-}
-
 void GraphicsIrregularPolygon::updateGraphicsItem(const QSharedPointer<DesignerProperty>& property)
 {
-    GraphicsItem::updateGraphicsItem(property);
     if (!property)
         return;
+    // Unlike that of a path, an outer size that was typed is answered with what the points then take up.
+    if (property->id() == QLatin1String("boundingSize"))
+        GraphicsItem::updateGraphicsItem(property);
+    else
+        GraphicsOutline::updateGraphicsItem(property);
+    if (property->id() != QLatin1String("color"))
+        return;
     bool ok = false;
-    if (property->id() == QLatin1String("color")) {
-        const QColor color = ValueConversion::toColor(property->valueString(), &ok);
-        if (ok && color != m_brush.color()) {
-            m_brush.setColor(color);
-            update();
-        }
-    } else if (property->id() == QLatin1String("pointList")) {
-        const QPolygonF polygon = ValueConversion::toPolygon(property->valueString(), &ok);
-        if (ok)
-            setPolygon(polygon);
+    const QColor color = ValueConversion::toColor(property->valueString(), &ok);
+    if (ok && color != m_brush.color()) {
+        m_brush.setColor(color);
+        update();
     }
-}
-
-UndoCommand* GraphicsIrregularPolygon::updateDataObject(const QSharedPointer<DesignerProperty>& property,
-                                                        UndoCommand* parent)
-{
-    if (UndoCommand* command = GraphicsItem::updateDataObject(property, parent))
-        return command;
-    if (!property || property->id() != QLatin1String("pointList"))
-        return nullptr;
-    // Long lists take their time to be written; in most gestures nothing has changed.
-    const auto* list = dynamic_cast<const PointListProperty*>(property.data());
-    if (list && list->isConverted() && same(list->value(), m_polygon))
-        return nullptr;
-    return writeBack(property, ValueConversion::toString(m_polygon), parent);
 }
 
 int GraphicsIrregularPolygon::getResizePointHandle(const QPointF& scenePos, bool* handled)
@@ -116,10 +78,10 @@ int GraphicsIrregularPolygon::getResizePointHandle(const QPointF& scenePos, bool
     if (hasPointHandles()) {
         const QPointF mouse = mapToParent(mapFromScene(scenePos));
         const double reach = detectionWidth();
-        for (const QPointF& point : m_polygon) {
+        for (const QPointF& point : polygon()) {
             if ((mapToParent(point) - mouse).manhattanLength() > reach)
                 continue;
-            const int index = int(m_polygon.indexOf(point));
+            const int index = int(polygon().indexOf(point));
             if (isSelected())
                 setHandleToolTip(elementText("Drag this point (#%1) to reshape").arg(index + 1));
             return index;
@@ -132,15 +94,15 @@ int GraphicsIrregularPolygon::getResizePointHandle(const QPointF& scenePos, bool
 void GraphicsIrregularPolygon::resizeByMouse(int handle, const QPointF& scenePos)
 {
     constexpr double SamePlace = 1e-12;
-    if (handle < 0 || handle >= m_polygon.size())
+    if (handle < 0 || handle >= polygon().size())
         return;
     const QPointF mouse = mapFromScene(scenePos);
-    const QPointF way = mapToParent(mouse) - mapToParent(m_polygon.at(handle));
+    const QPointF way = mapToParent(mouse) - mapToParent(polygon().at(handle));
     if (std::abs(way.x()) <= SamePlace && std::abs(way.y()) <= SamePlace)
         return;
-    QPolygonF polygon = m_polygon;
-    polygon[handle] = withoutNoise(mouse);
-    setPolygon(polygon);
+    QPolygonF reshaped = polygon();
+    reshaped[handle] = withoutNoise(mouse);
+    setPolygon(reshaped);
 }
 
 void GraphicsIrregularPolygon::resizeGraphicsItem(int handle, const QSizeF& outerSize, const QPointF&)
@@ -150,18 +112,8 @@ void GraphicsIrregularPolygon::resizeGraphicsItem(int handle, const QSizeF& oute
     const QSizeF wanted = frameChange(handle, outerSize).outerSize;
     if (!std::isfinite(wanted.width()) || !std::isfinite(wanted.height()))
         return; // an absurd ratio leads there
-    const QPolygonF unscaled = m_unscaled;
-    QPolygonF polygon = scaled(unscaled, unscaled.boundingRect().size(), wanted);
-    // A dimension that does not change keeps its very coordinates.
-    for (qsizetype i = 0; i < polygon.size(); ++i) {
-        if (wanted.width() == m_outer.width())
-            polygon[i].setX(m_polygon.at(i).x());
-        if (wanted.height() == m_outer.height())
-            polygon[i].setY(m_polygon.at(i).y());
-    }
-    setItemPosition(positionKeepingOpposite(handle, polygon.boundingRect()));
-    setPolygon(polygon);
-    m_unscaled = unscaled;
+    const QPolygonF& unscaled = unscaledPolygon();
+    setScaledPolygon(handle, scaled(unscaled, unscaled.boundingRect().size(), wanted));
 }
 
 void GraphicsIrregularPolygon::updateResizedDataObjects(int handle, UndoCommand* parent)
@@ -175,76 +127,43 @@ void GraphicsIrregularPolygon::updateResizedDataObjects(int handle, UndoCommand*
     if (!reshaped || !(keptRatio() > 0))
         return;
     // A flat polygon has no ratio that could be kept.
-    const double ratio = m_outer.width() / m_outer.height();
+    const double ratio = outerRect().width() / outerRect().height();
     if (ratio > 0 && std::isfinite(ratio)) {
         const auto keepRatio = object->getProperty(QStringLiteral("keepRatio"));
         static_cast<void>(writeBack(keepRatio, ValueConversion::toString(ratio), parent));
     }
 }
 
-QRectF GraphicsIrregularPolygon::outerRect() const
-{
-    return m_outer;
-}
-
-QRectF GraphicsIrregularPolygon::contentRect() const
-{
-    return m_outer;
-}
-
 QVector<QPointF> GraphicsIrregularPolygon::pointHandles() const
 {
-    return hasPointHandles() ? m_polygon : QPolygonF();
+    return hasPointHandles() ? polygon() : QPolygonF();
 }
 
 void GraphicsIrregularPolygon::setHighlightedPoint(int index)
 {
-    if (index < -1 || index >= m_polygon.size() || index == m_highlightedPoint)
+    if (index < -1 || index >= polygon().size() || index == m_highlightedPoint)
         return;
+    prepareGeometryChange();
     m_highlightedPoint = index;
-    refreshBounds();
+    update();
 }
 
 QPolygonF GraphicsIrregularPolygon::scaled(const QPolygonF& polygon, const QSizeF& before, const QSizeF& after)
 {
-    const double fx = factor(before.width(), after.width());
-    const double fy = factor(before.height(), after.height());
-    if ((fx == 1 && fy == 1) || !(fx > 0 && fy > 0))
-        return polygon;
-    QPolygonF result = polygon;
-    for (QPointF& point : result) {
-        // What is not scaled keeps its very numbers.
-        point = {fx == 1 ? point.x() : withoutNoise(fx * point.x()),
-                 fy == 1 ? point.y() : withoutNoise(fy * point.y())};
-        if (!std::isfinite(point.x()) || !std::isfinite(point.y()))
-            return polygon;
-    }
-    return result;
+    const auto factors = outlineFactors(before, after, 0);
+    return factors ? scaledOutline(polygon, *factors).value_or(polygon) : polygon;
+}
+
+void GraphicsIrregularPolygon::paintOutline(QPainter* painter)
+{
+    PaintHelper::paintIrregularPolygon(polygon(), m_brush, painter);
 }
 
 void GraphicsIrregularPolygon::setPolygon(const QPolygonF& polygon)
 {
-    if (same(polygon, m_polygon))
-        return;
-    m_polygon = polygon;
-    m_unscaled = polygon;
-    if (m_highlightedPoint >= m_polygon.size())
+    GraphicsOutline::setPolygon(polygon);
+    if (m_highlightedPoint >= polygon.size())
         m_highlightedPoint = -1;
-    refreshBounds();
-    reportOuterSize();
-}
-
-void GraphicsIrregularPolygon::refreshBounds()
-{
-    prepareGeometryChange();
-    m_outer = m_polygon.boundingRect();
-    m_bounds = m_outer;
-    if (m_highlightedPoint >= 0) {
-        const QPointF reach(0.5 * DotDiameter, 0.5 * DotDiameter);
-        const QPointF point = m_polygon.at(m_highlightedPoint);
-        m_bounds |= QRectF(point - reach, point + reach);
-    }
-    update();
 }
 
 /// Points can be dragged unless the item is rotated or too small on the screen.

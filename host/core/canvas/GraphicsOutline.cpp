@@ -41,8 +41,9 @@ double smallestHeight(double ratio)
 
 } // namespace
 
-GraphicsOutline::GraphicsOutline(DesignerObject* dataObject, const QPolygonF& polygon)
+GraphicsOutline::GraphicsOutline(DesignerObject* dataObject, const QString& pointsId, const QPolygonF& polygon)
     : GraphicsItem(dataObject, this)
+    , m_pointsId(pointsId)
     , m_polygon(polygon)
     , m_unscaled(polygon)
     , m_bounds(polygon.boundingRect())
@@ -81,21 +82,21 @@ void GraphicsOutline::updateGraphicsItem(const QSharedPointer<DesignerProperty>&
     if (!property || property->id() == QLatin1String("boundingSize"))
         return;
     GraphicsItem::updateGraphicsItem(property);
-    if (property->id() != QLatin1String("points"))
+    if (property->id() != m_pointsId)
         return;
     bool ok = false;
     const QPolygonF polygon = ValueConversion::toPolygon(property->valueString(), &ok);
     if (!ok)
         return;
-    m_unscaled = polygon;
     setPolygon(polygon);
+    m_unscaled = polygon;
 }
 
 UndoCommand* GraphicsOutline::updateDataObject(const QSharedPointer<DesignerProperty>& property, UndoCommand* parent)
 {
     if (UndoCommand* command = GraphicsItem::updateDataObject(property, parent))
         return command;
-    if (!property || property->id() != QLatin1String("points"))
+    if (!property || property->id() != m_pointsId)
         return nullptr;
     // Long lists take their time to be written; in most gestures nothing has changed.
     const auto* points = dynamic_cast<const PointListProperty*>(property.data());
@@ -108,8 +109,6 @@ void GraphicsOutline::resizeGraphicsItem(int handle, const QSizeF& outerSize, co
 {
     if (!Common::isFrameHandle(handle))
         return;
-    // Always from the element's own points: whatever the way of the mouse, the outline is what that outer size would make
-    // of it, and however small it gets in between, nothing is lost.
     const QSizeF before = m_unscaled.boundingRect().size();
     const double ratio = keptRatio();
     QSizeF wanted = before;
@@ -126,9 +125,7 @@ void GraphicsOutline::resizeGraphicsItem(int handle, const QSizeF& outerSize, co
         wanted.setHeight(draggedLength(before.height(), wanted.height(), smallestHeight(ratio)));
     const auto factors = outlineFactors(before, wanted, ratio);
     const auto scaled = factors ? scaledOutline(m_unscaled, *factors) : std::nullopt;
-    const QPolygonF polygon = scaled.value_or(m_unscaled);
-    setItemPosition(positionKeepingOpposite(handle, polygon.boundingRect()));
-    setPolygon(polygon);
+    setScaledPolygon(handle, scaled.value_or(m_unscaled));
 }
 
 QRectF GraphicsOutline::outerRect() const
@@ -147,12 +144,21 @@ void GraphicsOutline::setPolygon(const QPolygonF& polygon)
         return;
     prepareGeometryChange();
     m_polygon = polygon;
+    m_unscaled = polygon;
     m_bounds = polygon.boundingRect();
     update();
     if (m_keepsOuterSize)
         outlineChanged();
     else
         reportOuterSize();
+}
+
+void GraphicsOutline::setScaledPolygon(int handle, const QPolygonF& polygon)
+{
+    const QPolygonF unscaled = m_unscaled;
+    setItemPosition(positionKeepingOpposite(handle, polygon.boundingRect()));
+    setPolygon(polygon);
+    m_unscaled = unscaled;
 }
 
 } // namespace Korvex::Meridane::Designer

@@ -10,7 +10,8 @@ namespace Korvex::Meridane::Designer {
 /**
  * Base of the canvas items whose outline is a list of points: filled, without a border, scaled by its frame handles.
  *
- * A derived item says how the outline is filled and takes its other properties over.
+ * A derived item says how the outline is filled and takes its other properties over. An outer size that is typed is not
+ * reported back, because the elements of paths and gradients leave it as it was written.
  */
 class MERIDANE_CORE_EXPORT GraphicsOutline : public QGraphicsItem, public GraphicsItem
 {
@@ -36,16 +37,25 @@ public:
     void setKeepsOuterSize(bool keeps) { m_keepsOuterSize = keeps; }
 
 protected:
-    GraphicsOutline(DesignerObject* dataObject, const QPolygonF& polygon);
+    /// \a pointsId names the property of \a dataObject that holds the outline; \a polygon is that of a new element.
+    GraphicsOutline(DesignerObject* dataObject, const QString& pointsId, const QPolygonF& polygon);
 
     /// Draws the outline, in item coordinates.
     virtual void paintOutline(QPainter* painter) = 0;
+    /// Shows \a polygon and reports its outer size. Points that differ in their last digits are others.
+    virtual void setPolygon(const QPolygonF& polygon);
+
+    /// What drags of the frame scale: the element's points. Whatever the way of the mouse, the outline is what the outer
+    /// size makes of them, and however small it gets in between, nothing is lost.
+    [[nodiscard]] const QPolygonF& unscaledPolygon() const { return m_unscaled; }
+    /// For resizeGraphicsItem(): shows \a polygon, which was scaled from unscaledPolygon(), with the side or corner
+    /// opposite \a handle in place.
+    void setScaledPolygon(int handle, const QPolygonF& polygon);
 
 private:
-    void setPolygon(const QPolygonF& polygon);
-
+    QString m_pointsId;
     QPolygonF m_polygon;
-    QPolygonF m_unscaled; // the element's points, which drags of the frame scale
+    QPolygonF m_unscaled;
     QRectF m_bounds;
     bool m_keepsOuterSize = false;
 };

@@ -10,7 +10,6 @@
 
 #include <QDebug>
 #include <QScopeGuard>
-#include <QTransform>
 
 #include <algorithm>
 #include <cmath>
@@ -99,12 +98,11 @@ std::optional<QPolygonF> scaledOutline(const QPolygonF& outline, const QSizeF& f
 {
     if (factors.width() == 1 && factors.height() == 1)
         return outline;
-    QPolygonF scaled = QTransform::fromScale(factors.width(), factors.height()).map(outline);
-    for (qsizetype i = 0; i < scaled.size(); ++i) {
+    QPolygonF scaled = outline;
+    for (QPointF& point : scaled) {
         // What is not scaled keeps its very numbers.
-        const QPointF point = outline.at(i);
-        scaled[i] = QPointF(factors.width() == 1 ? point.x() : withoutNoise(scaled.at(i).x()),
-                            factors.height() == 1 ? point.y() : withoutNoise(scaled.at(i).y()));
+        point = {factors.width() == 1 ? point.x() : withoutNoise(factors.width() * point.x()),
+                 factors.height() == 1 ? point.y() : withoutNoise(factors.height() * point.y())};
     }
     if (!isFinite(scaled))
         return std::nullopt;
