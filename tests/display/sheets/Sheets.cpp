@@ -3,5 +3,5 @@
 QList<Sheet> allSheets()
 {
     return rectangleSheets() + ellipseSheets() + polygonSheets() + lineSheets() + irregularPolygonSheets()
-           + textSheets() + gradientSheets();
+           + textSheets() + gradientSheets() + imageSheets();
 }

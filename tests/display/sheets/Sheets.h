@@ -12,5 +12,6 @@ QList<Sheet> lineSheets();
 QList<Sheet> irregularPolygonSheets();
 QList<Sheet> textSheets();
 QList<Sheet> gradientSheets();
+QList<Sheet> imageSheets();
 
 QList<Sheet> allSheets();
