@@ -90,7 +90,8 @@ void GraphicsImage::keyPressEvent(QKeyEvent* event)
         QGraphicsItem::keyPressEvent(event);
         return;
     }
-    const QSize natural = naturalSizeOf(m_path);
+    // Not of the path that was loaded: the project may have been saved elsewhere since.
+    const QSize natural = naturalSizeOf(dataObject());
     if (natural.isEmpty() || QSizeF(natural) == size())
         return;
     auto* command = new ChangeProperty(property, ValueConversion::toString(QSizeF(natural)), true, nullptr);

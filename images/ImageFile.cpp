@@ -33,19 +33,15 @@ QString imageFileOf(const DesignerObject* element)
                                                   : QStringLiteral("%1/%2").arg(project->imagesPath(), name);
 }
 
-QSize naturalSizeOf(const QString& file)
+QSize naturalSizeOf(const DesignerObject* element)
 {
+    const QString file = imageFileOf(element);
     if (file.isEmpty())
         return {};
     const Common::PictureInfo info = Common::PictureCache::content(file)->info;
     const bool fits =
         info.size.width() <= ImageSizeWidget::LargestSide && info.size.height() <= ImageSizeWidget::LargestSide;
     return info.kind != Common::PictureKind::Unreadable && !info.size.isEmpty() && fits ? info.size : QSize();
-}
-
-QSize naturalSizeOf(const DesignerObject* element)
-{
-    return naturalSizeOf(imageFileOf(element));
 }
 
 } // namespace Korvex::Meridane::Designer

@@ -14,11 +14,8 @@ class DesignerObject;
 /// and where a symbolic link leads out of the project or to what is no regular file.
 [[nodiscard]] QString imageFileOf(const DesignerObject* element);
 
-/// The natural size of the picture in \a file, in pixels; invalid when it cannot be shown, or when no element can take on
+/// The natural size of the picture of \a element, in pixels; invalid when it cannot be shown, or when no element can take on
 /// its size.
-[[nodiscard]] QSize naturalSizeOf(const QString& file);
-
-/// The natural size of the picture of \a element.
 [[nodiscard]] QSize naturalSizeOf(const DesignerObject* element);
 
 } // namespace Korvex::Meridane::Designer

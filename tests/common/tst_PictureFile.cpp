@@ -351,7 +351,7 @@ void TestPictureFile::whatCannotBeShownSaysWhy()
     const QString path = file(name, content);
     const double start = cpuTime();
     const PictureContent picture = readPicture(path);
-    QVERIFY(cpuTime() - start < 1);
+    QVERIFY(cpuTime() - start < AtOnce);
     QCOMPARE(picture.info.kind, PictureKind::Unreadable);
     QVERIFY(picture.pixels.isNull());
     QVERIFY(!picture.drawing);
@@ -393,7 +393,7 @@ void TestPictureFile::whatWouldTakeTooLongIsRefusedAtOnce()
     const QString path = file(QStringLiteral("a.svg"), svg);
     const double start = cpuTime();
     const PictureContent picture = readPicture(path);
-    QVERIFY(cpuTime() - start < 1);
+    QVERIFY(cpuTime() - start < AtOnce);
     QCOMPARE(picture.info.kind, PictureKind::Unreadable);
     QVERIFY2(picture.reason.contains(QLatin1String("too long")) || picture.reason.contains(QLatin1String("elements")),
              qPrintable(picture.reason));
@@ -435,7 +435,7 @@ void TestPictureFile::whatIsElaborateIsShown()
     QPainter painter(&paper);
     const double start = cpuTime();
     picture.drawing->render(&painter, QRectF(paper.rect()));
-    QVERIFY(cpuTime() - start < 5);
+    QVERIFY(cpuTime() - start < 5 * AtOnce);
 }
 
 void TestPictureFile::textsOfAPictureAreNotRead()
@@ -451,7 +451,7 @@ void TestPictureFile::textsOfAPictureAreNotRead()
     const double start = cpuTime();
     QCOMPARE(pictureInfo(path).size, Size);
     QVERIFY(SamplePictures::isQuarters(readPicture(path).pixels));
-    QVERIFY(cpuTime() - start < 1);
+    QVERIFY(cpuTime() - start < AtOnce);
 }
 
 void TestPictureFile::onlyRegularFilesAreOpened()

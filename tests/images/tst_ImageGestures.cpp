@@ -2,6 +2,7 @@
 
 #include "host/core/values/ValueConversion.h"
 
+#include <QTemporaryDir>
 #include <QtTest>
 
 #include <rapidcheck.h>
@@ -82,6 +83,22 @@ private Q_SLOTS:
         QVERIFY(m_canvas->session->undo().accepted);
         QCOMPARE(value(one, "size"), QStringLiteral("80,60"));
         QCOMPARE(value(two, "size"), QStringLiteral("80,60"));
+    }
+
+    void altOLooksWhereTheProjectIsNow()
+    {
+        const QString png = m_canvas->files.addPng("a.png", {30, 20});
+        DesignerObject* image = m_canvas->addImage(png);
+        // The project is saved elsewhere, and what it was before is gone.
+        const QTemporaryDir elsewhere;
+        QVERIFY(QDir(elsewhere.path()).mkdir(QStringLiteral("images")));
+        QVERIFY(QFile::rename(m_canvas->files.path(png), elsewhere.filePath(QStringLiteral("images/a.png"))));
+        m_canvas->project->setFolder(elsewhere.path());
+        m_canvas->select({image});
+        m_canvas->key(Qt::Key_O, Qt::AltModifier);
+        QCOMPARE(value(image, "size"), QStringLiteral("30,20"));
+        QVERIFY(SamplePictures::isQuarters(m_canvas->picture({100, 100, 30, 20})));
+        m_canvas->project->setFolder({}); // before the folder goes
     }
 
     void withoutAPictureAltODoesNothing_data()
