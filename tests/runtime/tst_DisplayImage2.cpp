@@ -97,6 +97,11 @@ private Q_SLOTS:
     void namesThatLeadElsewhereAreNotFollowed();
 
 private:
+    /// Whether the middle takes on \a color in time. Looks once at each frame: by a second look the next may have come.
+    [[nodiscard]] bool comes(const QColor& color) const
+    {
+        return QTest::qWaitFor([this, &color] { return middle() == color; });
+    }
     [[nodiscard]] QColor middle() const
     {
         const QImage picture = sheet().running();
@@ -124,7 +129,7 @@ TestDisplayImage2::TestDisplayImage2()
           SamplePictures::drawing({100, 80}, "<rect width=\"100\" height=\"80\" rx=\"9\" fill=\"#f0c030\"/>"
                                              "<circle cx=\"40\" cy=\"40\" r=\"30\" fill=\"#302080\" "
                                              "fill-opacity=\"0.7\" stroke=\"red\" stroke-width=\"5\"/>"));
-    write("a.gif", SamplePictures::gif({40, 30}, {Qt::red, Qt::green, Qt::blue}, 4));
+    write("a.gif", SamplePictures::gif({40, 30}, {Qt::red, Qt::green, Qt::blue}, 30));
     // The screen of the tests stands in the folder "screens" of the export.
     QDir(exportFolder().path()).mkpath(QStringLiteral("screens"));
     QDir::setCurrent(exportFolder().filePath(QStringLiteral("screens")));
@@ -168,7 +173,7 @@ void TestDisplayImage2::anAnimationPlaysWhileItIsVisible()
 {
     item().setProperty("source", QStringLiteral("a.gif"));
     for (const QColor color : {Qt::green, Qt::blue, Qt::red, Qt::green})
-        QTRY_COMPARE(middle(), color);
+        QVERIFY(comes(color));
     item().setProperty("source", QStringLiteral("landscape.png"));
     QVERIFY(looksAsPainted());
 }
@@ -180,12 +185,12 @@ void TestDisplayImage2::aHiddenAnimationStands()
     QVERIFY(!QTest::qWaitFor([this] { return !isBlank(); }, 150));
     item().setVisible(true);
     QCOMPARE(middle(), QColor(Qt::red)); // it has not been started before
-    QTRY_COMPARE(middle(), QColor(Qt::green));
+    QVERIFY(comes(Qt::green));
     sheet().group()->setVisible(false);
     QVERIFY(isBlank());
     sheet().group()->setVisible(true);
     QCOMPARE(middle(), QColor(Qt::green)); // and goes on where it was
-    QTRY_COMPARE(middle(), QColor(Qt::blue));
+    QVERIFY(comes(Qt::blue));
 }
 
 void TestDisplayImage2::aPictureThatCannotBeShownIsReported_data()
