@@ -100,7 +100,7 @@ public:
     QString fault()
     {
         while (!m_xml.atEnd()) {
-            const QString fault = faultOf(m_xml.readNext());
+            QString fault = faultOf(m_xml.readNext());
             if (!fault.isEmpty()) {
                 return fault;
             }
@@ -199,7 +199,7 @@ private:
             } else if (key == u"style" && value.size() > LongestStyle) {
                 return QStringLiteral("its style sheets are too large");
             } else if (key == u"href") {
-                const QString fault = faultOfReference(name, value, &element.references);
+                QString fault = faultOfReference(name, value, &element.references);
                 if (!fault.isEmpty()) {
                     return fault;
                 }

@@ -139,7 +139,7 @@ QImage scaledPicture(const QString& key, Make make)
             return *known;
         }
     }
-    const QImage made = make();
+    QImage made = make();
     const QMutexLocker lock(&caches().mutex);
     caches().scaled.insert(key, new QImage(made), EntryBytes + made.sizeInBytes());
     return made;

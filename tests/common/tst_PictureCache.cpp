@@ -81,8 +81,8 @@ private Q_SLOTS:
 private:
     QString file(const char* name, const QByteArray& content) const
     {
-        const QString path = m_folder.filePath(QString::fromLatin1(QTest::currentTestFunction()) + QLatin1Char('/')
-                                               + QLatin1String(name));
+        QString path = m_folder.filePath(QString::fromLatin1(QTest::currentTestFunction()) + QLatin1Char('/')
+                                         + QLatin1String(name));
         SamplePictures::write(path, content);
         return path;
     }

@@ -153,8 +153,7 @@ private:
     /** Writes a file for the present test and returns its path. */
     QString file(const QString& name, const QByteArray& content) const
     {
-        const QString path =
-            m_folder.filePath(QString::fromLatin1(QTest::currentTestFunction()) + QLatin1Char('/') + name);
+        QString path = m_folder.filePath(QString::fromLatin1(QTest::currentTestFunction()) + QLatin1Char('/') + name);
         SamplePictures::write(path, content);
         return path;
     }

@@ -28,7 +28,7 @@ public:
     /// Writes an image file and offers it, unless that is done already; returns its name.
     QString add(const char* name, const QByteArray& content)
     {
-        const QString image = QString::fromUtf8(name);
+        QString image = QString::fromUtf8(name);
         SamplePictures::write(path(image), content);
         offer(image);
         return image;

@@ -281,7 +281,7 @@ private Q_SLOTS:
         const QString animation = m_canvas->files.addAnimation("a.gif", 1);
         QList<DesignerObject*> images;
         for (int i = 0; i < 200; ++i)
-            images.append(m_canvas->addImage(animation, {30, 20}, {35. * (i % 20), 25. * (i / 20)}));
+            images.append(m_canvas->addImage(animation, {30, 20}, QPoint(35 * (i % 20), 25 * (i / 20))));
         for (const DesignerObject* image : std::as_const(images))
             QVERIFY(!ImageCanvas::plays(image));
         settle();
@@ -306,7 +306,7 @@ private Q_SLOTS:
         const QString large = m_canvas->files.add("a.png", SamplePictures::greyPng({2000, 1500}));
         const qint64 before = residentBytes();
         for (int i = 0; i < 200; ++i)
-            m_canvas->addImage(large, {30, 20}, {35. * (i % 20), 25. * (i / 20)});
+            m_canvas->addImage(large, {30, 20}, QPoint(35 * (i % 20), 25 * (i / 20)));
         m_canvas->picture();
         QVERIFY(residentBytes() - before < 500 * 1024 * 1024);
     }

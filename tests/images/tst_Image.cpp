@@ -51,12 +51,12 @@ public:
         image->setParent(made.release() ? &project : nullptr);
     }
 
-    bool link(const QString& source, QString* message = nullptr)
+    bool link(const QString& source, QString* message = nullptr) const
     {
         return image->changePropertyValue(image->getProperty(QStringLiteral("source")), source, message);
     }
     /// What loading a project does: nobody is asked.
-    void fill(const QString& source) { image->getProperty(QStringLiteral("source"))->fill(source); }
+    void fill(const QString& source) const { image->getProperty(QStringLiteral("source"))->fill(source); }
     [[nodiscard]] QString source() const { return image->getProperty(QStringLiteral("source"))->valueString(); }
 
     Project project;

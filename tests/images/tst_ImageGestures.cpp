@@ -16,7 +16,8 @@ constexpr QRectF Frame(100, 100, 80, 60); // of an image that is added
 
 QPointF handlePoint(int handle, const QRectF& frame)
 {
-    return frame.topLeft() + QPointF(handle % 3 * frame.width() / 2, handle / 3 * frame.height() / 2);
+    const int row = handle / 3;
+    return frame.topLeft() + QPointF(handle % 3 * frame.width() / 2, row * frame.height() / 2);
 }
 
 bool isWhole(double number)

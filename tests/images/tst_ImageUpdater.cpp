@@ -275,8 +275,8 @@ private Q_SLOTS:
 private:
     QString file(const QByteArray& name, const QByteArray& content) const
     {
-        const QString path = m_folder.filePath(QString::fromLatin1(QTest::currentTestFunction()) + QLatin1Char('/')
-                                               + QString::fromLatin1(name));
+        QString path = m_folder.filePath(QString::fromLatin1(QTest::currentTestFunction()) + QLatin1Char('/')
+                                         + QString::fromLatin1(name));
         SamplePictures::write(path, content);
         return path;
     }

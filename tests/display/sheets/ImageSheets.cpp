@@ -26,7 +26,7 @@ QJsonArray imports()
 QJsonArray withImports(const QJsonArray& elements)
 {
     QJsonArray edits = imports();
-    for (const QJsonValue& element : elements)
+    for (const QJsonValue element : elements)
         edits.append(element);
     return edits;
 }
