@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/core/CoreExport.h"
+#include "host/core/commands/ChangeRecording.h"
 
 #include <QGraphicsView>
 #include <QPointer>
@@ -49,6 +49,8 @@ public:
     void setPlacementClass(const QString& className);
 
     [[nodiscard]] bool isGestureRunning() const { return m_gesture != nullptr; }
+    /// What the running gesture would write if it ended now (see Gesture::pendingChanges()); empty without one.
+    [[nodiscard]] QVector<PropertyChange> pendingChanges() const;
     /// Takes the running gesture back.
     void cancelGesture();
 
@@ -61,6 +63,8 @@ Q_SIGNALS:
     void pointerMoved(const QPointF& scenePos);
     /// Geometry while a gesture runs ("x 10, y 20, 100 × 75"), empty when it has ended.
     void readoutChanged(const QString& text);
+    /// The running gesture has followed the mouse, or has ended: pendingChanges() may have changed.
+    void gestureMoved();
     void placementFinished();
 
 protected:

@@ -35,6 +35,11 @@ void CanvasView::setPlacementClass(const QString& className)
     updateCursor(nullptr);
 }
 
+QVector<PropertyChange> CanvasView::pendingChanges() const
+{
+    return m_gesture ? m_gesture->pendingChanges() : QVector<PropertyChange>();
+}
+
 void CanvasView::cancelGesture()
 {
     if (const auto gesture = endGesture())
@@ -316,6 +321,7 @@ void CanvasView::moveGesture(const CanvasPointer& pointer)
 {
     m_gesture->move(pointer);
     Q_EMIT readoutChanged(m_gesture->readout());
+    Q_EMIT gestureMoved();
     updateHandles();
 }
 
@@ -330,6 +336,7 @@ std::unique_ptr<Gesture> CanvasView::endGesture()
     std::unique_ptr<Gesture> gesture = std::move(m_gesture);
     updateCursor(nullptr);
     Q_EMIT readoutChanged({});
+    Q_EMIT gestureMoved();
     return gesture;
 }
 

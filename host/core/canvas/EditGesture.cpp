@@ -88,6 +88,20 @@ QString EditGesture::readout() const
         .arg(number(position.x()), number(position.y()), number(outer.width()), number(outer.height()));
 }
 
+QVector<PropertyChange> EditGesture::pendingChanges() const
+{
+    UndoCommand thrownAway;
+    if (hasBegun())
+        fill(&thrownAway);
+    QVector<PropertyChange> pending;
+    for (int i = 0; i < thrownAway.childCommandCount(); ++i) {
+        const auto* change = dynamic_cast<const ChangeProperty*>(thrownAway.childCommand(i));
+        if (change && change->property()->valueString() != change->value())
+            pending.append({change->property(), change->property()->valueString(), change->value()});
+    }
+    return pending;
+}
+
 QString EditGesture::pendingValue(const QString& id) const
 {
     const DesignerObject* grabbed = m_objects.isEmpty() ? nullptr : m_objects.first().data();

@@ -25,6 +25,7 @@ public:
     void cancel() override;
     /// Place and outer size of the object that was grabbed, as its item would write them.
     [[nodiscard]] QString readout() const override;
+    [[nodiscard]] QVector<PropertyChange> pendingChanges() const override;
 
 protected:
     [[nodiscard]] const CanvasPointer& press() const { return m_press; }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/core/commands/ChangeRecording.h"
+
 #include <QPointF>
 #include <QRect>
 #include <QString>
@@ -39,6 +41,9 @@ public:
 
     /// The geometry that finish() would give, for the user; empty for none.
     [[nodiscard]] virtual QString readout() const { return {}; }
+    /// What finish() would write, for previews that follow the mouse: of every property that differs from the value it
+    /// has now, that value and the one to come.
+    [[nodiscard]] virtual QVector<PropertyChange> pendingChanges() const { return {}; }
     /// Draws what only the gesture shows, in viewport pixels.
     virtual void paint(QPainter*) const {}
     /// The viewport rectangle that paint() draws in.

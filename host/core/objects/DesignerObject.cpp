@@ -226,6 +226,19 @@ bool DesignerObject::setIdInfo(const IdentifierInfo& info)
     return true;
 }
 
+bool DesignerObject::setEditorMark(const QString& mark, const QString& value)
+{
+    if (!m_editorMarkKeys.contains(mark) || m_editorMarks.value(mark) == value)
+        return false;
+    if (value.isEmpty())
+        m_editorMarks.remove(mark);
+    else
+        m_editorMarks.insert(mark, value);
+    if (Project* project = Project::parentProject(this))
+        Q_EMIT project->objectMarked(this, mark);
+    return true;
+}
+
 IdRegistry* DesignerObject::idScope() const
 {
     for (DesignerObject* object = parentObject(); object; object = object->parentObject()) {

@@ -4,6 +4,7 @@
 #include "host/core/values/IdentifierInfo.h"
 
 #include <QJsonObject>
+#include <QMap>
 #include <QObject>
 #include <QSharedPointer>
 #include <QVector>
@@ -115,6 +116,14 @@ public:
     /// Moves the item at \a from to \a to; both are indices of the list.
     void moveListItem(ObjectListProperty* list, int from, int to);
 
+    /// The value of an editor mark (see EditorMarks); empty while it is not set.
+    [[nodiscard]] QString editorMark(const QString& mark) const { return m_editorMarks.value(mark); }
+    /// The marks that the object can have.
+    [[nodiscard]] const QStringList& editorMarkKeys() const { return m_editorMarkKeys; }
+    /// Sets a mark, or with an empty \a value removes it, without an undo step. False when nothing changed or the object
+    /// has no such mark.
+    bool setEditorMark(const QString& mark, const QString& value);
+
     /// Keys and values of the object's file entry that this version does not know; written back as they were.
     [[nodiscard]] const QJsonObject& unknownKeys() const { return m_unknownKeys; }
     void setUnknownKeys(const QJsonObject& keys) { m_unknownKeys = keys; }
@@ -127,6 +136,8 @@ Q_SIGNALS:
     void childrenChanged();
 
 protected:
+    /// Called by the constructor of a class whose objects have the editor mark \a mark.
+    void declareEditorMark(const QString& mark) { m_editorMarkKeys.append(mark); }
     /// Called once by the constructor of an object that holds others.
     void setContainer(ObjectContainer* container) { m_container = container; }
     /// Adds a declared property; the object shares its ownership. Kept sorted by rank.
@@ -141,6 +152,8 @@ private:
     QVector<const DesignerProperty*> m_reacting; // properties whose reaction is running
     QString m_idName;
     IdentifierInfo m_idInfo;
+    QStringList m_editorMarkKeys;
+    QMap<QString, QString> m_editorMarks; // those that are set
     QJsonObject m_unknownKeys;
     GraphicsItem* m_graphicsItem = nullptr;
     ObjectContainer* m_container = nullptr; // this object's own face as a container

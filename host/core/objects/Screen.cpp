@@ -1,5 +1,6 @@
 #include "host/core/objects/Screen.h"
 
+#include "host/core/objects/EditorMarks.h"
 #include "host/core/plugins/DesignerFactory.h"
 #include "host/core/project/Project.h"
 #include "host/core/properties/ColorProperty.h"
@@ -38,6 +39,7 @@ Screen::Screen(QObject* parent)
     : DesignerObject(parent)
 {
     setContainer(this);
+    declareEditorMark(EditorMarks::guides());
 }
 
 Screen::~Screen() = default;

@@ -1,6 +1,7 @@
 #include "host/core/objects/VisualElement.h"
 
 #include "host/core/canvas/GraphicsItem.h"
+#include "host/core/objects/EditorMarks.h"
 #include "host/core/plugins/DesignerFactory.h"
 #include "host/core/properties/PointProperty.h"
 #include "host/core/properties/PropertyDeclaration.h"
@@ -18,7 +19,10 @@ using Common::LocalizationHelper;
 
 VisualElement::VisualElement(QObject* parent)
     : Element(parent)
-{}
+{
+    declareEditorMark(EditorMarks::locked());
+    declareEditorMark(EditorMarks::hidden());
+}
 
 VisualElement::~VisualElement() = default;
 

@@ -37,7 +37,11 @@ QJsonObject ElementJson::write(const DesignerObject* object)
     entry.insert(QLatin1String("class"), object->className());
     entry.insert(QLatin1String("id"), object->getIdName());
     entry.insert(PropertiesKey, writeValues(object, entry.value(PropertiesKey).toObject(), isStored));
-    const QJsonObject editor = writeValues(object, entry.value(EditorKey).toObject(), isEditorState);
+    QJsonObject editor = writeValues(object, entry.value(EditorKey).toObject(), isEditorState);
+    for (const QString& mark : object->editorMarkKeys()) {
+        if (const QString value = object->editorMark(mark); !value.isEmpty())
+            editor.insert(mark, value);
+    }
     if (!editor.isEmpty())
         entry.insert(EditorKey, editor);
     if (const ObjectListProperty* list = object->childList()) {

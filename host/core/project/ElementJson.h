@@ -21,7 +21,8 @@ class ObjectListProperty;
  * | "class" | the class name |
  * | "id" | the object's id |
  * | "properties" | the value strings of all stored properties, by property id |
- * | "editor" | the value strings of what the property sheet keeps for itself: shown and editable, but not stored |
+ * | "editor" | the value strings of what the property sheet keeps for itself (shown and editable, but not stored), and the
+ *              object's editor marks |
  * | "elements" | the children, back to front; only for objects that can have children |
  *
  * What this version does not know is carried along and written back as it was: unknown keys and properties in

@@ -110,7 +110,13 @@ void ElementReader::fill(DesignerObject* object, const Place& place)
     const QJsonObject properties = fillValues(object, place, PropertiesKey, ElementJson::isStored);
     if (!properties.isEmpty())
         unknown.insert(PropertiesKey, properties);
-    const QJsonObject editor = fillValues(object, place, EditorKey, ElementJson::isEditorState);
+    QJsonObject editor = fillValues(object, place, EditorKey, ElementJson::isEditorState);
+    for (const QString& mark : object->editorMarkKeys()) {
+        if (const QJsonValue value = editor.value(mark); value.isString()) {
+            object->setEditorMark(mark, value.toString());
+            editor.remove(mark);
+        }
+    }
     if (!editor.isEmpty())
         unknown.insert(EditorKey, editor);
     object->setUnknownKeys(unknown);

@@ -81,6 +81,8 @@ Q_SIGNALS:
     /// \a object has been taken out of \a parent; it still exists.
     void objectRemoved(DesignerObject* object, DesignerObject* parent);
     void objectReordered(DesignerObject* object);
+    /// One of an object's editor marks changed; see EditorMarks.
+    void objectMarked(DesignerObject* object, const QString& mark);
     void userModificationRefused(const QString& message);
     void projectBrowserUpdateRequested();
     void resourcesChanged();
