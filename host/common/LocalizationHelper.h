@@ -24,5 +24,14 @@ public:
 
     /** @p text (English) in the user's language, for the texts of the host. */
     [[nodiscard]] static QString coreString(const QString& text);
+
+    /**
+     * The text for @p count things, in the user's language: @p singular and @p plural are the English forms, both with
+     * `%n` where the number stands ("%n element", "%n elements"). A language may have more forms, or fewer; a
+     * translation is looked up by @p plural.
+     */
+    [[nodiscard]] static QString visualDesignerString(const QString& singular, const QString& plural, int count);
+    /** As visualDesignerString() with a count, for the texts of the host. */
+    [[nodiscard]] static QString coreString(const QString& singular, const QString& plural, int count);
 };
 } // namespace Korvex::Meridane::Common

@@ -31,6 +31,18 @@ QStringList keys(const char* name)
 }
 } // namespace
 
+/** A language with one form for every number. */
+class OneFormTranslator : public QTranslator
+{
+public:
+    QString translate(const char*, const char* sourceText, const char*, int) const override
+    {
+        return QByteArray(sourceText) == "%n elements" ? QStringLiteral("Element × %n") : QString();
+    }
+
+    bool isEmpty() const override { return false; }
+};
+
 class TestEnumHelper : public QObject
 {
     Q_OBJECT
@@ -43,6 +55,8 @@ private Q_SLOTS:
     void shownTextsAreTranslated();
     void textsComeBackWithoutAnApplication();
     void contextsTellTheTextsApart();
+    void countedTextsHaveTheirEnglishForms();
+    void countedTextsAreTranslatedByTheirPlural();
 };
 
 void TestEnumHelper::enumerationsAreFoundByName()
@@ -114,6 +128,29 @@ void TestEnumHelper::contextsTellTheTextsApart()
     QVERIFY(QCoreApplication::installTranslator(&translator));
     QCOMPARE(LocalizationHelper::visualDesignerString(QStringLiteral("Size")), QStringLiteral("VisualDesigner/Size"));
     QCOMPARE(LocalizationHelper::coreString(QStringLiteral("Size")), QStringLiteral("Core/Size"));
+}
+
+void TestEnumHelper::countedTextsHaveTheirEnglishForms()
+{
+    const auto text = [](int count) {
+        return LocalizationHelper::coreString(QStringLiteral("%n element"), QStringLiteral("%n elements"), count);
+    };
+    QCOMPARE(text(0), QStringLiteral("0 elements"));
+    QCOMPARE(text(1), QStringLiteral("1 element"));
+    QCOMPARE(text(2), QStringLiteral("2 elements"));
+    QCOMPARE(LocalizationHelper::visualDesignerString(QStringLiteral("one point"), QStringLiteral("%n points"), 1),
+             QStringLiteral("one point"));
+}
+
+void TestEnumHelper::countedTextsAreTranslatedByTheirPlural()
+{
+    int argc = 0;
+    QCoreApplication application(argc, nullptr);
+    OneFormTranslator translator;
+    QVERIFY(QCoreApplication::installTranslator(&translator));
+    for (const int count : {1, 2})
+        QCOMPARE(LocalizationHelper::coreString(QStringLiteral("%n element"), QStringLiteral("%n elements"), count),
+                 QStringLiteral("Element × %1").arg(count));
 }
 
 QTEST_APPLESS_MAIN(TestEnumHelper)
