@@ -4,7 +4,8 @@
 #include "host/core/canvas/CanvasView.h"
 #include "host/core/canvas/EditSession.h"
 #include "host/core/canvas/GraphicsItem.h"
-#include "host/core/objects/DesignerObject.h"
+#include "host/core/objects/EditorMarks.h"
+#include "host/core/objects/Element.h"
 #include "host/core/project/Project.h"
 
 #include <QGraphicsItem>
@@ -32,6 +33,13 @@ std::optional<QPointF> arrowDirection(int key)
     default:
         return std::nullopt;
     }
+}
+
+/// \a objects without what is locked: that stays where it is.
+QList<DesignerObject*> removable(QList<DesignerObject*> objects)
+{
+    objects.removeIf([](const DesignerObject* object) { return EditorMarks::isLocked(object); });
+    return objects;
 }
 
 /// The keys that items use together with Alt.
@@ -110,16 +118,21 @@ bool CanvasKeys::press(QKeyEvent* event)
             break;
         }
     }
+    if (plain == Qt::ShiftModifier && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
+        return goOut();
     if (plain == Qt::NoModifier) {
         switch (event->key()) {
         case Qt::Key_Delete:
         case Qt::Key_Backspace:
             if (scene->selectedItems().isEmpty())
                 return false;
-            m_view->session()->removeElements(scene->selectedRoots());
+            m_view->session()->removeElements(removable(scene->selectedRoots()));
             return true;
         case Qt::Key_Escape:
             return escape();
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            return goIn();
         default:
             break;
         }
@@ -133,10 +146,7 @@ bool CanvasKeys::nudge(const QKeyEvent* event)
     CanvasScene* scene = m_view->canvasScene();
     if (!direction || scene->selectedItems().isEmpty())
         return false;
-    QList<DesignerObject*> moving = scene->selectedRoots();
-    moving.removeIf([](const DesignerObject* object) {
-        return !object->graphicsItem()->graphic()->flags().testFlag(QGraphicsItem::ItemIsMovable);
-    });
+    const QList<DesignerObject*> moving = scene->movableRoots();
     if (!event->isAutoRepeat())
         ++m_presses;
     const double distance = event->modifiers().testFlag(Qt::ShiftModifier) ? 10 : 1;
@@ -148,10 +158,12 @@ bool CanvasKeys::nudge(const QKeyEvent* event)
 bool CanvasKeys::selectNext(bool backwards)
 {
     CanvasScene* scene = m_view->canvasScene();
-    const QList<DesignerObject*> elements = scene->selectableElements();
+    const QList<DesignerObject*> selected = scene->selectedObjects();
+    // In a group that has been gone into, through what is in it.
+    const DesignerObject* owner = selected.isEmpty() ? nullptr : selected.constFirst()->parentObject();
+    const QList<DesignerObject*> elements = scene->selectableElements(owner);
     if (elements.isEmpty())
         return false;
-    const QList<DesignerObject*> selected = scene->selectedObjects();
     const qsizetype count = elements.size();
     qsizetype next = backwards ? count - 1 : 0;
     if (!selected.isEmpty()) {
@@ -173,7 +185,34 @@ bool CanvasKeys::escape()
     }
     if (m_view->canvasScene()->selectedItems().isEmpty())
         return false;
-    m_view->canvasScene()->setSelectedObjects({});
+    if (!goOut())
+        m_view->canvasScene()->setSelectedObjects({});
+    return true;
+}
+
+/// Selects the front-most element of the group that is selected alone.
+bool CanvasKeys::goIn()
+{
+    CanvasScene* scene = m_view->canvasScene();
+    const QList<DesignerObject*> selected = scene->selectedObjects();
+    if (selected.size() != 1 || !selected.constFirst()->childList())
+        return false;
+    const QList<DesignerObject*> elements = scene->selectableElements(selected.constFirst());
+    if (elements.isEmpty())
+        return false;
+    scene->setSelectedObjects({elements.constLast()});
+    return true;
+}
+
+/// Selects the group around what is selected.
+bool CanvasKeys::goOut()
+{
+    CanvasScene* scene = m_view->canvasScene();
+    const QList<DesignerObject*> selected = scene->selectedObjects();
+    DesignerObject* group = selected.isEmpty() ? nullptr : selected.constFirst()->parentObject();
+    if (!group || !qobject_cast<Element*>(group))
+        return false;
+    scene->setSelectedObjects({group});
     return true;
 }
 

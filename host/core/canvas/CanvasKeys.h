@@ -10,8 +10,9 @@ class CanvasView;
 
 /**
  * The keyboard on the canvas: arrows move the selection by 1 pixel, with Shift by 10; Delete and Backspace remove it; Tab
- * and Shift+Tab go through the elements; Ctrl+A selects all; Escape takes a gesture back, ends placing, or clears
- * the selection. Every other key goes to the selected items.
+ * and Shift+Tab go through the elements beside the selected one; Ctrl+A selects all; Return goes into a group and
+ * Shift+Return out of it; Escape takes a gesture back, ends placing, goes out of a group, or clears the selection. Every
+ * other key goes to the selected items.
  */
 class CanvasKeys
 {
@@ -27,6 +28,8 @@ private:
     bool nudge(const QKeyEvent* event);
     bool selectNext(bool backwards);
     bool escape();
+    bool goIn();
+    bool goOut();
     bool sendToItems(QKeyEvent* event);
 
     CanvasView* m_view;

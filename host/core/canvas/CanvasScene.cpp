@@ -2,6 +2,7 @@
 
 #include "host/core/canvas/GraphicsItem.h"
 #include "host/core/commands/ChangeScopes.h"
+#include "host/core/objects/EditorMarks.h"
 #include "host/core/objects/Screen.h"
 #include "host/core/project/Project.h"
 #include "host/core/properties/ObjectListProperty.h"
@@ -62,6 +63,15 @@ bool visitElements(const DesignerObject* object, const Visitor& visit)
     return true;
 }
 
+/// The object of \a chosen, for a hit on \a hit, which it is or which stands in it; null where the one that was hit is
+/// locked.
+DesignerObject* objectToSelect(QGraphicsItem* chosen, QGraphicsItem* hit)
+{
+    const GraphicsItem* item = GraphicsItem::fromGraphic(chosen);
+    const GraphicsItem* pointed = GraphicsItem::fromGraphic(hit);
+    return item && pointed && !EditorMarks::isLocked(pointed->dataObject()) ? item->dataObject() : nullptr;
+}
+
 QSharedPointer<DesignerProperty> childListHandle(const DesignerObject* owner)
 {
     const ObjectListProperty* list = owner->childList();
@@ -82,6 +92,7 @@ CanvasScene::CanvasScene(Screen* screen, QObject* parent)
         connect(project, &Project::objectAdded, this, &CanvasScene::onObjectAdded);
         connect(project, &Project::objectRemoved, this, &CanvasScene::onObjectRemoved);
         connect(project, &Project::objectReordered, this, &CanvasScene::restack);
+        connect(project, &Project::objectMarked, this, &CanvasScene::onObjectMarked);
         connect(project, &Project::objectRenamed, this, [this](DesignerObject* object) {
             if (owns(object))
                 object->graphicsItem()->nameChanged();
@@ -121,6 +132,15 @@ QList<DesignerObject*> CanvasScene::selectedRoots() const
     return objects;
 }
 
+QList<DesignerObject*> CanvasScene::movableRoots() const
+{
+    QList<DesignerObject*> objects = selectedRoots();
+    objects.removeIf([](const DesignerObject* object) {
+        return !graphicOf(object)->flags().testFlag(QGraphicsItem::ItemIsMovable) || EditorMarks::isLocked(object);
+    });
+    return objects;
+}
+
 void CanvasScene::setSelectedObjects(const QList<DesignerObject*>& objects)
 {
     QSet<QGraphicsItem*> wanted;
@@ -151,10 +171,42 @@ void CanvasScene::setSelectedObjects(const QList<DesignerObject*>& objects)
 
 DesignerObject* CanvasScene::elementAt(const QPointF& scenePos) const
 {
+    const QSet<const QGraphicsItem*> entered = enteredGroups();
+    return pointedElement(scenePos, [this, &entered](QGraphicsItem* graphic) -> DesignerObject* {
+        QGraphicsItem* outermost = nullptr;
+        for (QGraphicsItem* hit = graphic; hit && !entered.contains(hit); hit = hit->parentItem()) {
+            if (!hit->flags().testFlag(QGraphicsItem::ItemIsSelectable))
+                continue;
+            outermost = hit;
+            if (hit->isSelected())
+                break;
+        }
+        return objectToSelect(outermost, graphic);
+    });
+}
+
+DesignerObject* CanvasScene::elementInGroupAt(const QPointF& scenePos) const
+{
+    const DesignerObject* group = elementAt(scenePos);
+    const QGraphicsItem* owner = graphicOf(group);
+    if (!owner || !group->childList())
+        return nullptr;
+    return pointedElement(scenePos, [owner](QGraphicsItem* graphic) -> DesignerObject* {
+        QGraphicsItem* child = graphic;
+        while (child && child->parentItem() != owner)
+            child = child->parentItem();
+        return objectToSelect(child, graphic);
+    });
+}
+
+/// What \a choose makes of the front-most item at \a scenePos of which it makes something.
+DesignerObject* CanvasScene::pointedElement(const QPointF& scenePos,
+                                            const std::function<DesignerObject*(QGraphicsItem*)>& choose) const
+{
     const QList<QGraphicsItem*> hit = items(scenePos);
     QGraphicsItem* exact = nullptr;
     for (QGraphicsItem* graphic : hit) {
-        if (selectableElement(graphic)) {
+        if (choose(graphic)) {
             exact = graphic;
             break;
         }
@@ -166,10 +218,11 @@ DesignerObject* CanvasScene::elementAt(const QPointF& scenePos) const
     for (QGraphicsItem* graphic : near) {
         if (graphic == exact)
             break;
-        if (selectableElement(graphic) && thickness(graphic) <= 2 * reach)
-            return selectableElement(graphic);
+        DesignerObject* chosen = choose(graphic);
+        if (chosen && thickness(graphic) <= 2 * reach)
+            return chosen;
     }
-    return exact ? selectableElement(exact) : nullptr;
+    return exact ? choose(exact) : nullptr;
 }
 
 QList<DesignerObject*> CanvasScene::elementsIn(const QRectF& sceneRect) const
@@ -187,12 +240,16 @@ QList<DesignerObject*> CanvasScene::elementsIn(const QRectF& sceneRect) const
     return elements;
 }
 
-QList<DesignerObject*> CanvasScene::selectableElements() const
+QList<DesignerObject*> CanvasScene::selectableElements(const DesignerObject* owner) const
 {
     QList<DesignerObject*> elements;
-    for (DesignerObject* object : m_screen->childList()->items()) {
+    const ObjectListProperty* list = (owner ? owner : m_screen)->childList();
+    if (!list)
+        return elements;
+    for (DesignerObject* object : list->items()) {
         const QGraphicsItem* graphic = graphicOf(object);
-        if (graphic && graphic->flags().testFlag(QGraphicsItem::ItemIsSelectable))
+        if (graphic && graphic->isVisible() && graphic->flags().testFlag(QGraphicsItem::ItemIsSelectable)
+            && !EditorMarks::isLocked(object))
             elements.append(object);
     }
     return elements;
@@ -229,6 +286,8 @@ void CanvasScene::placeObject(DesignerObject* object, QGraphicsItem* parent)
         item->updateFromDataObject();
     }
     item->fillOuterSize();
+    if (object->editorMark(EditorMarks::hidden()) == EditorMarks::setValue())
+        graphic->setVisible(false);
     if (!parent)
         addItem(graphic);
     ++m_itemCount;
@@ -319,8 +378,20 @@ DesignerObject* CanvasScene::selectableElement(QGraphicsItem* graphic) const
         if (hit->isSelected())
             break;
     }
-    const GraphicsItem* item = GraphicsItem::fromGraphic(outermost);
-    return item ? item->dataObject() : nullptr;
+    return objectToSelect(outermost, graphic);
+}
+
+/// The groups that have been gone into: those around what is selected.
+QSet<const QGraphicsItem*> CanvasScene::enteredGroups() const
+{
+    QSet<const QGraphicsItem*> entered;
+    const QList<QGraphicsItem*> selected = selectedItems();
+    for (const QGraphicsItem* graphic : selected) {
+        for (const QGraphicsItem* group = graphic->parentItem(); group && !entered.contains(group);
+             group = group->parentItem())
+            entered.insert(group);
+    }
+    return entered;
 }
 
 QList<DesignerObject*> CanvasScene::inZOrder(const QList<DesignerObject*>& objects) const
@@ -361,6 +432,25 @@ void CanvasScene::onObjectRemoved(DesignerObject* object, DesignerObject* parent
 {
     if (owns(parent))
         parent->graphicsItem()->removeGraphicsItemChild(childListHandle(parent), object);
+}
+
+void CanvasScene::onObjectMarked(DesignerObject* object, const QString& mark)
+{
+    if (!owns(object))
+        return;
+    const bool set = object->editorMark(mark) == EditorMarks::setValue();
+    if (mark == EditorMarks::hidden()) {
+        graphicOf(object)->setVisible(!set);
+        if (!set)
+            Q_EMIT elementShown(object);
+    }
+    const bool mayHoldSelected = graphicOf(object)->isSelected() || object->childList();
+    if (mark != EditorMarks::locked() || !set || !mayHoldSelected)
+        return;
+    // What the mouse could not select any more is let go.
+    QList<DesignerObject*> remaining = selectedObjects();
+    if (remaining.removeIf([](const DesignerObject* selected) { return EditorMarks::isLocked(selected); }) > 0)
+        setSelectedObjects(remaining);
 }
 
 void CanvasScene::onSelectionChanged()

@@ -5,6 +5,9 @@
 #include <QGraphicsScene>
 #include <QList>
 #include <QPointer>
+#include <QSet>
+
+#include <functional>
 
 namespace Korvex::Meridane::Designer {
 
@@ -33,15 +36,20 @@ public:
     [[nodiscard]] QList<DesignerObject*> selectedObjects() const;
     /// The selected elements without those that stand in a selected group: what moves or is removed as a whole.
     [[nodiscard]] QList<DesignerObject*> selectedRoots() const;
+    /// The selectedRoots() that the mouse and the arrow keys move: neither locked nor fixed by their class.
+    [[nodiscard]] QList<DesignerObject*> movableRoots() const;
     /// Selects those of \a objects that have a selectable item here, and nothing else; announced once.
     void setSelectedObjects(const QList<DesignerObject*>& objects);
-    /// The front-most element at \a scenePos that can be selected, or null. Of an element in groups that is the
-    /// outermost group, unless the element itself or a group between them is selected.
+    /// The front-most element at \a scenePos that the mouse can select, or null; what is locked or hidden is passed
+    /// through. Of an element in groups that is the outermost group, unless the element itself or a group between them is
+    /// selected, or the group has been gone into: something in it is selected.
     [[nodiscard]] DesignerObject* elementAt(const QPointF& scenePos) const;
-    /// The elements whose shapes \a sceneRect touches, groups for what is in them, in z-order.
+    /// Of the group that elementAt() finds: what is hit in it, one level further in. Null where no group is hit.
+    [[nodiscard]] DesignerObject* elementInGroupAt(const QPointF& scenePos) const;
+    /// The elements whose shapes \a sceneRect touches, groups for what is in them, in z-order; none that is locked.
     [[nodiscard]] QList<DesignerObject*> elementsIn(const QRectF& sceneRect) const;
-    /// The elements directly on the screen that can be selected, in z-order.
-    [[nodiscard]] QList<DesignerObject*> selectableElements() const;
+    /// The elements directly in \a owner (null: on the screen) that mouse and keyboard can select, in z-order.
+    [[nodiscard]] QList<DesignerObject*> selectableElements(const DesignerObject* owner = nullptr) const;
 
     /// Screen pixels of the view for one scene pixel; 1 without a view. Handles and hit widths follow it.
     [[nodiscard]] double viewScale() const { return m_viewScale; }
@@ -57,14 +65,22 @@ public:
     /// last of the list.
     void restack(DesignerObject* object);
 
+Q_SIGNALS:
+    /// \a object is no longer hidden and may be selected here again.
+    void elementShown(DesignerObject* object);
+
 private:
     [[nodiscard]] bool owns(const DesignerObject* object) const;
     [[nodiscard]] DesignerObject* selectableElement(QGraphicsItem* graphic) const;
+    [[nodiscard]] DesignerObject* pointedElement(const QPointF& scenePos,
+                                                 const std::function<DesignerObject*(QGraphicsItem*)>& choose) const;
+    [[nodiscard]] QSet<const QGraphicsItem*> enteredGroups() const;
     [[nodiscard]] QList<DesignerObject*> inZOrder(const QList<DesignerObject*>& objects) const;
     void placeChildren(const DesignerObject* owner, QGraphicsItem* parent);
     void fitIndex();
     void onObjectAdded(DesignerObject* object);
     void onObjectRemoved(DesignerObject* object, DesignerObject* parent);
+    void onObjectMarked(DesignerObject* object, const QString& mark);
     void onSelectionChanged();
 
     Screen* m_screen;

@@ -160,7 +160,14 @@ void CanvasView::mouseReleaseEvent(QMouseEvent* event)
 
 void CanvasView::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    // The second press of two quick ones is a press like any other.
+    // The second of two quick presses on a group goes into it; apart from that it is a press like any other.
+    const bool onElements = event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier && !m_gesture
+                            && !m_spaceHeld && m_placementClass.isEmpty() && canvasScene();
+    const CanvasPointer pointer = pointerAt(event->position(), event->modifiers());
+    if (onElements && SelectionHandles(this).hit(pointer.scenePos).kind == HandleHit::Kind::None) {
+        if (DesignerObject* inside = canvasScene()->elementInGroupAt(pointer.scenePos))
+            canvasScene()->setSelectedObjects({inside});
+    }
     mousePressEvent(event);
 }
 

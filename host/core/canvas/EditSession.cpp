@@ -4,10 +4,12 @@
 #include "host/core/canvas/CanvasScene.h"
 #include "host/core/canvas/GraphicsItem.h"
 #include "host/core/commands/AddObject.h"
+#include "host/core/commands/ChangeEditorMark.h"
 #include "host/core/commands/ChangeProperty.h"
 #include "host/core/commands/MoveObject.h"
 #include "host/core/commands/RemoveObject.h"
 #include "host/core/commands/RenameObject.h"
+#include "host/core/objects/EditorMarks.h"
 #include "host/core/objects/QmlIdentifier.h"
 #include "host/core/objects/Screen.h"
 #include "host/core/objects/VisualElement.h"
@@ -38,6 +40,31 @@ QString text(const char* source)
     return LocalizationHelper::coreString(QString::fromUtf8(source));
 }
 
+/// The name of the step that sets or takes away \a mark of \a elements.
+QString markText(const QList<DesignerObject*>& elements, const QString& mark, bool set)
+{
+    const int count = int(elements.size());
+    const QString id = elements.constFirst()->getIdName();
+    if (mark == EditorMarks::locked() && set) {
+        return count == 1 ? LocalizationHelper::coreString(QStringLiteral("Lock %1")).arg(id)
+                          : LocalizationHelper::coreString(QStringLiteral("Lock %n Element"),
+                                                           QStringLiteral("Lock %n Elements"), count);
+    }
+    if (mark == EditorMarks::locked()) {
+        return count == 1 ? LocalizationHelper::coreString(QStringLiteral("Unlock %1")).arg(id)
+                          : LocalizationHelper::coreString(QStringLiteral("Unlock %n Element"),
+                                                           QStringLiteral("Unlock %n Elements"), count);
+    }
+    if (set) {
+        return count == 1 ? LocalizationHelper::coreString(QStringLiteral("Hide %1")).arg(id)
+                          : LocalizationHelper::coreString(QStringLiteral("Hide %n Element"),
+                                                           QStringLiteral("Hide %n Elements"), count);
+    }
+    return count == 1 ? LocalizationHelper::coreString(QStringLiteral("Show %1")).arg(id)
+                      : LocalizationHelper::coreString(QStringLiteral("Show %n Element"),
+                                                       QStringLiteral("Show %n Elements"), count);
+}
+
 } // namespace
 
 EditSession::EditSession(std::unique_ptr<Project> project, QObject* parent)
@@ -46,6 +73,7 @@ EditSession::EditSession(std::unique_ptr<Project> project, QObject* parent)
 {
     connect(undoStack(), &UndoStack::stepApplied, this, &EditSession::onStepApplied);
     connect(m_project.get(), &Project::objectRemoved, this, &EditSession::onObjectRemoved);
+    connect(m_project.get(), &Project::objectMarked, this, &EditSession::onObjectMarked);
     connect(m_project.get(), &Project::userModificationRefused, this, &EditSession::editRefused);
     if (auto* application = qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
         connect(application, &QGuiApplication::fontDatabaseChanged, this, &EditSession::repaintScenes);
@@ -77,6 +105,11 @@ CanvasScene* EditSession::scene(Screen* screen)
         scene = std::make_unique<CanvasScene>(screen);
         connect(scene.get(), &QGraphicsScene::selectionChanged, this,
                 [this, made = scene.get()] { onSceneSelectionChanged(made); });
+        connect(scene.get(), &CanvasScene::elementShown, this, [this] {
+            // What was selected while it was out of sight now shows it.
+            if (!m_selection.isEmpty() && !m_settingSelection)
+                setSelection(QList<DesignerObject*>(m_selection));
+        });
     }
     return scene.get();
 }
@@ -289,6 +322,42 @@ EditResult EditSession::rotateElement(DesignerObject* element, double angle, con
     return setProperty(element, QStringLiteral("rotation"), value);
 }
 
+EditResult EditSession::setLocked(const QList<DesignerObject*>& elements, bool locked)
+{
+    return setMark(elements, EditorMarks::locked(), locked);
+}
+
+EditResult EditSession::setHidden(const QList<DesignerObject*>& elements, bool hidden)
+{
+    return setMark(elements, EditorMarks::hidden(), hidden);
+}
+
+EditResult EditSession::setMark(const QList<DesignerObject*>& elements, const QString& mark, bool set)
+{
+    const QString value = set ? EditorMarks::setValue() : QString();
+    QList<DesignerObject*> changed;
+    for (DesignerObject* element : elements) {
+        if (element->editorMarkKeys().contains(mark) && element->editorMark(mark) != value && screenOf(element))
+            changed.append(element);
+    }
+    if (changed.isEmpty())
+        return {true, false, {}};
+    auto command = std::make_unique<UndoCommand>();
+    command->setText(markText(changed, mark, set));
+    for (DesignerObject* element : std::as_const(changed)) {
+        scene(screenOf(element)); // an edit always has items
+        new ChangeEditorMark(element, mark, value, command.get());
+    }
+    if (set && !undoStack()->isBlocked()) {
+        // At once, instead of one by one as the marks are set.
+        QList<DesignerObject*> remaining = m_selection;
+        const QSet<DesignerObject*> going(changed.cbegin(), changed.cend());
+        if (remaining.removeIf([&going](DesignerObject* object) { return going.contains(object); }) > 0)
+            setSelection(remaining);
+    }
+    return execute(std::move(command));
+}
+
 EditResult EditSession::rename(DesignerObject* object, const QString& id)
 {
     return execute(std::make_unique<RenameObject>(object, id, nullptr));
@@ -425,6 +494,23 @@ void EditSession::onObjectRemoved(DesignerObject* object)
     };
     if (m_selection.removeIf(gone) > 0)
         Q_EMIT selectionChanged();
+}
+
+void EditSession::onObjectMarked(DesignerObject* object, const QString& mark)
+{
+    const bool concernsSelection = mark == EditorMarks::hidden() || mark == EditorMarks::locked();
+    if (m_selection.isEmpty() || !concernsSelection || object->editorMark(mark) != EditorMarks::setValue())
+        return;
+    QList<DesignerObject*> remaining = m_selection;
+    const auto stands = [object](const DesignerObject* selected) {
+        for (; selected; selected = selected->parentObject()) {
+            if (selected == object)
+                return true;
+        }
+        return false;
+    };
+    if (remaining.removeIf(stands) > 0)
+        setSelection(remaining);
 }
 
 void EditSession::onSceneSelectionChanged(CanvasScene* scene)

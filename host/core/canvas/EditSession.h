@@ -63,6 +63,11 @@ public:
                             const QString& mergeKey = {});
     /// Refused where the element cannot be rotated.
     EditResult rotateElement(DesignerObject* element, double angle, const QString& fixedPoint);
+    /// Locks \a elements against the mouse, or unlocks them; what is locked is no longer selected. \a elements that have
+    /// no such mark (EditorMarks) are left out.
+    EditResult setLocked(const QList<DesignerObject*>& elements, bool locked);
+    /// Takes \a elements out of sight on the canvas alone, or shows them again; what is hidden is no longer selected.
+    EditResult setHidden(const QList<DesignerObject*>& elements, bool hidden);
     EditResult rename(DesignerObject* object, const QString& id);
     /// Moves \a object to \a index among its siblings (back to front).
     EditResult reorder(DesignerObject* object, int index);
@@ -91,9 +96,11 @@ private:
     EditResult refused(const QString& message);
     EditResult execute(std::unique_ptr<UndoCommand> command);
     EditResult executePlan(ImageEdits::Plan plan, const QString& image, QString* id);
+    EditResult setMark(const QList<DesignerObject*>& elements, const QString& mark, bool set);
     [[nodiscard]] Screen* screenOf(DesignerObject* object) const;
     void onStepApplied(const UndoCommand* command);
     void onObjectRemoved(DesignerObject* object);
+    void onObjectMarked(DesignerObject* object, const QString& mark);
     void onSceneSelectionChanged(CanvasScene* scene);
     void dropScene(Screen* screen);
     void repaintScenes();

@@ -4,6 +4,7 @@
 #include "host/core/canvas/CanvasView.h"
 #include "host/core/canvas/GraphicsItem.h"
 #include "host/core/objects/DesignerObject.h"
+#include "host/core/objects/EditorMarks.h"
 
 #include "host/common/FrameResize.h"
 #include "host/common/LocalizationHelper.h"
@@ -120,7 +121,7 @@ HandleHit SelectionHandles::hit(const QPointF& scenePos) const
     const QList<QGraphicsItem*> near = scene->items(about, Qt::IntersectsItemBoundingRect);
     for (QGraphicsItem* graphic : near) {
         GraphicsItem* item = graphic->isSelected() ? GraphicsItem::fromGraphic(graphic) : nullptr;
-        if (item && item->isResizable())
+        if (item && item->isResizable() && !EditorMarks::isLocked(item->dataObject()))
             candidates.append(item);
     }
     for (GraphicsItem* item : std::as_const(candidates)) {
@@ -250,7 +251,8 @@ QList<GraphicsItem*> SelectionHandles::shownItems() const
     if (selected.size() > MostWithHandles)
         return items;
     for (QGraphicsItem* graphic : selected) {
-        if (GraphicsItem* item = GraphicsItem::fromGraphic(graphic))
+        GraphicsItem* item = GraphicsItem::fromGraphic(graphic);
+        if (item && !EditorMarks::isLocked(item->dataObject()))
             items.append(item);
     }
     return items;
