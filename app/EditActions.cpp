@@ -46,12 +46,14 @@ EditActions::EditActions(MessageBar* messages, QObject* parent)
         SiblingOrder::Move move;
     };
     const Order orders[] = {
-        {"order-front", "Bring to &Front", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_PageUp),
-         SiblingOrder::Move::ToFront},
-        {"order-forward", "Brin&g Forward", QKeySequence(Qt::CTRL | Qt::Key_PageUp), SiblingOrder::Move::Forward},
-        {"order-backward", "Send Back&ward", QKeySequence(Qt::CTRL | Qt::Key_PageDown), SiblingOrder::Move::Backward},
-        {"order-back", "Send to Bac&k", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_PageDown),
-         SiblingOrder::Move::ToBack},
+        {"order-front", QT_TRANSLATE_NOOP("Core", "Bring to &Front"),
+         QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_PageUp), SiblingOrder::Move::ToFront},
+        {"order-forward", QT_TRANSLATE_NOOP("Core", "Brin&g Forward"), QKeySequence(Qt::CTRL | Qt::Key_PageUp),
+         SiblingOrder::Move::Forward},
+        {"order-backward", QT_TRANSLATE_NOOP("Core", "Send Back&ward"), QKeySequence(Qt::CTRL | Qt::Key_PageDown),
+         SiblingOrder::Move::Backward},
+        {"order-back", QT_TRANSLATE_NOOP("Core", "Send to Bac&k"),
+         QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_PageDown), SiblingOrder::Move::ToBack},
     };
     for (const Order& order : orders) {
         auto* action = new WindowAction(QString::fromLatin1(order.icon), coreText(order.text), {order.shortcut}, this);

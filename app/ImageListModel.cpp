@@ -278,7 +278,7 @@ QString ImageListModel::toolTip(const QString& image) const
 {
     QStringList lines{QStringLiteral("<b>%1</b>").arg(image.toHtmlEscaped())};
     const auto known = m_loaded.constFind(image);
-    const QString reason = known == m_loaded.cend() ? QString() : coreText(qUtf8Printable(known->reason));
+    const QString reason = known == m_loaded.cend() ? QString() : known->reason;
     for (const QString& line : {detail(image), reason, uses(image)}) {
         if (!line.isEmpty())
             lines.append(line.toHtmlEscaped());

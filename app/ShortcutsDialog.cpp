@@ -30,21 +30,27 @@ QString withoutMark(QString text)
 }
 
 constexpr ListedKey CanvasKeys[] = {
-    {"Arrow keys", "Move the selection by one pixel, with Shift by ten"},
-    {"Escape", "Take the running drag back; leave the placing of an element"},
-    {"Drag", "Move elements; on empty ground, select with a frame"},
-    {"Drag a handle", "Resize, or move a point"},
-    {"Ctrl+Click, Shift+Click", "Add an element to the selection or take it out"},
-    {"Space+Drag, middle button", "Scroll"},
-    {"Ctrl+Wheel", "Zoom at the pointer"},
+    {QT_TRANSLATE_NOOP("Core", "Arrow keys"),
+     QT_TRANSLATE_NOOP("Core", "Move the selection by one pixel, with Shift by ten")},
+    {QT_TRANSLATE_NOOP("Core", "Escape"),
+     QT_TRANSLATE_NOOP("Core", "Take the running drag back; leave the placing of an element")},
+    {QT_TRANSLATE_NOOP("Core", "Drag"),
+     QT_TRANSLATE_NOOP("Core", "Move elements; on empty ground, select with a frame")},
+    {QT_TRANSLATE_NOOP("Core", "Drag a handle"), QT_TRANSLATE_NOOP("Core", "Resize, or move a point")},
+    {QT_TRANSLATE_NOOP("Core", "Ctrl+Click, Shift+Click"),
+     QT_TRANSLATE_NOOP("Core", "Add an element to the selection or take it out")},
+    {QT_TRANSLATE_NOOP("Core", "Space+Drag, middle button"), QT_TRANSLATE_NOOP("Core", "Scroll")},
+    {QT_TRANSLATE_NOOP("Core", "Ctrl+Wheel"), QT_TRANSLATE_NOOP("Core", "Zoom at the pointer")},
 };
 
 constexpr ListedKey ImageKeys[] = {
-    {"Enter", "Place the image in the middle of the view"},
-    {"F2", "Rename the image; the elements that show it follow"},
-    {"Del", "Remove the image, unless an element shows it"},
-    {"Ctrl+V", "Import the image files or the picture on the clipboard"},
-    {"Drag", "Place the image on the screen, or give it to an element's source"},
+    {QT_TRANSLATE_NOOP("Core", "Enter"), QT_TRANSLATE_NOOP("Core", "Place the image in the middle of the view")},
+    {QT_TRANSLATE_NOOP("Core", "F2"), QT_TRANSLATE_NOOP("Core", "Rename the image; the elements that show it follow")},
+    {QT_TRANSLATE_NOOP("Core", "Del"), QT_TRANSLATE_NOOP("Core", "Remove the image, unless an element shows it")},
+    {QT_TRANSLATE_NOOP("Core", "Ctrl+V"),
+     QT_TRANSLATE_NOOP("Core", "Import the image files or the picture on the clipboard")},
+    {QT_TRANSLATE_NOOP("Core", "Drag"),
+     QT_TRANSLATE_NOOP("Core", "Place the image on the screen, or give it to an element's source")},
 };
 
 } // namespace

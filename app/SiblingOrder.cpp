@@ -74,7 +74,9 @@ EditResult SiblingOrder::move(Project* project, const QList<DesignerObject*>& ob
         if (parent && parent->childList() && !parents.contains(parent))
             parents.append(parent);
     }
-    static constexpr const char* texts[] = {"Bring to Front", "Bring Forward", "Send Backward", "Send to Back"};
+    static constexpr const char* texts[] = {
+        QT_TRANSLATE_NOOP("Core", "Bring to Front"), QT_TRANSLATE_NOOP("Core", "Bring Forward"),
+        QT_TRANSLATE_NOOP("Core", "Send Backward"), QT_TRANSLATE_NOOP("Core", "Send to Back")};
     auto command = orderCommand(coreText(texts[int(move)]));
     for (DesignerObject* parent : parents) {
         const QList<int> chosen = indicesOf(parent, objects);

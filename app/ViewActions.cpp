@@ -105,9 +105,9 @@ void ViewActions::addAppearanceTo(QMenu* menu)
         const char* text;
     };
     static constexpr Choice choices[] = {
-        {Appearance::Scheme::Desktop, "As the &Desktop"},
-        {Appearance::Scheme::Light, "&Light"},
-        {Appearance::Scheme::Dark, "Dar&k"},
+        {Appearance::Scheme::Desktop, QT_TRANSLATE_NOOP("Core", "As the &Desktop")},
+        {Appearance::Scheme::Light, QT_TRANSLATE_NOOP("Core", "&Light")},
+        {Appearance::Scheme::Dark, QT_TRANSLATE_NOOP("Core", "Dar&k")},
     };
     auto* group = new QActionGroup(this);
     for (const Choice& choice : choices) {

@@ -45,23 +45,23 @@ constexpr double SmallestSide = 1; // pixels
 
 /// What the add button makes of 3, 4, … 19 points.
 constexpr std::array<const char*, PointListWidget::MostPoints - PointListWidget::FewestPoints> AddToolTips{{
-    "Add a new point to form a square",
-    "Add a new point to form a pentagon",
-    "Add a new point to form a hexagon",
-    "Add a new point to form a heptagon",
-    "Add a new point to form an octagon",
-    "Add a new point to form a nonagon",
-    "Add a new point to form a decagon",
-    "Add a new point to form a hendecagon",
-    "Add a new point to form a dodecagon",
-    "Add a new point to form a tridecagon",
-    "Add a new point to form a tetradecagon",
-    "Add a new point to form a pentadecagon",
-    "Add a new point to form a hexadecagon",
-    "Add a new point to form a heptadecagon",
-    "Add a new point to form an octadecagon",
-    "Add a new point to form an enneadecagon",
-    "Add a new point to form an icosagon",
+    QT_TRANSLATE_NOOP("VisualDesigner", "Add a new point to form a square"),
+    QT_TRANSLATE_NOOP("VisualDesigner", "Add a new point to form a pentagon"),
+    QT_TRANSLATE_NOOP("VisualDesigner", "Add a new point to form a hexagon"),
+    QT_TRANSLATE_NOOP("VisualDesigner", "Add a new point to form a heptagon"),
+    QT_TRANSLATE_NOOP("VisualDesigner", "Add a new point to form an octagon"),
+    QT_TRANSLATE_NOOP("VisualDesigner", "Add a new point to form a nonagon"),
+    QT_TRANSLATE_NOOP("VisualDesigner", "Add a new point to form a decagon"),
+    QT_TRANSLATE_NOOP("VisualDesigner", "Add a new point to form a hendecagon"),
+    QT_TRANSLATE_NOOP("VisualDesigner", "Add a new point to form a dodecagon"),
+    QT_TRANSLATE_NOOP("VisualDesigner", "Add a new point to form a tridecagon"),
+    QT_TRANSLATE_NOOP("VisualDesigner", "Add a new point to form a tetradecagon"),
+    QT_TRANSLATE_NOOP("VisualDesigner", "Add a new point to form a pentadecagon"),
+    QT_TRANSLATE_NOOP("VisualDesigner", "Add a new point to form a hexadecagon"),
+    QT_TRANSLATE_NOOP("VisualDesigner", "Add a new point to form a heptadecagon"),
+    QT_TRANSLATE_NOOP("VisualDesigner", "Add a new point to form an octadecagon"),
+    QT_TRANSLATE_NOOP("VisualDesigner", "Add a new point to form an enneadecagon"),
+    QT_TRANSLATE_NOOP("VisualDesigner", "Add a new point to form an icosagon"),
 }};
 
 /// Exact, unlike QPolygonF's own comparison.
@@ -220,7 +220,8 @@ void PointListWidget::buildHeader()
     m_add->setAccessibleName(elementText("Add a point"));
     connect(m_add, &ItemButton::clicked, this, &PointListWidget::addButtonClicked);
     m_grid->addWidget(m_add, HeaderRow, ButtonColumn, Qt::AlignCenter);
-    for (const auto& [text, column] : {std::pair("X:", XColumn), std::pair("Y:", YColumn)}) {
+    for (const auto& [text, column] : {std::pair(QT_TRANSLATE_NOOP("VisualDesigner", "X:"), XColumn),
+                                       std::pair(QT_TRANSLATE_NOOP("VisualDesigner", "Y:"), YColumn)}) {
         auto* label = new QLabel(elementText(text), this);
         QFont bold = label->font();
         bold.setWeight(QFont::Bold);

@@ -30,15 +30,24 @@ struct Place
 
 /// Row by row.
 constexpr std::array Places{
-    Place{":/images/alignTopLeft", "Align text to the top left corner", Qt::AlignTop | Qt::AlignLeft},
-    Place{":/images/alignTop", "Align text to the top", Qt::AlignTop | Qt::AlignHCenter},
-    Place{":/images/alignTopRight", "Align text to the top right corner", Qt::AlignTop | Qt::AlignRight},
-    Place{":/images/alignLeft", "Align text to the left", Qt::AlignVCenter | Qt::AlignLeft},
-    Place{":/images/alignCenter", "Align text to the center", Qt::AlignVCenter | Qt::AlignHCenter},
-    Place{":/images/alignRight", "Align text to the right", Qt::AlignVCenter | Qt::AlignRight},
-    Place{":/images/alignBottomLeft", "Align text to the bottom left corner", Qt::AlignBottom | Qt::AlignLeft},
-    Place{":/images/alignBottom", "Align text to the bottom center", Qt::AlignBottom | Qt::AlignHCenter},
-    Place{":/images/alignBottomRight", "Align text to the bottom right corner", Qt::AlignBottom | Qt::AlignRight},
+    Place{":/images/alignTopLeft", QT_TRANSLATE_NOOP("VisualDesigner", "Align text to the top left corner"),
+          Qt::AlignTop | Qt::AlignLeft},
+    Place{":/images/alignTop", QT_TRANSLATE_NOOP("VisualDesigner", "Align text to the top"),
+          Qt::AlignTop | Qt::AlignHCenter},
+    Place{":/images/alignTopRight", QT_TRANSLATE_NOOP("VisualDesigner", "Align text to the top right corner"),
+          Qt::AlignTop | Qt::AlignRight},
+    Place{":/images/alignLeft", QT_TRANSLATE_NOOP("VisualDesigner", "Align text to the left"),
+          Qt::AlignVCenter | Qt::AlignLeft},
+    Place{":/images/alignCenter", QT_TRANSLATE_NOOP("VisualDesigner", "Align text to the center"),
+          Qt::AlignVCenter | Qt::AlignHCenter},
+    Place{":/images/alignRight", QT_TRANSLATE_NOOP("VisualDesigner", "Align text to the right"),
+          Qt::AlignVCenter | Qt::AlignRight},
+    Place{":/images/alignBottomLeft", QT_TRANSLATE_NOOP("VisualDesigner", "Align text to the bottom left corner"),
+          Qt::AlignBottom | Qt::AlignLeft},
+    Place{":/images/alignBottom", QT_TRANSLATE_NOOP("VisualDesigner", "Align text to the bottom center"),
+          Qt::AlignBottom | Qt::AlignHCenter},
+    Place{":/images/alignBottomRight", QT_TRANSLATE_NOOP("VisualDesigner", "Align text to the bottom right corner"),
+          Qt::AlignBottom | Qt::AlignRight},
 };
 
 /// The place that a key leads to from \a place, both row by row; -1 for a key that leads nowhere.

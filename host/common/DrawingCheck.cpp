@@ -1,6 +1,7 @@
 #include "host/common/DrawingCheck.h"
 
 #include "host/common/DrawingElements.h"
+#include "host/common/LocalizationHelper.h"
 #include "host/common/RasterFile.h"
 #include "host/common/StyleSheetCost.h"
 
@@ -62,15 +63,17 @@ bool hasParameterEntity(const QByteArray& svg)
 QString faultOfText(const QByteArray& svg)
 {
     if (svg.size() > LargestFile) {
-        return QStringLiteral("the file is larger than 8 MiB");
+        return LocalizationHelper::coreString(QStringLiteral("the file is larger than 8 MiB"));
     }
     if (svg.contains('\0')) {
-        return QStringLiteral("the file is not in UTF-8");
+        return LocalizationHelper::coreString(QStringLiteral("the file is not in UTF-8"));
     }
     if (hasParameterEntity(svg)) {
-        return QStringLiteral("it declares entities that cannot be followed");
+        return LocalizationHelper::coreString(QStringLiteral("it declares entities that cannot be followed"));
     }
-    return hasCrowdedElement(svg) ? QStringLiteral("an element of it has too many attributes") : QString();
+    return hasCrowdedElement(svg)
+               ? LocalizationHelper::coreString(QStringLiteral("an element of it has too many attributes"))
+               : QString();
 }
 
 /** The name without its prefix: "image" of "svg:image". Prefixes are often left undeclared, and nobody minds. */
@@ -109,16 +112,17 @@ public:
             return m_xml.errorString();
         }
         if (m_elements.count() == 0) {
-            return QStringLiteral("the file holds no drawing");
+            return LocalizationHelper::coreString(QStringLiteral("the file holds no drawing"));
         }
         if (m_styles.isTooLarge()) {
-            return QStringLiteral("its style sheets are too large");
+            return LocalizationHelper::coreString(QStringLiteral("its style sheets are too large"));
         }
         const qint64 weight = m_elements.expandedWeight(MostElements);
         if (weight == DrawingElements::Endless) {
-            return QStringLiteral("an element refers to itself");
+            return LocalizationHelper::coreString(QStringLiteral("an element refers to itself"));
         }
-        return weight > MostElements ? QStringLiteral("it has too many elements, or its references multiply them")
+        return weight > MostElements ? LocalizationHelper::coreString(
+                   QStringLiteral("it has too many elements, or its references multiply them"))
                                      : QString();
     }
 
@@ -153,7 +157,10 @@ private:
         }
     }
 
-    static QString refersElsewhere() { return QStringLiteral("it refers to another file"); }
+    static QString refersElsewhere()
+    {
+        return LocalizationHelper::coreString(QStringLiteral("it refers to another file"));
+    }
 
     /** Drawing programs declare entities for long names; they are plain texts, each used a few times. */
     QString faultOfEntities() const
@@ -165,24 +172,27 @@ private:
                 return refersElsewhere();
             }
             if (entity.value().contains(u'&') || entity.value().contains(u'<')) {
-                return QStringLiteral("it declares entities that cannot be followed");
+                return LocalizationHelper::coreString(QStringLiteral("it declares entities that cannot be followed"));
             }
             longest = qMax<qint64>(longest, entity.value().size());
         }
-        return longest * m_svg.count('&') > LargestEntities ? QStringLiteral("its entities are too large") : QString();
+        return longest * m_svg.count('&') > LargestEntities
+                   ? LocalizationHelper::coreString(QStringLiteral("its entities are too large"))
+                   : QString();
     }
 
     QString addElement()
     {
         if (m_open.size() >= DeepestNesting) {
-            return QStringLiteral("its elements are nested too deeply");
+            return LocalizationHelper::coreString(QStringLiteral("its elements are nested too deeply"));
         }
         if (m_elements.count() >= MostElements) {
-            return QStringLiteral("it has too many elements, or its references multiply them");
+            return LocalizationHelper::coreString(
+                QStringLiteral("it has too many elements, or its references multiply them"));
         }
         const QStringView name = localName(m_xml.qualifiedName());
         if (name == u"stop" && !m_open.isEmpty() && m_open.constLast().children >= MostStops) {
-            return QStringLiteral("a gradient of it has too many colours");
+            return LocalizationHelper::coreString(QStringLiteral("a gradient of it has too many colours"));
         }
         DrawingElements::Element element;
         const QXmlStreamAttributes attributes = m_xml.attributes();
@@ -197,7 +207,7 @@ private:
             } else if (key == u"class") {
                 classes = value;
             } else if (key == u"style" && value.size() > LongestStyle) {
-                return QStringLiteral("its style sheets are too large");
+                return LocalizationHelper::coreString(QStringLiteral("its style sheets are too large"));
             } else if (key == u"href") {
                 QString fault = faultOfReference(name, value, &element.references);
                 if (!fault.isEmpty()) {
@@ -274,10 +284,12 @@ private:
         QString reason;
         const PictureInfo info = rasterInfo(bytes, &reason);
         if (info.kind == PictureKind::Unreadable) {
-            return QStringLiteral("a picture in it cannot be used: %1").arg(reason);
+            return LocalizationHelper::coreString(QStringLiteral("a picture in it cannot be used: %1")).arg(reason);
         }
         m_pixels += qint64(info.size.width()) * info.size.height();
-        return m_pixels > MostEmbeddedPixels ? QStringLiteral("the pictures in it are too large") : QString();
+        return m_pixels > MostEmbeddedPixels
+                   ? LocalizationHelper::coreString(QStringLiteral("the pictures in it are too large"))
+                   : QString();
     }
 
     const QByteArray& m_svg;

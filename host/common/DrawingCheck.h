@@ -7,8 +7,8 @@
 
 namespace Korvex::Meridane::Common {
 /**
- * Whether the SVG drawing \p svg can be read without harm; \p reason (which may be null) says in English why it cannot. How
- * long it takes to paint is asked of paintingEffort().
+ * Whether the SVG drawing \p svg can be read without harm; \p reason (which may be null) says in the user's language why it
+ * cannot. How long it takes to paint is asked of paintingEffort().
  *
  * A small drawing can ask for endless work: elements that refer to each other multiply with every level, every selector of
  * a style sheet is tried on every element, embedded pictures unpack to any size, and references lead to other files, maybe

@@ -2,6 +2,7 @@
 
 #include "host/common/DrawingCheck.h"
 #include "host/common/DrawingEffort.h"
+#include "host/common/LocalizationHelper.h"
 #include "host/common/RasterFile.h"
 
 #include <QtCore/QFile>
@@ -38,13 +39,13 @@ bool readFile(const QString& file, QByteArray* bytes, QString* reason)
     };
     const QFileInfo info(file);
     if (!info.exists()) {
-        return refuse(QStringLiteral("the file is missing"));
+        return refuse(LocalizationHelper::coreString(QStringLiteral("the file is missing")));
     }
     if (!info.isFile()) {
-        return refuse(QStringLiteral("this is no regular file"));
+        return refuse(LocalizationHelper::coreString(QStringLiteral("this is no regular file")));
     }
     if (info.size() > LargestFile) {
-        return refuse(QStringLiteral("the file is larger than 64 MiB"));
+        return refuse(LocalizationHelper::coreString(QStringLiteral("the file is larger than 64 MiB")));
     }
     QFile source(file);
     if (!source.open(QIODevice::ReadOnly)) {
@@ -86,11 +87,11 @@ PictureContent drawingFrom(const QByteArray& svg)
     drawing->setOptions(QtSvg::Tiny12FeaturesOnly);
 #endif
     if (!drawing->load(svg)) {
-        content.reason = QStringLiteral("the file holds no drawing");
+        content.reason = LocalizationHelper::coreString(QStringLiteral("the file holds no drawing"));
         return content;
     }
     if (paintingEffort(drawing.get(), MostEffort) > MostEffort) {
-        content.reason = QStringLiteral("it takes too long to paint");
+        content.reason = LocalizationHelper::coreString(QStringLiteral("it takes too long to paint"));
         return content;
     }
     static std::atomic<quint64> lastId = 0;
@@ -112,7 +113,7 @@ PictureInfo rasterInfoOf(const QString& file, const QByteArray& bytes, QString* 
         info.kind = PictureKind::Still;
         info.frames = 1;
     } else if (info.frames > MostFrames) {
-        *reason = QStringLiteral("the animation has too many frames");
+        *reason = LocalizationHelper::coreString(QStringLiteral("the animation has too many frames"));
         return PictureInfo();
     }
     return info;

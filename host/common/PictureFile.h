@@ -39,7 +39,7 @@ struct PictureInfo
  * A file is unreadable that would cost too much: one of more than 64 MiB, a picture that rasterInfo() refuses, an animation
  * of more than 10 000 frames, a drawing that isHarmlessDrawing() refuses or that takes more than five seconds to paint on
  * 1000 × 1000 pixels (paintingEffort()), vectors under another name than ".svg". So is everything that is no regular file.
- * \p reason (which may be null) says in English what is wrong.
+ * \p reason (which may be null) says in the user's language what is wrong.
  */
 [[nodiscard]] MERIDANE_COMMON_EXPORT PictureInfo pictureInfo(const QString& file, QString* reason = nullptr);
 
@@ -47,7 +47,7 @@ struct PictureInfo
 struct PictureContent
 {
     PictureInfo info; ///< Unreadable also for a file that turned out to be damaged
-    QString reason; ///< for an unreadable one, in English
+    QString reason; ///< for an unreadable one, in the user's language
     QImage pixels; ///< of a still picture, turned as its camera says; the first frame of an animation
     QByteArray animation; ///< the file, from which the frames of an animation are decoded as they are shown
     std::shared_ptr<QSvgRenderer> drawing; ///< stands still, and belongs to no thread

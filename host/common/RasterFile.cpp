@@ -1,5 +1,7 @@
 #include "host/common/RasterFile.h"
 
+#include "host/common/LocalizationHelper.h"
+
 #include <QtCore/QBuffer>
 #include <QtCore/QtEndian>
 #include <QtGui/QImageReader>
@@ -72,21 +74,26 @@ PictureInfo rasterInfo(const QByteArray& file, QString* reason)
     QImageReader reader(&buffer);
     const QByteArray format = reader.format();
     if (holdsInstructions(format)) {
-        return unreadable(reason, format == "svg" ? QStringLiteral("a drawing needs a file name that ends in .svg")
-                                                  : QStringLiteral("pictures of this kind are not shown"));
+        return unreadable(
+            reason,
+            format == "svg"
+                ? LocalizationHelper::coreString(QStringLiteral("a drawing needs a file name that ends in .svg"))
+                : LocalizationHelper::coreString(QStringLiteral("pictures of this kind are not shown")));
     }
     if (!reader.canRead()) {
-        return unreadable(reason, QStringLiteral("the file holds no picture that can be read"));
+        return unreadable(reason,
+                          LocalizationHelper::coreString(QStringLiteral("the file holds no picture that can be read")));
     }
     const QSize size = turnedSize(reader);
     if (size.isEmpty()) {
-        return unreadable(reason, QStringLiteral("the file does not say how large the picture is"));
+        return unreadable(
+            reason, LocalizationHelper::coreString(QStringLiteral("the file does not say how large the picture is")));
     }
     if (qint64(size.width()) * size.height() > MostPixels) {
-        return unreadable(reason, QStringLiteral("the picture is too large"));
+        return unreadable(reason, LocalizationHelper::coreString(QStringLiteral("the picture is too large")));
     }
     if (format == "jpeg" && scanCount(bytes) > MostScans) {
-        return unreadable(reason, QStringLiteral("the picture has too many scans"));
+        return unreadable(reason, LocalizationHelper::coreString(QStringLiteral("the picture has too many scans")));
     }
     const int frames = format == "gif" ? qMax(reader.imageCount(), 1) : 1;
     return {frames > 1 ? PictureKind::Animation : PictureKind::Still, size, frames, format};
@@ -106,7 +113,7 @@ QImage readRaster(const QByteArray& file, QString* reason)
     QImage picture = reader.read();
     // An icon file may hold another picture than it says.
     if (picture.size() != info.size) {
-        unreadable(reason, QStringLiteral("the picture is damaged"));
+        unreadable(reason, LocalizationHelper::coreString(QStringLiteral("the picture is damaged")));
         return QImage();
     }
     const bool translucent = picture.hasAlphaChannel();

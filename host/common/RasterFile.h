@@ -12,7 +12,7 @@ namespace Korvex::Meridane::Common {
  * several frames that can be played, whatever the file is called.
  *
  * Unreadable is what cannot be recognised, and what would cost too much: more than 32 million pixels, a progressive JPEG
- * of more than 100 scans, vectors. \p reason (which may be null) says in English what is wrong.
+ * of more than 100 scans, vectors. \p reason (which may be null) says in the user's language what is wrong.
  */
 [[nodiscard]] PictureInfo rasterInfo(const QByteArray& file, QString* reason);
 

@@ -54,9 +54,8 @@ void EditGesture::finish(const CanvasPointer& pointer)
     end();
     command->adopt(m_record.changes());
     const DesignerObject* grabbed = m_objects.first();
-    command->setText(m_objects.size() == 1 && grabbed
-                         ? LocalizationHelper::coreString(stepName()).arg(grabbed->getIdName())
-                         : LocalizationHelper::coreString(stepNameOfSeveral()).arg(m_objects.size()));
+    command->setText(m_objects.size() == 1 && grabbed ? stepName().arg(grabbed->getIdName())
+                                                      : stepNameOfSeveral(int(m_objects.size())));
     command->setAllOrNothing(true);
     if (command->childCommandCount() == 0 && !command->hasEffect()) {
         m_record.restore();

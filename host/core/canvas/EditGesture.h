@@ -43,9 +43,10 @@ protected:
     /// The value string that the grabbed item would write to the property \a id, or the property's own.
     [[nodiscard]] QString pendingValue(const QString& id) const;
 
-    /// The name of the undo step for one object ("Move %1") and for several ("Move %1 Elements").
+    /// The name of the undo step in the user's language: for one object, whose id takes the place of %1 ("Move %1"), and
+    /// for \a count of them ("Move 2 Elements").
     [[nodiscard]] virtual QString stepName() const = 0;
-    [[nodiscard]] virtual QString stepNameOfSeveral() const { return stepName(); }
+    [[nodiscard]] virtual QString stepNameOfSeveral(int /*count*/) const { return stepName(); }
     /// Has the items write their state: every property of every object by rank.
     virtual void fill(UndoCommand* parent) const;
     /// Runs before the step is made and after everything was put back.

@@ -154,13 +154,13 @@ int GraphicsItem::getResizeHandle(const QPointF& scenePos, bool* handled)
     };
     const auto found = [this](TransformOrigin handle, const QString& text) {
         if (m_graphic->isSelected())
-            setHandleToolTip(LocalizationHelper::visualDesignerString(text));
+            setHandleToolTip(text);
         return int(handle);
     };
 
     for (const TransformOrigin corner : {TopLeft, TopRight, BottomLeft, BottomRight}) {
         if (way(corner).manhattanLength() <= width)
-            return found(corner, QStringLiteral("Drag this point to resize"));
+            return found(corner, LocalizationHelper::visualDesignerString(QStringLiteral("Drag this point to resize")));
     }
     const double alongVertical = std::abs(0.5 * frame.height() - width);
     const double alongHorizontal = std::abs(0.5 * frame.width() - width);
@@ -170,7 +170,7 @@ int GraphicsItem::getResizeHandle(const QPointF& scenePos, bool* handled)
         const double across = vertical ? distance.x() : distance.y();
         const double along = vertical ? distance.y() : distance.x();
         if (across <= width && along <= (vertical ? alongVertical : alongHorizontal))
-            return found(side, QStringLiteral("Drag this line to resize"));
+            return found(side, LocalizationHelper::visualDesignerString(QStringLiteral("Drag this line to resize")));
     }
     showNameToolTip();
     return Center;

@@ -6,6 +6,8 @@
 #include "host/core/canvas/GraphicsItem.h"
 #include "host/core/objects/DesignerObject.h"
 
+#include "host/common/LocalizationHelper.h"
+
 #include <QApplication>
 #include <QGraphicsItem>
 
@@ -90,12 +92,13 @@ void MoveGesture::finish(const CanvasPointer& pointer)
 
 QString MoveGesture::stepName() const
 {
-    return QStringLiteral("Move %1");
+    return Common::LocalizationHelper::coreString(QStringLiteral("Move %1"));
 }
 
-QString MoveGesture::stepNameOfSeveral() const
+QString MoveGesture::stepNameOfSeveral(int count) const
 {
-    return QStringLiteral("Move %1 Elements");
+    return Common::LocalizationHelper::coreString(QStringLiteral("Move %n Element"), QStringLiteral("Move %n Elements"),
+                                                  count);
 }
 
 } // namespace Korvex::Meridane::Designer

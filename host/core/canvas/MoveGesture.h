@@ -30,7 +30,7 @@ public:
 
 protected:
     [[nodiscard]] QString stepName() const override;
-    [[nodiscard]] QString stepNameOfSeveral() const override;
+    [[nodiscard]] QString stepNameOfSeveral(int count) const override;
 
 private:
     bool start(const CanvasPointer& pointer);

@@ -4,6 +4,8 @@
 #include "host/core/canvas/GraphicsItem.h"
 #include "host/core/objects/DesignerObject.h"
 
+#include "host/common/LocalizationHelper.h"
+
 #include <cmath>
 
 namespace Korvex::Meridane::Designer {
@@ -36,7 +38,7 @@ void PointGesture::move(const CanvasPointer& pointer)
 
 QString PointGesture::stepName() const
 {
-    return QStringLiteral("Reshape %1");
+    return Common::LocalizationHelper::coreString(QStringLiteral("Reshape %1"));
 }
 
 void PointGesture::fill(UndoCommand* parent) const

@@ -4,6 +4,7 @@
 #include "host/core/objects/DesignerObject.h"
 
 #include "host/common/FrameResize.h"
+#include "host/common/LocalizationHelper.h"
 
 #include <QGraphicsItem>
 
@@ -44,7 +45,7 @@ void ResizeGesture::move(const CanvasPointer& pointer)
 
 QString ResizeGesture::stepName() const
 {
-    return QStringLiteral("Resize %1");
+    return Common::LocalizationHelper::coreString(QStringLiteral("Resize %1"));
 }
 
 void ResizeGesture::end()

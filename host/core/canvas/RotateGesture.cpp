@@ -62,7 +62,7 @@ QString RotateGesture::readout() const
 
 QString RotateGesture::stepName() const
 {
-    return QStringLiteral("Rotate %1");
+    return Common::LocalizationHelper::coreString(QStringLiteral("Rotate %1"));
 }
 
 } // namespace Korvex::Meridane::Designer

@@ -209,7 +209,7 @@ void ProjectChecker::checkPicture(const DesignerProperty& property, const QStrin
     report(Problem::Severity::Error, property,
            LocalizationHelper::coreString(
                QStringLiteral("The image file \"%1\" cannot be shown (%2). Replace it, or link another image."))
-               .arg(file, LocalizationHelper::coreString(picture->reason)));
+               .arg(file, picture->reason));
 }
 
 bool ProjectChecker::isOffScreen(const DesignerObject* object) const

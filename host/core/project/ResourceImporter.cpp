@@ -44,7 +44,7 @@ QString faultOf(const ImageContent& image)
     QString reason;
     const PictureInfo info = Common::pictureInfo(copy.fileName(), &reason);
     if (info.kind == PictureKind::Unreadable)
-        return LocalizationHelper::coreString(reason);
+        return reason;
     if (info.kind == PictureKind::Drawing)
         return {};
     // The head of a damaged file may be in order. What is decoded here is not large.

@@ -19,10 +19,11 @@ QString weightAdvice(const DesignerProperty* property)
     const QFont& font = static_cast<const FontProperty*>(property)->value();
     if (font.weight() == QFont::Normal || font.weight() == QFont::Bold)
         return {};
-    const QString shown = font.bold() ? QStringLiteral("bold") : QStringLiteral("normal");
+    const QString shown = font.bold() ? LocalizationHelper::coreString(QStringLiteral("bold"))
+                                      : LocalizationHelper::coreString(QStringLiteral("normal"));
     return LocalizationHelper::coreString(
                QStringLiteral("A display draws a font normal or bold: the weight %1 is shown as %2."))
-        .arg(QString::number(font.weight()), LocalizationHelper::coreString(shown));
+        .arg(QString::number(font.weight()), shown);
 }
 
 } // namespace

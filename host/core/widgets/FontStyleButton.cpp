@@ -47,15 +47,15 @@ QString styleName(FontStyleButton::Style style)
 {
     switch (style) {
     case FontStyleButton::Style::Bold:
-        return QStringLiteral("Bold");
+        return QStringLiteral(QT_TRANSLATE_NOOP("Core", "Bold"));
     case FontStyleButton::Style::Italic:
-        return QStringLiteral("Italic");
+        return QStringLiteral(QT_TRANSLATE_NOOP("Core", "Italic"));
     case FontStyleButton::Style::Underline:
-        return QStringLiteral("Underline");
+        return QStringLiteral(QT_TRANSLATE_NOOP("Core", "Underline"));
     case FontStyleButton::Style::Overline:
-        return QStringLiteral("Overline");
+        return QStringLiteral(QT_TRANSLATE_NOOP("Core", "Overline"));
     case FontStyleButton::Style::StrikeOut:
-        return QStringLiteral("Strikeout");
+        return QStringLiteral(QT_TRANSLATE_NOOP("Core", "Strikeout"));
     }
     return QString();
 }

@@ -41,15 +41,15 @@ struct NamedWeight
     const char* name;
 };
 constexpr std::array<NamedWeight, 9> namedWeights{{
-    {QFont::Thin, "Thin"},
-    {QFont::ExtraLight, "Extra light"},
-    {QFont::Light, "Light"},
-    {QFont::Normal, "Normal"},
-    {QFont::Medium, "Medium"},
-    {QFont::DemiBold, "Semi-bold"},
-    {QFont::Bold, "Bold"},
-    {QFont::ExtraBold, "Extra bold"},
-    {QFont::Black, "Black"},
+    {QFont::Thin, QT_TRANSLATE_NOOP("Core", "Thin")},
+    {QFont::ExtraLight, QT_TRANSLATE_NOOP("Core", "Extra light")},
+    {QFont::Light, QT_TRANSLATE_NOOP("Core", "Light")},
+    {QFont::Normal, QT_TRANSLATE_NOOP("Core", "Normal")},
+    {QFont::Medium, QT_TRANSLATE_NOOP("Core", "Medium")},
+    {QFont::DemiBold, QT_TRANSLATE_NOOP("Core", "Semi-bold")},
+    {QFont::Bold, QT_TRANSLATE_NOOP("Core", "Bold")},
+    {QFont::ExtraBold, QT_TRANSLATE_NOOP("Core", "Extra bold")},
+    {QFont::Black, QT_TRANSLATE_NOOP("Core", "Black")},
 }};
 
 SpinBox* createSpacingField(const QString& label, QWidget* parent)

@@ -27,9 +27,11 @@ constexpr double chosenRadius = 5;
 QString pointLabel(int index)
 {
     const std::array<QString, lastIndex + 1> labels{
-        QStringLiteral("Top left"),    QStringLiteral("Top"),    QStringLiteral("Top right"),
-        QStringLiteral("Left"),        QStringLiteral("Center"), QStringLiteral("Right"),
-        QStringLiteral("Bottom left"), QStringLiteral("Bottom"), QStringLiteral("Bottom right"),
+        QStringLiteral(QT_TRANSLATE_NOOP("Core", "Top left")),     QStringLiteral(QT_TRANSLATE_NOOP("Core", "Top")),
+        QStringLiteral(QT_TRANSLATE_NOOP("Core", "Top right")),    QStringLiteral(QT_TRANSLATE_NOOP("Core", "Left")),
+        QStringLiteral(QT_TRANSLATE_NOOP("Core", "Center")),       QStringLiteral(QT_TRANSLATE_NOOP("Core", "Right")),
+        QStringLiteral(QT_TRANSLATE_NOOP("Core", "Bottom left")),  QStringLiteral(QT_TRANSLATE_NOOP("Core", "Bottom")),
+        QStringLiteral(QT_TRANSLATE_NOOP("Core", "Bottom right")),
     };
     return LocalizationHelper::coreString(labels.at(static_cast<std::size_t>(index)));
 }
