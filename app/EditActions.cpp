@@ -1,17 +1,18 @@
 #include "app/EditActions.h"
 
 #include "app/CoreText.h"
-#include "app/ElementClipboard.h"
 #include "app/ImageData.h"
 #include "app/MessageBar.h"
-#include "app/SiblingOrder.h"
 #include "app/WindowAction.h"
 
+#include "host/core/arrange/ElementClipboard.h"
+#include "host/core/arrange/SiblingOrder.h"
+#include "host/core/canvas/CanvasScene.h"
 #include "host/core/canvas/EditSession.h"
+#include "host/core/objects/EditorMarks.h"
 #include "host/core/objects/Element.h"
 #include "host/core/objects/Screen.h"
 #include "host/core/project/Project.h"
-#include "host/core/properties/ObjectListProperty.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -25,38 +26,45 @@ EditActions::EditActions(MessageBar* messages, QObject* parent)
     , m_messages(messages)
 {
     const auto keys = [](QKeySequence::StandardKey key) { return QKeySequence::keyBindings(key); };
-    m_undo = make("undo", "Un&do", keys(QKeySequence::Undo), &EditActions::undo);
-    m_redo = make("redo", "&Redo", {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)},
-                  &EditActions::redo);
-    m_cut = make("cut", "Cu&t", keys(QKeySequence::Cut), &EditActions::cut);
-    m_copy = make("copy", "&Copy", keys(QKeySequence::Copy), &EditActions::copy);
-    m_paste = make("paste", "&Paste", keys(QKeySequence::Paste), &EditActions::paste);
-    m_duplicate = make("duplicate", "Dup&licate", {QKeySequence(Qt::CTRL | Qt::Key_D)}, &EditActions::duplicate);
-    m_delete = make("delete", "D&elete", {QKeySequence(Qt::Key_Delete)}, &EditActions::remove);
-    m_selectAll = make("select-all", "Select &All", keys(QKeySequence::SelectAll), &EditActions::selectAll);
-    m_rename = make("rename", "Rena&me", {QKeySequence(Qt::Key_F2)}, &EditActions::renameRequested);
-    m_addScreen = make("screen-add", "Add &New Screen", {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N)},
+    m_undo = make("edit.undo", "undo", "Un&do", keys(QKeySequence::Undo), &EditActions::undo);
+    m_redo =
+        make("edit.redo", "redo", "&Redo",
+             {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)}, &EditActions::redo);
+    m_cut = make("edit.cut", "cut", "Cu&t", keys(QKeySequence::Cut), &EditActions::cut);
+    m_copy = make("edit.copy", "copy", "&Copy", keys(QKeySequence::Copy), &EditActions::copy);
+    m_paste = make("edit.paste", "paste", "&Paste", keys(QKeySequence::Paste), &EditActions::paste);
+    m_pasteInPlace = make("edit.pasteInPlace", "paste", "Paste in Place",
+                          {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V)}, &EditActions::pasteInPlace);
+    m_duplicate = make("edit.duplicate", "duplicate", "Dup&licate", {QKeySequence(Qt::CTRL | Qt::Key_D)},
+                       &EditActions::duplicate);
+    m_delete = make("edit.delete", "delete", "D&elete", {QKeySequence(Qt::Key_Delete)}, &EditActions::remove);
+    m_selectAll =
+        make("edit.selectAll", "select-all", "Select &All", keys(QKeySequence::SelectAll), &EditActions::selectAll);
+    m_rename = make("edit.rename", "rename", "Rena&me", {QKeySequence(Qt::Key_F2)}, &EditActions::renameRequested);
+    m_addScreen = make("screen.add", "screen-add", "Add &New Screen", {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N)},
                        &EditActions::addScreen);
 
     struct Order
     {
+        const char* name;
         const char* icon;
         const char* text;
         QKeySequence shortcut;
         SiblingOrder::Move move;
     };
     const Order orders[] = {
-        {"order-front", QT_TRANSLATE_NOOP("Core", "Bring to &Front"),
+        {"arrange.bringToFront", "order-front", QT_TRANSLATE_NOOP("Core", "Bring to &Front"),
          QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_PageUp), SiblingOrder::Move::ToFront},
-        {"order-forward", QT_TRANSLATE_NOOP("Core", "Brin&g Forward"), QKeySequence(Qt::CTRL | Qt::Key_PageUp),
-         SiblingOrder::Move::Forward},
-        {"order-backward", QT_TRANSLATE_NOOP("Core", "Send Back&ward"), QKeySequence(Qt::CTRL | Qt::Key_PageDown),
-         SiblingOrder::Move::Backward},
-        {"order-back", QT_TRANSLATE_NOOP("Core", "Send to Bac&k"),
+        {"arrange.bringForward", "order-forward", QT_TRANSLATE_NOOP("Core", "Brin&g Forward"),
+         QKeySequence(Qt::CTRL | Qt::Key_PageUp), SiblingOrder::Move::Forward},
+        {"arrange.sendBackward", "order-backward", QT_TRANSLATE_NOOP("Core", "Send Back&ward"),
+         QKeySequence(Qt::CTRL | Qt::Key_PageDown), SiblingOrder::Move::Backward},
+        {"arrange.sendToBack", "order-back", QT_TRANSLATE_NOOP("Core", "Send to Bac&k"),
          QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_PageDown), SiblingOrder::Move::ToBack},
     };
     for (const Order& order : orders) {
         auto* action = new WindowAction(QString::fromLatin1(order.icon), coreText(order.text), {order.shortcut}, this);
+        action->setObjectName(QLatin1String(order.name));
         connect(action, &QAction::triggered, this, [this, move = order.move] {
             if (m_session)
                 report(SiblingOrder::move(m_session->project(), elements(), move));
@@ -67,10 +75,11 @@ EditActions::EditActions(MessageBar* messages, QObject* parent)
     setSession(nullptr);
 }
 
-QAction* EditActions::make(const char* icon, const char* text, const QList<QKeySequence>& shortcuts,
+QAction* EditActions::make(const char* name, const char* icon, const char* text, const QList<QKeySequence>& shortcuts,
                            void (EditActions::*run)())
 {
     auto* action = new WindowAction(QString::fromLatin1(icon), coreText(text), shortcuts, this);
+    action->setObjectName(QLatin1String(name));
     connect(action, &QAction::triggered, this, run);
     return action;
 }
@@ -79,7 +88,7 @@ void EditActions::addTo(QMenu* menu)
 {
     menu->addActions({m_undo, m_redo});
     menu->addSeparator();
-    menu->addActions({m_cut, m_copy, m_paste, m_duplicate, m_delete});
+    menu->addActions({m_cut, m_copy, m_paste, m_pasteInPlace, m_duplicate, m_delete});
     menu->addSeparator();
     menu->addAction(m_selectAll);
     menu->addAction(m_rename);
@@ -103,6 +112,7 @@ void EditActions::setSession(EditSession* session)
         m_session->project()->disconnect(this);
     }
     m_session = session;
+    m_duplicates = {};
     if (session) {
         UndoStack* stack = session->undoStack();
         connect(stack, &QUndoStack::indexChanged, this, &EditActions::updateHistory);
@@ -110,6 +120,7 @@ void EditActions::setSession(EditSession* session)
         connect(stack, &UndoStack::blockedChanged, this, &EditActions::updateHistory);
         connect(stack, &UndoStack::blockedChanged, this, &EditActions::updateSelection);
         connect(session, &EditSession::selectionChanged, this, &EditActions::updateSelection);
+        connect(session->project(), &Project::objectMarked, this, &EditActions::updateSelection);
         connect(session, &EditSession::currentScreenChanged, this, [this](Screen*) { updateSelection(); });
     }
     updateHistory();
@@ -132,7 +143,7 @@ void EditActions::cut()
 {
     copy();
     if (m_session)
-        report(m_session->removeElements(ElementClipboard::copyable(m_session->selection())));
+        report(m_session->removeElements(removable()));
 }
 
 void EditActions::copy()
@@ -142,6 +153,9 @@ void EditActions::copy()
         return;
     auto* content = new QMimeData;
     content->setData(ElementClipboard::mimeType(), data);
+    // For other programs; in which format is told by what they ask for.
+    if (const QImage picture = ElementClipboard::picture(m_session, m_session->selection()); !picture.isNull())
+        content->setImageData(picture);
     QGuiApplication::clipboard()->setMimeData(content);
 }
 
@@ -156,13 +170,19 @@ void EditActions::paste()
         report(ElementClipboard::insert(m_session, content->data(ElementClipboard::mimeType()), coreText("Paste")));
 }
 
+void EditActions::pasteInPlace()
+{
+    const QMimeData* content = QGuiApplication::clipboard()->mimeData();
+    if (!m_session || !content || !content->hasFormat(ElementClipboard::mimeType()))
+        return;
+    report(ElementClipboard::insert(m_session, content->data(ElementClipboard::mimeType()), coreText("Paste in Place"),
+                                    ElementClipboard::Placement::InPlace));
+}
+
 void EditActions::duplicate()
 {
-    if (!m_session)
-        return;
-    const QByteArray data = ElementClipboard::write(m_session, m_session->selection());
-    if (!data.isEmpty())
-        report(ElementClipboard::insert(m_session, data, coreText("Duplicate")));
+    if (m_session)
+        report(m_duplicates.duplicate(m_session, m_session->selection()));
 }
 
 void EditActions::remove()
@@ -171,7 +191,7 @@ void EditActions::remove()
         return;
     const QList<DesignerObject*> removed = elements();
     if (!removed.isEmpty()) {
-        report(m_session->removeElements(ElementClipboard::copyable(removed)));
+        report(m_session->removeElements(removable()));
         return;
     }
     const QList<DesignerObject*> selection = m_session->selection();
@@ -188,8 +208,7 @@ void EditActions::selectAll()
     Screen* screen = m_session ? m_session->currentScreen() : nullptr;
     if (!screen)
         return;
-    const auto& items = screen->childList()->items();
-    m_session->setSelection(QList<DesignerObject*>(items.cbegin(), items.cend()));
+    m_session->setSelection(m_session->scene(screen)->selectableElements());
 }
 
 void EditActions::addScreen()
@@ -221,17 +240,28 @@ void EditActions::updateSelection()
     const bool hasElements = free && !elements().isEmpty();
     const bool isScreen = free && selection.size() == 1 && qobject_cast<Screen*>(selection.constFirst());
     const bool hasScreen = free && m_session->currentScreen();
-    for (QAction* action : {m_cut, m_copy, m_duplicate})
+    const bool hasRemovable = hasElements && !removable().isEmpty();
+    for (QAction* action : {m_copy, m_duplicate})
         action->setEnabled(hasElements);
+    m_cut->setEnabled(hasRemovable);
     for (QAction* action : m_order)
         action->setEnabled(hasElements);
-    m_delete->setEnabled(hasElements || isScreen);
+    m_delete->setEnabled(hasRemovable || isScreen);
     m_rename->setEnabled(free && selection.size() == 1);
     m_selectAll->setEnabled(hasScreen);
     m_addScreen->setEnabled(free);
     const QMimeData* content = QGuiApplication::clipboard()->mimeData();
-    m_paste->setEnabled(hasScreen && content
-                        && (content->hasFormat(ElementClipboard::mimeType()) || ImageData::holdsImages(content)));
+    const bool holdsElements = content && content->hasFormat(ElementClipboard::mimeType());
+    m_paste->setEnabled(hasScreen && (holdsElements || (content && ImageData::holdsImages(content))));
+    m_pasteInPlace->setEnabled(hasScreen && holdsElements);
+}
+
+/// The selected elements that are not locked.
+QList<DesignerObject*> EditActions::removable() const
+{
+    QList<DesignerObject*> removable = ElementClipboard::copyable(elements());
+    removable.removeIf([](const DesignerObject* object) { return EditorMarks::isLocked(object); });
+    return removable;
 }
 
 void EditActions::report(const EditResult& result)

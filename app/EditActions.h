@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/core/arrange/DuplicateSeries.h"
+
 #include <QObject>
 #include <QPointer>
 
@@ -47,12 +49,14 @@ Q_SIGNALS:
     void imagesPasted(const QMimeData* data);
 
 private:
-    QAction* make(const char* icon, const char* text, const QList<QKeySequence>& shortcuts, void (EditActions::*run)());
+    QAction* make(const char* name, const char* icon, const char* text, const QList<QKeySequence>& shortcuts,
+                  void (EditActions::*run)());
     void undo();
     void redo();
     void cut();
     void copy();
     void paste();
+    void pasteInPlace();
     void duplicate();
     void remove();
     void selectAll();
@@ -61,14 +65,17 @@ private:
     void updateSelection();
     void report(const EditResult& result);
     [[nodiscard]] QList<DesignerObject*> elements() const;
+    [[nodiscard]] QList<DesignerObject*> removable() const;
 
     QPointer<EditSession> m_session;
+    DuplicateSeries m_duplicates;
     MessageBar* m_messages;
     QAction* m_undo;
     QAction* m_redo;
     QAction* m_cut;
     QAction* m_copy;
     QAction* m_paste;
+    QAction* m_pasteInPlace;
     QAction* m_duplicate;
     QAction* m_delete;
     QAction* m_selectAll;

@@ -2,9 +2,9 @@
 
 #include "app/CoreText.h"
 #include "app/ElementPicture.h"
-#include "app/SiblingOrder.h"
 #include "app/ThemedIcon.h"
 
+#include "host/core/arrange/SiblingOrder.h"
 #include "host/core/canvas/EditSession.h"
 #include "host/core/objects/Screen.h"
 #include "host/core/objects/UnknownElement.h"

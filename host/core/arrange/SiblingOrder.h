@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/CoreExport.h"
 #include "host/core/commands/UndoStack.h"
 
 #include <QList>
@@ -15,9 +16,11 @@ class Project;
  * Objects of several parents are ordered within each. Objects that are moved together keep their order. One change is
  * one undo step.
  */
-class SiblingOrder
+class MERIDANE_CORE_EXPORT SiblingOrder
 {
 public:
+    SiblingOrder() = delete;
+
     enum class Move
     {
         ToFront,

@@ -1,17 +1,19 @@
-#include "app/SiblingOrder.h"
-
-#include "app/CoreText.h"
+#include "host/core/arrange/SiblingOrder.h"
 
 #include "host/core/commands/MoveObject.h"
 #include "host/core/objects/DesignerObject.h"
 #include "host/core/project/Project.h"
 #include "host/core/properties/ObjectListProperty.h"
 
+#include "host/common/LocalizationHelper.h"
+
 #include <QHash>
 
 #include <algorithm>
 
 namespace Korvex::Meridane::Designer {
+
+using Common::LocalizationHelper;
 
 namespace {
 
@@ -77,7 +79,7 @@ EditResult SiblingOrder::move(Project* project, const QList<DesignerObject*>& ob
     static constexpr const char* texts[] = {
         QT_TRANSLATE_NOOP("Core", "Bring to Front"), QT_TRANSLATE_NOOP("Core", "Bring Forward"),
         QT_TRANSLATE_NOOP("Core", "Send Backward"), QT_TRANSLATE_NOOP("Core", "Send to Back")};
-    auto command = orderCommand(coreText(texts[int(move)]));
+    auto command = orderCommand(LocalizationHelper::coreString(QString::fromUtf8(texts[int(move)])));
     for (DesignerObject* parent : parents) {
         const QList<int> chosen = indicesOf(parent, objects);
         addMoves(parent, chosen, targets(chosen, int(parent->childList()->items().size()), move), command.get());
@@ -88,7 +90,7 @@ EditResult SiblingOrder::move(Project* project, const QList<DesignerObject*>& ob
 EditResult SiblingOrder::moveTo(Project* project, DesignerObject* parent, const QList<DesignerObject*>& objects,
                                 int index)
 {
-    auto command = orderCommand(coreText("Change Order"));
+    auto command = orderCommand(LocalizationHelper::coreString(QStringLiteral("Change Order")));
     const QList<int> chosen = indicesOf(parent, objects);
     const int others = int(parent->childList()->items().size() - chosen.size());
     QList<int> targets;

@@ -1,4 +1,4 @@
-#include "app/ElementClipboard.h"
+#include "host/core/arrange/ElementClipboard.h"
 
 #include "host/core/canvas/EditSession.h"
 #include "host/core/objects/Screen.h"

@@ -1,4 +1,4 @@
-#include "app/SiblingOrder.h"
+#include "host/core/arrange/SiblingOrder.h"
 
 #include "host/core/objects/Screen.h"
 #include "host/core/project/Project.h"
