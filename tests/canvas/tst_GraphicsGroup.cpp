@@ -87,6 +87,19 @@ private Q_SLOTS:
         QCOMPARE(canvas.graphic(child)->mapToScene(QPointF(0, 0)), QPointF(160, 140));
     }
 
+    void turnedElementsInNestedGroupsCountUnturnedAsInTheExport()
+    {
+        CanvasFixture canvas;
+        DesignerObject* child = canvas.addRectangle(QRectF(100, 100, 100, 20));
+        canvas.set(child, "rotation", QStringLiteral("angle: 90; fixedPoint: TopLeft;"));
+        DesignerObject* inner = canvas.addGroup({100, 100}, {child});
+        DesignerObject* outer = canvas.addGroup({100, 100}, {inner});
+        QCOMPARE(inner->graphicsItem()->contentRect(), QRectF(0, 0, 100, 20));
+        QCOMPARE(outer->graphicsItem()->contentRect(), QRectF(0, 0, 100, 20));
+        QVERIFY(outer->toQml(0).contains(QStringLiteral("width: 100")));
+        QVERIFY(outer->toQml(0).contains(QStringLiteral("height: 20")));
+    }
+
     void childrenHearOfTheSelectionOfTheirGroup()
     {
         CanvasFixture canvas;

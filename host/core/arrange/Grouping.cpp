@@ -47,7 +47,10 @@ QPointF cornerOf(const QList<DesignerObject*>& members, const ElementPlace& pare
     for (const DesignerObject* member : members) {
         const QTransform toParent = ElementPlaces::placeOf(member).toScene * fromScene;
         content |= ElementPlaces::contentBounds(member, toParent);
-        whole = whole && isWhole(withoutNoise(QPointF(toParent.dx(), toParent.dy())));
+        const QTransform fromOwner = ElementPlaces::placeOf(member->parentObject()).toScene * fromScene;
+        const QPointF position =
+            ValueConversion::toPoint(member->getProperty(QStringLiteral("position"))->valueString());
+        whole = whole && fromOwner.type() <= QTransform::TxTranslate && isWhole(withoutNoise(fromOwner.map(position)));
     }
     const QPointF corner = withoutNoise(content.topLeft());
     // What stands on whole pixels stays there.

@@ -95,7 +95,8 @@ void GraphicsGroup::measure() const
             continue;
         const QRectF outline = item->outerRect();
         m_outer |= child->mapRectToParent(outline);
-        m_unturned |= outline.translated(child->pos());
+        const auto* group = dynamic_cast<const GraphicsGroup*>(item);
+        m_unturned |= (group ? group->m_unturned : outline).translated(child->pos());
     }
     m_measured = true;
 }
