@@ -42,17 +42,56 @@ private Q_SLOTS:
         QVERIFY(m_canvas->selected().isEmpty());
     }
 
-    void ctrlAndShiftToggle()
+    void shiftToggles()
     {
-        for (const Qt::KeyboardModifier modifier : {Qt::ControlModifier, Qt::ShiftModifier}) {
-            m_canvas->select({m_first});
-            m_canvas->click({320, 120}, modifier);
-            QCOMPARE(m_canvas->selected(), Objects({m_first, m_second}));
-            m_canvas->click({150, 140}, modifier);
-            QCOMPARE(m_canvas->selected(), Objects{m_second});
-            m_canvas->click({20, 20}, modifier);
-            QCOMPARE(m_canvas->selected(), Objects{m_second});
+        m_canvas->select({m_first});
+        m_canvas->click({320, 120}, Qt::ShiftModifier);
+        QCOMPARE(m_canvas->selected(), Objects({m_first, m_second}));
+        m_canvas->click({150, 140}, Qt::ShiftModifier);
+        QCOMPARE(m_canvas->selected(), Objects{m_second});
+        m_canvas->click({20, 20}, Qt::ShiftModifier);
+        QCOMPARE(m_canvas->selected(), Objects{m_second});
+    }
+
+    void ctrlGoesThroughWhatLiesBeneathAndBeginsAgainInFront()
+    {
+        DesignerObject* fourth = m_canvas->addRectangle(QRectF(340, 130, 100, 80));
+        const QPointF onThree(380, 160);
+        for (DesignerObject* expected : {fourth, m_third, m_second, fourth}) {
+            m_canvas->click(onThree, Qt::ControlModifier);
+            QCOMPARE(m_canvas->selected(), Objects{expected});
         }
+        // What is selected elsewhere does not count.
+        m_canvas->select({m_first});
+        m_canvas->click(onThree, Qt::ControlModifier);
+        QCOMPARE(m_canvas->selected(), Objects{fourth});
+        m_canvas->click({150, 140}, Qt::ControlModifier);
+        QCOMPARE(m_canvas->selected(), Objects{m_first});
+        m_canvas->click({20, 20}, Qt::ControlModifier);
+        QCOMPARE(m_canvas->selected(), Objects{m_first});
+    }
+
+    void aDragWithCtrlMovesWhatIsSelectedBeneath()
+    {
+        m_canvas->select({m_second});
+        m_canvas->drag({380, 160}, {390, 160}, Qt::ControlModifier);
+        QCOMPARE(m_canvas->value(m_second, "position"), QStringLiteral("310,100"));
+        QCOMPARE(m_canvas->value(m_third, "position"), QStringLiteral("350,140"));
+        QCOMPARE(m_canvas->selected(), Objects{m_second});
+        QCOMPARE(m_canvas->steps(), 1);
+        m_canvas->stack()->clear();
+    }
+
+    void allElementsAtAPointAreFoundFromFrontToBack()
+    {
+        QCOMPARE(m_canvas->scene()->elementsAt({380, 160}), Objects({m_third, m_second}));
+        QVERIFY(m_canvas->scene()->elementsAt({20, 20}).isEmpty());
+        DesignerObject* group = m_canvas->addGroup({300, 100}, {m_second, m_third});
+        QCOMPARE(m_canvas->scene()->elementsAt({380, 160}), Objects({group, m_third, m_second}));
+        QCOMPARE(m_canvas->scene()->elementsAt({310, 110}), Objects({group, m_second}));
+        DesignerObject* thin = m_canvas->addRectangle(QRectF(120, 150, 60, 1));
+        QCOMPARE(m_canvas->scene()->elementsAt({150, 153}), Objects({thin, m_first}));
+        QCOMPARE(m_canvas->scene()->elementsAt({150, 156}), Objects{m_first});
     }
 
     void aClickOnOneOfSeveralSelectedReducesToIt()
@@ -108,12 +147,6 @@ private Q_SLOTS:
         QCOMPARE(m_canvas->value(m_first, "position"), QStringLiteral("100,100"));
     }
 
-private:
-    std::unique_ptr<CanvasFixture> m_canvas;
-    DesignerObject* m_first = nullptr;
-    DesignerObject* m_second = nullptr;
-    DesignerObject* m_third = nullptr;
-
     void whatIsThinIsFoundFromBeside()
     {
         CanvasFixture canvas;
@@ -141,6 +174,12 @@ private:
         canvas.click({150, 202});
         QCOMPARE(canvas.selected(), QList<DesignerObject*>{cover});
     }
+
+private:
+    std::unique_ptr<CanvasFixture> m_canvas;
+    DesignerObject* m_first = nullptr;
+    DesignerObject* m_second = nullptr;
+    DesignerObject* m_third = nullptr;
 };
 
 QTEST_MAIN(tst_CanvasSelection)

@@ -225,6 +225,31 @@ DesignerObject* CanvasScene::pointedElement(const QPointF& scenePos,
     return exact ? choose(exact) : nullptr;
 }
 
+QList<DesignerObject*> CanvasScene::elementsAt(const QPointF& scenePos) const
+{
+    const double reach = ReachOfThinItems / m_viewScale;
+    const QRectF about(scenePos.x() - reach, scenePos.y() - reach, 2 * reach, 2 * reach);
+    const QList<QGraphicsItem*> near = items(about, Qt::IntersectsItemShape);
+    QList<DesignerObject*> elements;
+    for (QGraphicsItem* graphic : near) {
+        if (!graphic->contains(graphic->mapFromScene(scenePos)) && thickness(graphic) > 2 * reach)
+            continue;
+        qsizetype place = elements.size();
+        for (QGraphicsItem* above = graphic; above; above = above->parentItem()) {
+            const GraphicsItem* item = GraphicsItem::fromGraphic(above);
+            DesignerObject* object = item ? item->dataObject() : nullptr;
+            if (!object || !above->flags().testFlag(QGraphicsItem::ItemIsSelectable))
+                continue;
+            const qsizetype known = elements.indexOf(object);
+            if (known < 0)
+                elements.insert(place, object);
+            else
+                place = known + 1;
+        }
+    }
+    return elements;
+}
+
 QList<DesignerObject*> CanvasScene::elementsIn(const QRectF& sceneRect) const
 {
     QList<DesignerObject*> elements;

@@ -1,13 +1,21 @@
 #include "host/core/canvas/CanvasView.h"
 
 #include "host/core/canvas/CanvasBackground.h"
+#include "host/core/canvas/CanvasGrid.h"
+#include "host/core/canvas/CanvasGuides.h"
 #include "host/core/canvas/CanvasKeys.h"
+#include "host/core/canvas/CanvasReadout.h"
+#include "host/core/canvas/CanvasRuler.h"
 #include "host/core/canvas/CanvasScene.h"
 #include "host/core/canvas/EditSession.h"
+#include "host/core/canvas/ElementOutline.h"
 #include "host/core/canvas/Gesture.h"
 #include "host/core/canvas/GraphicsItem.h"
+#include "host/core/canvas/GuideGesture.h"
 #include "host/core/canvas/SelectionHandles.h"
+#include "host/core/objects/EditorMarks.h"
 #include "host/core/objects/Screen.h"
+#include "host/core/project/Project.h"
 
 #include "host/common/LocalizationHelper.h"
 
@@ -30,6 +38,9 @@ CanvasView::CanvasView(EditSession* session, QWidget* parent)
     : QGraphicsView(parent)
     , m_session(session)
     , m_keys(std::make_unique<CanvasKeys>(this))
+    , m_guides(std::make_unique<CanvasGuides>(this))
+    , m_topRuler(new CanvasRuler(Qt::Horizontal, this))
+    , m_leftRuler(new CanvasRuler(Qt::Vertical, this))
 {
     // The scene gets neither mouse nor keyboard: what they mean is decided here.
     setInteractive(false);
@@ -46,6 +57,11 @@ CanvasView::CanvasView(EditSession* session, QWidget* parent)
     viewport()->setAcceptDrops(true);
     connect(m_session, &EditSession::currentScreenChanged, this, &CanvasView::showScreen);
     connect(m_session, &EditSession::selectionChanged, this, &CanvasView::showSelection);
+    connect(m_session->project(), &Project::objectMarked, this, [this](DesignerObject* object, const QString& mark) {
+        if (object == m_session->currentScreen() && mark == EditorMarks::guides())
+            viewport()->update();
+    });
+    placeRulers();
     showScreen();
 }
 
@@ -83,6 +99,8 @@ void CanvasView::zoomAt(double zoom, const QPoint& viewPos)
     horizontalScrollBar()->setValue(horizontalScrollBar()->value() + qRound(moved.x()));
     verticalScrollBar()->setValue(verticalScrollBar()->value() + qRound(moved.y()));
     viewport()->update();
+    m_topRuler->update();
+    m_leftRuler->update();
     Q_EMIT zoomChanged(wanted);
 }
 
@@ -96,6 +114,84 @@ void CanvasView::zoomToFit()
     const QSizeF room = QSizeF(viewport()->size()) - QSizeF(2 * Margin, 2 * Margin);
     setZoom(std::min(room.width() / screen.width(), room.height() / screen.height()));
     centerOn(canvas->sceneRect().center());
+}
+
+void CanvasView::zoomToSelection()
+{
+    const CanvasScene* canvas = canvasScene();
+    QRectF selected;
+    const QList<QGraphicsItem*> items = canvas ? canvas->selectedItems() : QList<QGraphicsItem*>();
+    for (const QGraphicsItem* graphic : items)
+        selected |= graphic->sceneBoundingRect();
+    if (selected.isNull())
+        return;
+    constexpr double Margin = 48; // screen pixels on each side
+    const QSizeF room = QSizeF(viewport()->size()) - QSizeF(2 * Margin, 2 * Margin);
+    const auto factor = [](double available, double wanted) { return available / std::max(wanted, 1.0); };
+    setZoom(std::min(factor(room.width(), selected.width()), factor(room.height(), selected.height())));
+    updateSceneRect();
+    centerOn(selected.center());
+}
+
+void CanvasView::setAids(const CanvasAids& aids)
+{
+    if (aids == m_aids)
+        return;
+    cancelGesture();
+    m_aids = aids;
+    placeRulers();
+    viewport()->update();
+}
+
+bool CanvasView::isGridDrawn() const
+{
+    return CanvasGrid(this).isDrawn();
+}
+
+void CanvasView::setOutlined(DesignerObject* element)
+{
+    if (element == m_outlined)
+        return;
+    m_outlined = element;
+    updateHandles();
+}
+
+DesignerObject* CanvasView::outlined() const
+{
+    return m_outlined;
+}
+
+/// The rulers stand beside the viewport, in the margins that this leaves for them.
+void CanvasView::placeRulers()
+{
+    const int margin = m_aids.rulers ? CanvasRuler::thickness(this) : 0;
+    if (viewportMargins().top() != margin)
+        setViewportMargins(margin, margin, 0, 0);
+    m_topRuler->setVisible(m_aids.rulers);
+    m_leftRuler->setVisible(m_aids.rulers);
+    const QRect visible = viewport()->geometry();
+    m_topRuler->setGeometry(visible.left(), visible.top() - margin, visible.width(), margin);
+    m_leftRuler->setGeometry(visible.left() - margin, visible.top(), margin, visible.height());
+}
+
+void CanvasView::resizeEvent(QResizeEvent* event)
+{
+    QGraphicsView::resizeEvent(event);
+    placeRulers();
+    updateHandles();
+}
+
+void CanvasView::scrollContentsBy(int dx, int dy)
+{
+    QGraphicsView::scrollContentsBy(dx, dy);
+    m_topRuler->update();
+    m_leftRuler->update();
+    updateHandles();
+}
+
+QString CanvasView::readoutBesideMouse() const
+{
+    return m_gesture && m_aids.readout ? m_gesture->readout() : QString();
 }
 
 QString CanvasView::elementMimeType()
@@ -118,14 +214,19 @@ void CanvasView::drawBackground(QPainter* painter, const QRectF&)
     painter->restore();
 }
 
-void CanvasView::drawForeground(QPainter* painter, const QRectF&)
+void CanvasView::drawForeground(QPainter* painter, const QRectF& rect)
 {
     painter->save();
     painter->resetTransform();
     CanvasBackground(this).paintAbove(painter);
+    CanvasGrid(this).paint(painter, rect);
+    const auto* movedGuide = dynamic_cast<const GuideGesture*>(m_gesture.get());
+    m_guides->paint(painter, movedGuide ? movedGuide->index() : -1);
+    ElementOutline(this, m_outlined).paint(painter);
     SelectionHandles(this).paint(painter);
     if (m_gesture)
         m_gesture->paint(painter);
+    CanvasReadout(this, readoutBesideMouse(), m_lastViewPos).paint(painter);
     painter->restore();
 }
 
@@ -133,6 +234,7 @@ void CanvasView::showScreen()
 {
     cancelGesture();
     leaveHandle();
+    setOutlined(nullptr);
     CanvasScene* canvas = m_session->scene(m_session->currentScreen());
     if (scene() == canvas)
         return;
@@ -196,9 +298,17 @@ void CanvasView::updateHandles()
 void CanvasView::repaintHandles()
 {
     m_handlesPending = false;
-    QRegion now = SelectionHandles(this).region();
+    QRegion now = SelectionHandles(this).region() + ElementOutline(this, m_outlined).region();
     if (m_gesture)
-        now += m_gesture->paintedRect();
+        now += m_gesture->paintedRegion();
+    // The readout may say something else in the same place.
+    const QRect readout = CanvasReadout(this, readoutBesideMouse(), m_lastViewPos).rect().toAlignedRect();
+    viewport()->update(readout);
+    now += readout;
+    if (m_aids.rulers) {
+        m_topRuler->updateExtent();
+        m_leftRuler->updateExtent();
+    }
     if (now == m_paintedHandles)
         return;
     viewport()->update(m_paintedHandles + now);

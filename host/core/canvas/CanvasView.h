@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/canvas/CanvasAids.h"
 #include "host/core/commands/ChangeRecording.h"
 
 #include <QGraphicsView>
@@ -9,7 +10,9 @@
 
 namespace Korvex::Meridane::Designer {
 
+class CanvasGuides;
 class CanvasKeys;
+class CanvasRuler;
 class CanvasScene;
 class DesignerObject;
 class EditSession;
@@ -43,6 +46,22 @@ public:
     /// Zooms so that the point under \a viewPos stays where it is.
     void zoomAt(double zoom, const QPoint& viewPos);
     void zoomToFit();
+    /// Zooms so that the selected elements fill the view, or does nothing without any.
+    void zoomToSelection();
+
+    /// What helps to place things. Everything is off in a new view.
+    [[nodiscard]] const CanvasAids& aids() const { return m_aids; }
+    void setAids(const CanvasAids& aids);
+    /// Whether the grid is on and coarse enough to be drawn at this zoom.
+    [[nodiscard]] bool isGridDrawn() const;
+    /// The guides of the screen.
+    [[nodiscard]] CanvasGuides* guides() const { return m_guides.get(); }
+    /// Begins to drag a new guide out of its ruler; \a viewPos: where the mouse button went down.
+    void beginGuide(Qt::Orientation orientation, const QPointF& viewPos);
+
+    /// Draws an outline around \a element, as around the one under the mouse, until the mouse moves on; null: none.
+    void setOutlined(DesignerObject* element);
+    [[nodiscard]] DesignerObject* outlined() const;
 
     /// The element class that the next click or drag on the canvas places; empty for none.
     [[nodiscard]] const QString& placementClass() const { return m_placementClass; }
@@ -66,6 +85,8 @@ Q_SIGNALS:
     /// The running gesture has followed the mouse, or has ended: pendingChanges() may have changed.
     void gestureMoved();
     void placementFinished();
+    /// The guide at \a index was double-clicked: its position is to be edited.
+    void guideActivated(int index);
 
 protected:
     bool event(QEvent* event) override;
@@ -84,6 +105,8 @@ protected:
     void dragMoveEvent(QDragMoveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
     void drawBackground(QPainter* painter, const QRectF& rect) override;
     void drawForeground(QPainter* painter, const QRectF& rect) override;
 
@@ -95,11 +118,14 @@ private:
     [[nodiscard]] std::unique_ptr<Gesture> gestureForPress(const CanvasPointer& pointer);
     [[nodiscard]] std::unique_ptr<Gesture> selectingGesture(const CanvasPointer& pointer);
     void startGesture(std::unique_ptr<Gesture> gesture, Qt::MouseButton button);
-    void followShift(const QKeyEvent* event, bool down);
+    void followModifier(const QKeyEvent* event, bool down);
     void moveGesture(const CanvasPointer& pointer);
     std::unique_ptr<Gesture> endGesture();
-    void hover(const QPointF& scenePos);
+    void hover(const QPointF& scenePos, const QPointF& viewPos);
+    [[nodiscard]] int guideAt(const QPointF& viewPos) const;
     void leaveHandle();
+    void placeRulers();
+    [[nodiscard]] QString readoutBesideMouse() const;
     void updateCursor(const HandleHit* hit);
     void updateHandles();
     void repaintHandles();
@@ -109,7 +135,12 @@ private:
     QString m_placementClass;
     std::unique_ptr<Gesture> m_gesture;
     std::unique_ptr<CanvasKeys> m_keys;
+    std::unique_ptr<CanvasGuides> m_guides;
+    CanvasAids m_aids;
+    CanvasRuler* m_topRuler;
+    CanvasRuler* m_leftRuler;
     QPointer<DesignerObject> m_hovered; // whose handle is under the mouse
+    QPointer<DesignerObject> m_outlined; // what a click would select
     QRegion m_paintedHandles; // where handles and the gesture's own marks stand on the viewport
     bool m_handlesPending = false;
     QPointF m_lastViewPos;

@@ -2,10 +2,14 @@
 
 #include "host/core/canvas/CanvasView.h"
 
+#include "host/core/canvas/CanvasGuides.h"
 #include "host/core/canvas/CanvasKeys.h"
+#include "host/core/canvas/CanvasRuler.h"
 #include "host/core/canvas/CanvasScene.h"
 #include "host/core/canvas/EditSession.h"
 #include "host/core/canvas/GraphicsItem.h"
+#include "host/core/canvas/GuideGesture.h"
+#include "host/core/canvas/HandleCursor.h"
 #include "host/core/canvas/MoveGesture.h"
 #include "host/core/canvas/PanGesture.h"
 #include "host/core/canvas/PlaceGesture.h"
@@ -25,6 +29,7 @@
 #include <QToolTip>
 #include <QWheelEvent>
 
+#include <algorithm>
 #include <cmath>
 
 namespace Korvex::Meridane::Designer {
@@ -57,10 +62,10 @@ bool CanvasView::event(QEvent* event)
         }
         break;
     case QEvent::KeyRelease:
-        followShift(static_cast<QKeyEvent*>(event), false);
+        followModifier(static_cast<QKeyEvent*>(event), false);
         break;
     case QEvent::KeyPress:
-        followShift(static_cast<QKeyEvent*>(event), true);
+        followModifier(static_cast<QKeyEvent*>(event), true);
         // Before Qt takes Tab for moving the focus.
         if (m_keys->press(static_cast<QKeyEvent*>(event))) {
             event->accept();
@@ -85,6 +90,9 @@ bool CanvasView::viewportEvent(QEvent* event)
         break;
     case QEvent::Leave:
         leaveHandle();
+        setOutlined(nullptr);
+        m_topRuler->hidePointer();
+        m_leftRuler->hidePointer();
         break;
     case QEvent::ToolTip: {
         const auto* help = static_cast<QHelpEvent*>(event);
@@ -137,12 +145,14 @@ void CanvasView::mouseMoveEvent(QMouseEvent* event)
     const CanvasPointer pointer = pointerAt(event->position(), event->modifiers());
     m_lastViewPos = event->position();
     Q_EMIT pointerMoved(pointer.scenePos);
+    m_topRuler->showPointer(pointer.viewPos);
+    m_leftRuler->showPointer(pointer.viewPos);
     if (m_gesture && !event->buttons().testFlag(m_gestureButton))
         cancelGesture(); // the release went to somebody else
     if (m_gesture)
         moveGesture(pointer);
     else
-        hover(pointer.scenePos);
+        hover(pointer.scenePos, pointer.viewPos);
 }
 
 void CanvasView::mouseReleaseEvent(QMouseEvent* event)
@@ -155,11 +165,18 @@ void CanvasView::mouseReleaseEvent(QMouseEvent* event)
         gesture->finish(pointer);
     updateSceneRect();
     updateHandles();
-    hover(pointer.scenePos);
+    hover(pointer.scenePos, pointer.viewPos);
 }
 
 void CanvasView::mouseDoubleClickEvent(QMouseEvent* event)
 {
+    const bool isOnHandle = canvasScene() && SelectionHandles(this).hit(mapToScene(event->pos())).object;
+    const int guide = m_gesture || isOnHandle || !m_placementClass.isEmpty() ? -1 : guideAt(event->position());
+    if (event->button() == Qt::LeftButton && guide >= 0) {
+        event->accept();
+        Q_EMIT guideActivated(guide);
+        return;
+    }
     // The second of two quick presses on a group goes into it; apart from that it is a press like any other.
     const bool onElements = event->button() == Qt::LeftButton && event->modifiers() == Qt::NoModifier && !m_gesture
                             && !m_spaceHeld && m_placementClass.isEmpty() && canvasScene();
@@ -201,13 +218,15 @@ void CanvasView::keyPressEvent(QKeyEvent* event)
     QGraphicsView::keyPressEvent(event);
 }
 
-/// What Shift means for a gesture holds from the moment it is pressed or let go, not from the next move of the mouse.
-void CanvasView::followShift(const QKeyEvent* event, bool down)
+/// What Shift and Ctrl mean for a gesture holds from the moment they are pressed or let go, not from the next move of the
+/// mouse.
+void CanvasView::followModifier(const QKeyEvent* event, bool down)
 {
-    if (!m_gesture || event->key() != Qt::Key_Shift || event->isAutoRepeat())
+    const bool isShift = event->key() == Qt::Key_Shift;
+    if (!m_gesture || (!isShift && event->key() != Qt::Key_Control) || event->isAutoRepeat())
         return;
     Qt::KeyboardModifiers modifiers = event->modifiers();
-    modifiers.setFlag(Qt::ShiftModifier, down);
+    modifiers.setFlag(isShift ? Qt::ShiftModifier : Qt::ControlModifier, down);
     moveGesture(pointerAt(m_lastViewPos, modifiers));
 }
 
@@ -260,11 +279,10 @@ void CanvasView::dropEvent(QDropEvent* event)
 {
     if (!acceptsDrop(event))
         return;
-    const QPointF there = pointerAt(event->position(), Qt::NoModifier).scenePos;
+    const QPointF place = PlaceGesture::placeFor(this, pointerAt(event->position(), event->modifiers()));
     event->acceptProposedAction();
     setFocus(Qt::MouseFocusReason);
-    PlaceGesture::place(this, QString::fromUtf8(event->mimeData()->data(elementMimeType())),
-                        QPointF(std::round(there.x()), std::round(there.y())), {});
+    PlaceGesture::place(this, QString::fromUtf8(event->mimeData()->data(elementMimeType())), place, {});
 }
 
 bool CanvasView::acceptsDrop(const QDropEvent* event) const
@@ -292,6 +310,8 @@ std::unique_ptr<Gesture> CanvasView::gestureForPress(const CanvasPointer& pointe
     case HandleHit::Kind::None:
         break;
     }
+    if (const int guide = guideAt(pointer.viewPos); guide >= 0)
+        return std::make_unique<GuideGesture>(this, pointer, m_guides->list().at(guide).orientation, guide);
     return selectingGesture(pointer);
 }
 
@@ -302,9 +322,20 @@ std::unique_ptr<Gesture> CanvasView::selectingGesture(const CanvasPointer& point
     DesignerObject* element = canvas->elementAt(pointer.scenePos);
     if (!element)
         return std::make_unique<RubberBandGesture>(this, pointer);
-    const bool selected = element->graphicsItem()->graphic()->isSelected();
-    const bool adds = pointer.modifiers & (Qt::ControlModifier | Qt::ShiftModifier);
     auto click = MoveGesture::Click::Nothing;
+    if (pointer.modifiers.testFlag(Qt::ControlModifier)) {
+        // Ctrl takes hold of what is selected under the mouse, and a click goes on to what lies beneath.
+        const QList<DesignerObject*> there = canvas->elementsAt(pointer.scenePos);
+        const QList<DesignerObject*> selection = canvas->selectedObjects();
+        const auto selectedThere = std::find_if(there.cbegin(), there.cend(),
+                                                [&](DesignerObject* object) { return selection.contains(object); });
+        if (selectedThere != there.cend())
+            return std::make_unique<MoveGesture>(this, pointer, *selectedThere, MoveGesture::Click::SelectBeneath);
+        canvas->setSelectedObjects({element});
+        return std::make_unique<MoveGesture>(this, pointer, element, click);
+    }
+    const bool selected = element->graphicsItem()->graphic()->isSelected();
+    const bool adds = pointer.modifiers.testFlag(Qt::ShiftModifier);
     if (selected) {
         click = adds ? MoveGesture::Click::Deselect : MoveGesture::Click::SelectAlone;
     } else {
@@ -319,6 +350,7 @@ void CanvasView::startGesture(std::unique_ptr<Gesture> gesture, Qt::MouseButton 
 {
     m_gesture = std::move(gesture);
     m_gestureButton = button;
+    setOutlined(nullptr);
     if (m_gesture->editsProject())
         m_session->undoStack()->setBlocked(true);
     updateHandles();
@@ -347,15 +379,40 @@ std::unique_ptr<Gesture> CanvasView::endGesture()
     return gesture;
 }
 
-void CanvasView::hover(const QPointF& scenePos)
+/// Shows what a press at the mouse's place would take hold of.
+void CanvasView::hover(const QPointF& scenePos, const QPointF& viewPos)
 {
-    if (!m_placementClass.isEmpty() || m_spaceHeld)
+    if (!m_placementClass.isEmpty() || m_spaceHeld || !canvasScene()) {
+        setOutlined(nullptr);
         return;
+    }
     const HandleHit hit = SelectionHandles(this).hit(scenePos);
     if (m_hovered != hit.object)
         leaveHandle();
     m_hovered = hit.object;
     updateCursor(&hit);
+    const int guide = hit.object ? -1 : guideAt(viewPos);
+    if (guide >= 0)
+        viewport()->setCursor(CanvasGuides::cursor(m_guides->list().at(guide).orientation));
+    DesignerObject* element = hit.object || guide >= 0 ? nullptr : canvasScene()->elementAt(scenePos);
+    setOutlined(element && !element->graphicsItem()->graphic()->isSelected() ? element : nullptr);
+}
+
+/// The guide that a press at \a viewPos takes hold of, or -1.
+int CanvasView::guideAt(const QPointF& viewPos) const
+{
+    return m_aids.guidesLocked ? -1 : m_guides->indexAt(viewPos);
+}
+
+void CanvasView::beginGuide(Qt::Orientation orientation, const QPointF& viewPos)
+{
+    if (m_gesture || !canvasScene())
+        return;
+    setFocus(Qt::MouseFocusReason);
+    m_lastViewPos = viewPos;
+    // The ruler along the top has the guides that lie along it.
+    startGesture(std::make_unique<GuideGesture>(this, pointerAt(viewPos, Qt::NoModifier), orientation, -1),
+                 Qt::LeftButton);
 }
 
 void CanvasView::leaveHandle()
@@ -373,7 +430,7 @@ void CanvasView::updateCursor(const HandleHit* hit)
     else if (!m_placementClass.isEmpty())
         wanted = Qt::CrossCursor;
     else if (hit)
-        wanted = SelectionHandles::cursor(*hit);
+        wanted = handleCursor(this, *hit);
     if (viewport()->cursor().shape() != wanted.shape())
         viewport()->setCursor(wanted);
 }

@@ -20,6 +20,7 @@ using Common::LocalizationHelper;
 EditGesture::EditGesture(CanvasView* view, const CanvasPointer& press)
     : Gesture(view)
     , m_press(press)
+    , m_snapping(view)
 {}
 
 EditGesture::~EditGesture() = default;
@@ -41,7 +42,8 @@ GraphicsItem* EditGesture::item() const
 QPointF EditGesture::wayTo(const CanvasPointer& pointer) const
 {
     const QPointF way = pointer.scenePos - m_press.scenePos;
-    return view()->zoom() == 1 ? way : QPointF(std::round(way.x()), std::round(way.y()));
+    const bool exact = view()->zoom() == 1 && !view()->aids().snapping;
+    return exact ? way : QPointF(std::round(way.x()), std::round(way.y()));
 }
 
 void EditGesture::finish(const CanvasPointer& pointer)
@@ -99,6 +101,16 @@ QVector<PropertyChange> EditGesture::pendingChanges() const
             pending.append({change->property(), change->property()->valueString(), change->value()});
     }
     return pending;
+}
+
+void EditGesture::paint(QPainter* painter) const
+{
+    m_snapping.paint(painter);
+}
+
+QRegion EditGesture::paintedRegion() const
+{
+    return m_snapping.region();
 }
 
 QString EditGesture::pendingValue(const QString& id) const

@@ -2,6 +2,7 @@
 
 #include "host/core/canvas/Gesture.h"
 #include "host/core/canvas/GestureRecord.h"
+#include "host/core/canvas/GestureSnapping.h"
 
 namespace Korvex::Meridane::Designer {
 
@@ -26,6 +27,9 @@ public:
     /// Place and outer size of the object that was grabbed, as its item would write them.
     [[nodiscard]] QString readout() const override;
     [[nodiscard]] QVector<PropertyChange> pendingChanges() const override;
+    /// What it snaps to.
+    void paint(QPainter* painter) const override;
+    [[nodiscard]] QRegion paintedRegion() const override;
 
 protected:
     [[nodiscard]] const CanvasPointer& press() const { return m_press; }
@@ -35,8 +39,10 @@ protected:
     [[nodiscard]] const QList<QPointer<DesignerObject>>& objects() const { return m_objects; }
     /// The item of the grabbed object, or null when it has gone.
     [[nodiscard]] GraphicsItem* item() const;
+    /// What the gesture snaps to; a gesture that snaps says first what it moves.
+    [[nodiscard]] GestureSnapping& snapping() { return m_snapping; }
     /// The way from the press to \a pointer, in scene pixels: whole ones unless the view shows pixel for pixel, where
-    /// the mouse itself has no others.
+    /// the mouse usually has no others, and does not snap.
     [[nodiscard]] QPointF wayTo(const CanvasPointer& pointer) const;
     /// Puts every value and item back to where the gesture found them; it goes on from there.
     void restore() { m_record.restore(); }
@@ -56,6 +62,7 @@ private:
     CanvasPointer m_press;
     QList<QPointer<DesignerObject>> m_objects;
     GestureRecord m_record;
+    GestureSnapping m_snapping;
 };
 
 } // namespace Korvex::Meridane::Designer

@@ -4,6 +4,7 @@
 
 #include <QPointF>
 #include <QRect>
+#include <QRegion>
 #include <QString>
 #include <Qt>
 
@@ -48,6 +49,8 @@ public:
     virtual void paint(QPainter*) const {}
     /// The viewport rectangle that paint() draws in.
     [[nodiscard]] virtual QRect paintedRect() const { return {}; }
+    /// The same, where that is much less than a rectangle.
+    [[nodiscard]] virtual QRegion paintedRegion() const { return paintedRect(); }
     /// Whether the undo history has to wait for the gesture's end.
     [[nodiscard]] virtual bool editsProject() const { return true; }
 

@@ -15,6 +15,13 @@
 
 namespace Korvex::Meridane::Designer {
 
+namespace {
+
+constexpr SnapEdges AllHorizontal = SnapEdge::Left | SnapEdge::HorizontalCenter | SnapEdge::Right;
+constexpr SnapEdges AllVertical = SnapEdge::Top | SnapEdge::VerticalCenter | SnapEdge::Bottom;
+
+} // namespace
+
 MoveGesture::MoveGesture(CanvasView* view, const CanvasPointer& press, DesignerObject* grabbed, Click click)
     : EditGesture(view, press)
     , m_grabbed(grabbed)
@@ -37,10 +44,7 @@ bool MoveGesture::start(const CanvasPointer& pointer)
     const CanvasScene* scene = view()->canvasScene();
     if (!scene || !m_grabbed || (pointer.viewPos - press().viewPos).manhattanLength() < threshold())
         return false;
-    QList<DesignerObject*> moving = scene->selectedRoots();
-    moving.removeIf([](const DesignerObject* object) {
-        return !object->graphicsItem()->graphic()->flags().testFlag(QGraphicsItem::ItemIsMovable);
-    });
+    QList<DesignerObject*> moving = scene->movableRoots();
     if (moving.isEmpty())
         return false;
     // The grabbed element first: it is the one that the readout is about.
@@ -48,8 +52,13 @@ bool MoveGesture::start(const CanvasPointer& pointer)
     if (grabbed != moving.end())
         std::rotate(moving.begin(), grabbed, grabbed + 1);
     begin(moving);
-    for (const DesignerObject* object : std::as_const(moving))
-        m_positions.append(object->graphicsItem()->graphic()->pos());
+    for (const DesignerObject* object : std::as_const(moving)) {
+        const GraphicsItem* item = object->graphicsItem();
+        m_positions.append(item->graphic()->pos());
+        m_extent |= item->graphic()->sceneTransform().mapRect(item->outerRect());
+    }
+    m_wholePixels = isWhole(item()->graphic()->scenePos());
+    snapping().setMoving(moving);
     return true;
 }
 
@@ -58,11 +67,18 @@ void MoveGesture::move(const CanvasPointer& pointer)
     if (!start(pointer))
         return;
     QPointF way = wayTo(pointer);
+    SnapEdges edges = SnapEdge::All;
     if (pointer.modifiers.testFlag(Qt::ShiftModifier)) {
-        if (std::abs(way.x()) < std::abs(way.y()))
-            way.setX(0);
-        else
-            way.setY(0);
+        const bool vertical = std::abs(way.x()) < std::abs(way.y());
+        (vertical ? way.rx() : way.ry()) = 0;
+        edges = vertical ? AllVertical : AllHorizontal;
+    }
+    snapping().hide();
+    // Back at the start everything stands where it stood.
+    if (snapping().isActive(pointer) && !way.isNull()) {
+        const SnapResult snapped = snapping().snap(m_extent.translated(way), edges, m_wholePixels);
+        way += snapped.correction;
+        snapping().show(m_extent.translated(way), edges, snapped);
     }
     for (int i = 0; i < objects().size(); ++i) {
         GraphicsItem* moving = objects().at(i) ? objects().at(i)->graphicsItem() : nullptr;
@@ -83,6 +99,11 @@ void MoveGesture::finish(const CanvasPointer& pointer)
         return;
     if (m_click == Click::SelectAlone) {
         scene->setSelectedObjects({m_grabbed});
+    } else if (m_click == Click::SelectBeneath) {
+        const QList<DesignerObject*> there = scene->elementsAt(pointer.scenePos);
+        const qsizetype present = there.indexOf(m_grabbed);
+        if (present >= 0)
+            scene->setSelectedObjects({there.at((present + 1) % there.size())});
     } else if (m_click == Click::Deselect) {
         QList<DesignerObject*> selected = scene->selectedObjects();
         selected.removeOne(m_grabbed);

@@ -6,7 +6,7 @@ namespace Korvex::Meridane::Designer {
 
 /**
  * Moves the selected elements, once the mouse has left the surroundings of the press. With Shift they keep to one
- * axis. A press that is released without a move is a click: see Click.
+ * axis. The rectangle around all of them snaps. A press that is released without a move is a click: see Click.
  */
 class MoveGesture : public EditGesture
 {
@@ -16,7 +16,8 @@ public:
     {
         Nothing,
         SelectAlone, ///< of several selected elements only this one stays selected
-        Deselect, ///< a click with Ctrl or Shift on a selected element
+        Deselect, ///< a click with Shift on a selected element
+        SelectBeneath, ///< a click with Ctrl: what lies beneath it at that point is selected instead
     };
 
     MoveGesture(CanvasView* view, const CanvasPointer& press, DesignerObject* grabbed, Click click);
@@ -38,6 +39,8 @@ private:
     QPointer<DesignerObject> m_grabbed;
     Click m_click;
     QList<QPointF> m_positions; // of the items, as they were
+    QRectF m_extent; // of all of them on the scene, as it was
+    bool m_wholePixels = false; // the grabbed one stands on whole pixels
 };
 
 } // namespace Korvex::Meridane::Designer

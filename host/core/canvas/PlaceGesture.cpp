@@ -33,13 +33,45 @@ PlaceGesture::PlaceGesture(CanvasView* view, const CanvasPointer& press, const Q
     , m_press(press)
     , m_now(press)
     , m_className(className)
-{}
+    , m_snapping(view)
+{
+    move(press);
+}
 
 PlaceGesture::~PlaceGesture() = default;
 
 void PlaceGesture::move(const CanvasPointer& pointer)
 {
     m_now = pointer;
+    const bool snaps = m_snapping.isActive(pointer);
+    m_from = wholePixels(m_press.scenePos);
+    if (snaps)
+        m_from = m_snapping.snapPoint(m_from, true);
+    m_to = m_from;
+    if (isClick())
+        return;
+    m_snapping.hide();
+    m_to = wholePixels(pointer.scenePos);
+    SnapEdges edges = SnapEdge::Left | SnapEdge::Top;
+    const bool isSquare = pointer.modifiers.testFlag(Qt::ShiftModifier);
+    if (isSquare) // the longer side leads, the other follows
+        edges = std::abs(m_to.x() - m_from.x()) >= std::abs(m_to.y() - m_from.y()) ? SnapEdge::Left : SnapEdge::Top;
+    SnapResult snapped;
+    if (snaps)
+        snapped = m_snapping.snap(QRectF(m_to, QSizeF(0, 0)), edges, true);
+    m_to += snapped.correction;
+    if (isSquare) {
+        const QPointF way = m_to - m_from;
+        const double side = edges == SnapEdge::Left ? std::abs(way.x()) : std::abs(way.y());
+        m_to = m_from + QPointF(std::copysign(side, way.x()), std::copysign(side, way.y()));
+    }
+    if (snaps)
+        m_snapping.show(QRectF(m_to, QSizeF(0, 0)), edges, snapped);
+}
+
+bool PlaceGesture::isClick() const
+{
+    return (m_now.viewPos - m_press.viewPos).manhattanLength() < MoveGesture::threshold();
 }
 
 void PlaceGesture::finish(const CanvasPointer& pointer)
@@ -51,7 +83,7 @@ void PlaceGesture::finish(const CanvasPointer& pointer)
     // Placing is over before the element is there: what hears of the new element finds the canvas at rest.
     canvas->setPlacementClass({});
     if (dragged.isEmpty())
-        place(canvas, className, wholePixels(m_press.scenePos), {});
+        place(canvas, className, m_from, {});
     else
         place(canvas, className, dragged.topLeft(), dragged.size());
     Q_EMIT canvas->placementFinished();
@@ -71,6 +103,7 @@ QString PlaceGesture::readout() const
 
 void PlaceGesture::paint(QPainter* painter) const
 {
+    m_snapping.paint(painter);
     const QRectF rect = sceneRect();
     if (rect.isEmpty())
         return;
@@ -79,23 +112,23 @@ void PlaceGesture::paint(QPainter* painter) const
     painter->drawRect(view()->viewportTransform().mapRect(rect).toRect());
 }
 
-QRect PlaceGesture::paintedRect() const
+QRegion PlaceGesture::paintedRegion() const
 {
-    return view()->viewportTransform().mapRect(sceneRect()).toAlignedRect().adjusted(-1, -1, 2, 2);
+    const QRect rect = view()->viewportTransform().mapRect(sceneRect()).toAlignedRect();
+    return m_snapping.region() + rect.adjusted(-1, -1, 2, 2);
 }
 
 /// The dragged rectangle in whole pixels; empty for a click.
 QRectF PlaceGesture::sceneRect() const
 {
-    if ((m_now.viewPos - m_press.viewPos).manhattanLength() < MoveGesture::threshold())
-        return {};
-    const QPointF from = wholePixels(m_press.scenePos);
-    QPointF to = wholePixels(m_now.scenePos);
-    if (m_now.modifiers.testFlag(Qt::ShiftModifier)) {
-        const double side = std::max(std::abs(to.x() - from.x()), std::abs(to.y() - from.y()));
-        to = from + QPointF(std::copysign(side, to.x() - from.x()), std::copysign(side, to.y() - from.y()));
-    }
-    return QRectF(from, to).normalized();
+    return isClick() ? QRectF() : QRectF(m_from, m_to).normalized();
+}
+
+QPointF PlaceGesture::placeFor(const CanvasView* view, const CanvasPointer& pointer)
+{
+    const QPointF there = wholePixels(pointer.scenePos);
+    GestureSnapping snapping(view);
+    return snapping.isActive(pointer) ? snapping.snapPoint(there, true) : there;
 }
 
 void PlaceGesture::place(CanvasView* view, const QString& className, const QPointF& position, const QSizeF& size)

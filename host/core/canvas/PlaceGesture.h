@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/core/canvas/Gesture.h"
+#include "host/core/canvas/GestureSnapping.h"
 
 #include <QRect>
 #include <QRectF>
@@ -9,7 +10,7 @@ namespace Korvex::Meridane::Designer {
 
 /**
  * Places a new element of the view's placement class. A click puts its top left corner there, at its default size; a
- * drag gives classes that have a "boundingSize" the size of the dragged rectangle, a square with Shift.
+ * drag gives classes that have a "boundingSize" the size of the dragged rectangle, a square with Shift. Both corners snap.
  */
 class PlaceGesture : public Gesture
 {
@@ -22,18 +23,24 @@ public:
     void cancel() override;
     [[nodiscard]] QString readout() const override;
     void paint(QPainter* painter) const override;
-    [[nodiscard]] QRect paintedRect() const override;
+    [[nodiscard]] QRegion paintedRegion() const override;
 
+    /// Where a drop at \a pointer puts the top left corner: whole pixels, snapped where the view snaps.
+    [[nodiscard]] static QPointF placeFor(const CanvasView* view, const CanvasPointer& pointer);
     /// Adds an element of \a className with its top left corner at \a position and, where that is not empty and the
     /// class has a "boundingSize", of the outer size \a size, to the view's screen.
     static void place(CanvasView* view, const QString& className, const QPointF& position, const QSizeF& size);
 
 private:
+    [[nodiscard]] bool isClick() const;
     [[nodiscard]] QRectF sceneRect() const;
 
     CanvasPointer m_press;
     CanvasPointer m_now;
     QString m_className;
+    QPointF m_from; // the corners of the dragged rectangle
+    QPointF m_to;
+    GestureSnapping m_snapping;
 };
 
 } // namespace Korvex::Meridane::Designer

@@ -20,6 +20,8 @@ protected:
     void end() override;
 
 private:
+    [[nodiscard]] bool hasPointAt(const QPointF& scenePos) const;
+
     QPointer<DesignerObject> m_object;
     int m_handle;
 };

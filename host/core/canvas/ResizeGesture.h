@@ -4,7 +4,7 @@
 
 namespace Korvex::Meridane::Designer {
 
-/// Drags a frame handle of one element: the side or corner stays under the mouse where it was grabbed.
+/// Drags a frame handle of one element: the side or corner stays under the mouse where it was grabbed, or snaps.
 class ResizeGesture : public EditGesture
 {
 public:
@@ -19,9 +19,16 @@ protected:
     void end() override;
 
 private:
+    void resizeTo(const QPointF& handlePos);
+    bool resizeSnapped(const QPointF& handlePos, SnapEdges edges);
+    [[nodiscard]] QRectF frame() const;
+
     QPointer<DesignerObject> m_object;
     int m_handle;
     QPointF m_handlePos; // of the handle at the press, in scene coordinates
+    QRectF m_frame; // the outer rectangle at the press, in scene coordinates
+    SnapEdges m_edges; // that the handle moves; none where the frame stands askew
+    bool m_wholePixels = false; // the frame has whole pixels between its sides, and so has its place
 };
 
 } // namespace Korvex::Meridane::Designer
