@@ -7,14 +7,17 @@
 #include "host/core/commands/ChangeEditorMark.h"
 #include "host/core/commands/ChangeProperty.h"
 #include "host/core/commands/MoveObject.h"
+#include "host/core/commands/RemoveFont.h"
 #include "host/core/commands/RemoveObject.h"
 #include "host/core/commands/RenameObject.h"
+#include "host/core/commands/ReparentObjects.h"
 #include "host/core/objects/EditorMarks.h"
 #include "host/core/objects/QmlIdentifier.h"
 #include "host/core/objects/Screen.h"
 #include "host/core/objects/VisualElement.h"
 #include "host/core/plugins/DesignerFactory.h"
 #include "host/core/project/FontImporter.h"
+#include "host/core/project/FontReferences.h"
 #include "host/core/project/ImageReferences.h"
 #include "host/core/project/Project.h"
 #include "host/core/project/ResourceImporter.h"
@@ -185,6 +188,31 @@ EditResult EditSession::addScreen(const QString& id, const QSizeF& size, Screen*
 EditResult EditSession::removeScreen(Screen* screen)
 {
     return execute(std::make_unique<RemoveObject>(screen, nullptr));
+}
+
+EditResult EditSession::duplicateScreen(Screen* screen, const QString& id, Screen** added)
+{
+    ScreenEdits::Plan plan = ScreenEdits::duplicate(m_project.get(), screen, id);
+    if (!plan.message.isEmpty())
+        return refused(plan.message);
+    const EditResult result = execute(std::move(plan.command));
+    if (result.changed) {
+        setCurrentScreen(plan.screen);
+        setSelection({});
+        if (added)
+            *added = plan.screen;
+    }
+    return result;
+}
+
+EditResult EditSession::resizeScreen(Screen* screen, const QSizeF& size, ScreenEdits::Content content)
+{
+    if (content == ScreenEdits::Content::Scale)
+        scene(screen);
+    ScreenEdits::Plan plan = ScreenEdits::resize(screen, size, content);
+    if (!plan.message.isEmpty())
+        return refused(plan.message);
+    return plan.command ? execute(std::move(plan.command)) : EditResult{true, false, {}};
 }
 
 EditResult EditSession::addElement(const QString& className, Screen* screen, const QString& id,
@@ -420,6 +448,28 @@ EditResult EditSession::importFont(const QString& file, QString* id, QStringList
     if (families)
         *families = found;
     return {true, false, {}};
+}
+
+EditResult EditSession::removeFont(const QString& font)
+{
+    const QString refusal = FontReferences::removalRefusal(m_project.get(), font);
+    if (!refusal.isEmpty())
+        return refused(refusal);
+    return execute(std::make_unique<RemoveFont>(m_project.get(), font));
+}
+
+EditResult EditSession::moveToParent(const QList<DesignerObject*>& elements, DesignerObject* owner, int index)
+{
+    for (DesignerObject* element : elements)
+        scene(screenOf(element)); // an edit always has items
+    scene(screenOf(owner));
+    auto command = std::make_unique<ReparentObjects>(elements, owner, index);
+    if (!command->isValid())
+        return refused(text("These elements cannot be moved there."));
+    const EditResult result = execute(std::move(command));
+    if (result.changed)
+        setSelection(elements);
+    return result;
 }
 
 EditResult EditSession::undo()

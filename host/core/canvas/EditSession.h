@@ -2,6 +2,7 @@
 
 #include "host/core/commands/UndoStack.h"
 #include "host/core/project/ImageEdits.h"
+#include "host/core/project/ScreenEdits.h"
 
 #include <QList>
 #include <QMap>
@@ -49,6 +50,10 @@ public:
     /// \a id empty: the smallest free one from "screen". \a size invalid: the project's display size.
     EditResult addScreen(const QString& id = {}, const QSizeF& size = {}, Screen** added = nullptr);
     EditResult removeScreen(Screen* screen);
+    /// Adds a copy of \a screen behind it and goes there. \a id empty: a free one like that of the original.
+    EditResult duplicateScreen(Screen* screen, const QString& id = {}, Screen** added = nullptr);
+    /// Gives \a screen another size, in pixels; \a content: what becomes of its elements.
+    EditResult resizeScreen(Screen* screen, const QSizeF& size, ScreenEdits::Content content);
     /// Adds an element of \a className in front of the others. \a id empty: the smallest free one of its base.
     /// \a properties: value strings by property id, set in order of rank. Refused as a whole when one is refused.
     EditResult addElement(const QString& className, Screen* screen, const QString& id,
@@ -83,6 +88,11 @@ public:
     /// Copies a font file into the project; refused when it is none that every display can load. \a id: its name in the
     /// project; \a families: what texts call it.
     EditResult importFont(const QString& file, QString* id, QStringList* families = nullptr);
+    /// Takes the font file \a font from the project; refused while texts use it.
+    EditResult removeFont(const QString& font);
+    /// Moves elements, of which none stands in another, to the place \a index among those children of \a owner (a screen
+    /// or a group) that are not moved; -1: the front. They stay where they are on the screen. Their order is kept.
+    EditResult moveToParent(const QList<DesignerObject*>& elements, DesignerObject* owner, int index);
     EditResult undo();
     EditResult redo();
 

@@ -2,6 +2,8 @@
 
 #include "host/core/objects/DesignerObject.h"
 #include "host/core/objects/QmlIdentifier.h"
+#include "host/core/project/ObjectLinks.h"
+#include "host/core/properties/DesignerProperty.h"
 
 #include "host/common/LocalizationHelper.h"
 
@@ -38,10 +40,15 @@ bool RenameObject::isValid() const
 void RenameObject::execute()
 {
     QString reason;
+    const QList<QSharedPointer<DesignerProperty>> links = ObjectLinks::linksTo(m_object);
     if (!isQmlIdentifier(m_after, &reason)) {
         setRefusal(reason);
     } else if (!m_object->setIdName(m_after)) {
         setRefusal(LocalizationHelper::coreString(QStringLiteral("The id \"%1\" is already used.")).arg(m_after));
+    } else {
+        // The record of the command holds these changes.
+        for (const auto& link : links)
+            link->parentObject()->changePropertyValue(link, m_after);
     }
 }
 

@@ -6,7 +6,7 @@
 
 namespace Korvex::Meridane::Designer {
 
-/// Gives an object another id.
+/// Gives an object another id; the links to it follow.
 class MERIDANE_CORE_EXPORT RenameObject : public UndoCommand
 {
 public:

@@ -16,11 +16,21 @@ struct MERIDANE_CORE_EXPORT Problem
         Error
     };
 
+    /// What kind of fault it is, where the program knows a way to mend it (see ProblemFix).
+    enum class Kind
+    {
+        Other,
+        InvalidValue, ///< the property's value does not convert, is refused, or lies beyond what can be entered
+        OffScreen, ///< the element lies outside of its screen
+        MissingImage ///< the property names an image file that is not there
+    };
+
     Severity severity = Severity::Error;
     QString file; ///< path relative to the project's folder, or absolute when there is no folder
     QString object; ///< "screen/id", the screen's id, or empty
     QString property; ///< the property's id, or empty
     QString message; ///< what is wrong and what to do, a sentence
+    Kind kind = Kind::Other;
 
     [[nodiscard]] static Problem error(const QString& file, const QString& object, const QString& property,
                                        const QString& message);

@@ -15,8 +15,11 @@
 #include "host/common/LocalizationHelper.h"
 #include "host/common/PictureCache.h"
 
+#include <QElapsedTimer>
 #include <QFontDatabase>
 #include <QGuiApplication>
+
+#include <utility>
 
 namespace Korvex::Meridane::Designer {
 
@@ -29,25 +32,34 @@ constexpr double LargestDisplay = 20000;
 
 } // namespace
 
-ProjectChecker::ProjectChecker(Project* project, ProjectFiles* files)
+ProjectChecker::ProjectChecker(Project* project)
     : m_project(project)
-    , m_files(files)
+    , m_files(ProjectFiles::of(project))
 {}
 
 QList<Problem> ProjectChecker::check(Project* project)
 {
-    ProjectChecker checker(project, ProjectFiles::of(project));
+    ProjectChecker checker(project);
     for (const Screen* screen : project->screens())
         screen->readContent();
-    checker.m_problems = checker.m_files->allProblems();
-    checker.checkProject();
-    for (const Screen* screen : project->screens())
-        checker.checkScreen(screen);
-    return checker.m_problems;
+    QList<Problem> problems = checker.fileProblems() + checker.checkProject();
+    for (const Screen* screen : project->screens()) {
+        checker.beginScreen(screen);
+        checker.continueScreen();
+        problems += checker.takeScreenProblems();
+    }
+    return problems;
 }
 
-void ProjectChecker::checkProject()
+QList<Problem> ProjectChecker::fileProblems() const
 {
+    return m_files->allProblems();
+}
+
+QList<Problem> ProjectChecker::checkProject()
+{
+    m_problems.clear();
+    m_waiting.clear();
     m_file = ProjectFolder::projectFile();
     m_problems.append(UnknownContent::find(m_project));
     for (const auto& property : m_project->properties())
@@ -67,6 +79,7 @@ void ProjectChecker::checkProject()
             m_file, {}, {}, LocalizationHelper::coreString(QStringLiteral("The project has no screen. Add one."))));
     }
     checkResources();
+    return std::exchange(m_problems, {});
 }
 
 /// Files that the project lists but does not have, fonts that are none.
@@ -98,30 +111,54 @@ void ProjectChecker::checkResources()
     }
 }
 
-void ProjectChecker::checkScreen(const Screen* screen)
+void ProjectChecker::beginScreen(const Screen* screen)
 {
+    screen->readContent();
     m_screen = screen;
     m_file = ProjectFolder::screenFile(screen->getIdName());
-    m_problems.append(UnknownContent::find(screen));
+    m_problems = UnknownContent::find(screen);
+    m_waiting.clear();
     if (screen->contentError().isEmpty())
-        checkElement(screen, false);
+        m_waiting.append({screen, false});
 }
 
-/// Checks \a object and what is below it. Of a group that lies off the screen the elements need no report of their own.
-void ProjectChecker::checkElement(const DesignerObject* object, bool mayBeOffScreen)
+bool ProjectChecker::continueScreen(int milliseconds)
 {
+    QElapsedTimer timer;
+    timer.start();
+    while (!m_waiting.isEmpty()) {
+        checkElement(m_waiting.takeLast());
+        if (milliseconds >= 0 && timer.hasExpired(milliseconds))
+            break;
+    }
+    return m_waiting.isEmpty();
+}
+
+QList<Problem> ProjectChecker::takeScreenProblems()
+{
+    m_waiting.clear();
+    return std::exchange(m_problems, {});
+}
+
+/// Checks one object and puts what is below it in front of what is waiting. Of a group that lies off the screen the
+/// elements need no report of their own.
+void ProjectChecker::checkElement(const Waiting& waiting)
+{
+    const DesignerObject* object = waiting.object;
     for (const auto& property : object->properties())
         checkProperty(*property);
-    const bool offScreen = mayBeOffScreen && isOffScreen(object);
+    const bool offScreen = waiting.mayBeOffScreen && isOffScreen(object);
     if (offScreen) {
         m_problems.append(Problem::warning(
             m_file, ObjectTree::name(object), {},
             LocalizationHelper::coreString(QStringLiteral(
                 "The element lies outside of its screen and cannot be seen. Move it onto the screen or remove it."))));
+        m_problems.last().kind = Problem::Kind::OffScreen;
     }
     if (const ObjectListProperty* list = object->childList()) {
-        for (const DesignerObject* child : list->items())
-            checkElement(child, !offScreen);
+        const auto& children = list->items();
+        for (auto child = children.crbegin(); child != children.crend(); ++child)
+            m_waiting.append({*child, !offScreen});
     }
 }
 
@@ -132,18 +169,22 @@ void ProjectChecker::checkProperty(const DesignerProperty& property)
         report(Problem::Severity::Error, property,
                LocalizationHelper::coreString(
                    QStringLiteral("\"%1\" is not a valid value for \"%2\". It is kept, but has no effect: correct it."))
-                   .arg(property.valueString(), property.name()));
+                   .arg(property.valueString(), property.name()),
+               Problem::Kind::InvalidValue);
         return;
     }
     if (!property.validateValue(message) || !property.validateObjectValue(message)
         || !property.validateListItems(message)) {
-        report(Problem::Severity::Error, property, message);
+        const auto* link = dynamic_cast<const LinkProperty*>(&property);
+        const bool isImage = link && ImageReferences::isImageLink(*link);
+        report(Problem::Severity::Error, property, message,
+               isImage ? Problem::Kind::MissingImage : Problem::Kind::InvalidValue);
         return;
     }
-    for (const QString& advice : {property.advice(), editorRangeAdvice(property)}) {
-        if (!advice.isEmpty())
-            report(Problem::Severity::Warning, property, advice);
-    }
+    if (const QString advice = property.advice(); !advice.isEmpty())
+        report(Problem::Severity::Warning, property, advice);
+    if (const QString advice = editorRangeAdvice(property); !advice.isEmpty())
+        report(Problem::Severity::Warning, property, advice, Problem::Kind::InvalidValue);
     checkFont(property);
     checkImageFile(property);
 }
@@ -190,7 +231,8 @@ void ProjectChecker::checkImageFile(const DesignerProperty& property)
         report(Problem::Severity::Error, property,
                LocalizationHelper::coreString(
                    QStringLiteral("The image file \"%1\" is missing. Put it back, or link another image."))
-                   .arg(file));
+                   .arg(file),
+               Problem::Kind::MissingImage);
         break;
     case ProjectFolder::Found::Refused:
         report(Problem::Severity::Error, property, file + QLatin1String(": ") + reason);
@@ -222,9 +264,10 @@ bool ProjectChecker::isOffScreen(const DesignerObject* object) const
                || bounds.top() >= screen.height());
 }
 
-void ProjectChecker::report(Problem::Severity severity, const DesignerProperty& property, const QString& message)
+void ProjectChecker::report(Problem::Severity severity, const DesignerProperty& property, const QString& message,
+                            Problem::Kind kind)
 {
-    m_problems.append({severity, m_file, ObjectTree::name(property.parentObject()), property.id(), message});
+    m_problems.append({severity, m_file, ObjectTree::name(property.parentObject()), property.id(), message, kind});
 }
 
 } // namespace Korvex::Meridane::Designer

@@ -23,27 +23,49 @@ class Screen;
 class MERIDANE_CORE_EXPORT ProjectChecker
 {
 public:
+    /// Everything at once: what was wrong with the files when they were read, the project, then screen by screen.
     [[nodiscard]] static QList<Problem> check(Project* project);
 
-private:
-    ProjectChecker(Project* project, ProjectFiles* files);
+    // The same in steps, for a check while somebody works. A checker remembers which fonts are there: one that is older
+    // than a change of the fonts goes by the old ones. The project outlives it.
+    explicit ProjectChecker(Project* project);
 
-    void checkProject();
+    /// What was wrong with the files when they were read.
+    [[nodiscard]] QList<Problem> fileProblems() const;
+    /// Checks the project itself and its resources.
+    [[nodiscard]] QList<Problem> checkProject();
+    /// Begins with \a screen, which is read if it has not been; what another screen was found to have is forgotten.
+    void beginScreen(const Screen* screen);
+    /// Checks the screen for \a milliseconds or a little longer (negative: without a limit). True when it is done; objects
+    /// of the screen must not come or go before.
+    bool continueScreen(int milliseconds = -1);
+    /// What has been found on the screen.
+    [[nodiscard]] QList<Problem> takeScreenProblems();
+
+private:
+    /// An object that is still to be checked.
+    struct Waiting
+    {
+        const DesignerObject* object;
+        bool mayBeOffScreen;
+    };
+
     void checkResources();
-    void checkScreen(const Screen* screen);
-    void checkElement(const DesignerObject* object, bool mayBeOffScreen);
+    void checkElement(const Waiting& waiting);
     void checkProperty(const DesignerProperty& property);
     void checkFont(const DesignerProperty& property);
     [[nodiscard]] bool isKnown(const QString& family);
     void checkImageFile(const DesignerProperty& property);
     void checkPicture(const DesignerProperty& property, const QString& file);
     [[nodiscard]] bool isOffScreen(const DesignerObject* object) const;
-    void report(Problem::Severity severity, const DesignerProperty& property, const QString& message);
+    void report(Problem::Severity severity, const DesignerProperty& property, const QString& message,
+                Problem::Kind kind = Problem::Kind::Other);
 
     Project* m_project;
     ProjectFiles* m_files;
     const Screen* m_screen = nullptr;
     QString m_file; // that is being checked
+    QList<Waiting> m_waiting; // the next one stands last
     QHash<QString, bool> m_families; // whether texts find them
     QList<Problem> m_problems;
 };

@@ -26,7 +26,7 @@ ProjectFiles::ProjectFiles(Project* project)
 ProjectFiles::~ProjectFiles()
 {
     takeBackResources();
-    removeDiscardedImages();
+    removeDiscardedFiles();
 }
 
 ProjectFiles* ProjectFiles::of(Project* project)
@@ -128,8 +128,17 @@ QByteArray ProjectFiles::readFont(const QString& fileName) const
     return m_fontFiles.read(folder(), fileName);
 }
 
+void ProjectFiles::setFontRemoved(const QString& fileName, bool removed)
+{
+    if (removed)
+        m_removedFonts.insert(fileName);
+    else
+        m_removedFonts.remove(fileName);
+}
+
 void ProjectFiles::setResourcesSaved()
 {
+    m_discardedFonts = m_removedFonts;
     m_images.setSaved();
     m_fontFiles.setSaved();
 }
@@ -228,9 +237,9 @@ std::optional<QSet<QString>> ProjectFiles::mentionedInFolder() const
     return mentioned;
 }
 
-void ProjectFiles::removeDiscardedImages()
+void ProjectFiles::removeDiscardedFiles()
 {
-    if (m_discardedImages.isEmpty() || m_temporaryFolder)
+    if ((m_discardedImages.isEmpty() && m_discardedFonts.isEmpty()) || m_temporaryFolder)
         return;
     const std::optional<QSet<QString>> mentioned = mentionedInFolder();
     if (!mentioned)
@@ -239,6 +248,10 @@ void ProjectFiles::removeDiscardedImages()
     for (const QString& image : std::as_const(m_discardedImages)) {
         if (!mentioned->contains(image))
             FileOperations::current().removeFile(folder.absolute(ProjectFolder::imageFile(image)), nullptr);
+    }
+    for (const QString& font : std::as_const(m_discardedFonts)) {
+        if (!mentioned->contains(font) && ProjectFolder::isResourceName(font))
+            FileOperations::current().removeFile(folder.absolute(ProjectFolder::fontFile(font)), nullptr);
     }
 }
 

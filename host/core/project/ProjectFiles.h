@@ -90,6 +90,9 @@ public:
     /// What the image file \a fileName holds; null where there is none that may be read.
     [[nodiscard]] QByteArray readImage(const QString& fileName) const;
     [[nodiscard]] QByteArray readFont(const QString& fileName) const;
+    /// The user has taken a font file from the project, or takes that back. The file goes when the project, saved without
+    /// it, is closed.
+    void setFontRemoved(const QString& fileName, bool removed);
     /// The image and font files of the folder are those of the saved project.
     void setResourcesSaved();
     /// Puts the image and font files of the folder, which the project is about to leave, back to what they were at its
@@ -116,7 +119,7 @@ private:
     void noteImages();
     void loadFonts();
     [[nodiscard]] std::optional<QSet<QString>> mentionedInFolder() const;
-    void removeDiscardedImages();
+    void removeDiscardedFiles();
 
     QPointer<Project> m_project;
     QString m_folderPath; // for the time when the project is going
@@ -130,6 +133,8 @@ private:
     QSet<QString> m_ownImages;
     QSet<QString> m_reservedImages;
     QSet<QString> m_discardedImages;
+    QSet<QString> m_removedFonts;
+    QSet<QString> m_discardedFonts; // those of m_removedFonts that the saved project no longer names
     ResourceFolder m_images{QStringLiteral("images")};
     ResourceFolder m_fontFiles{QStringLiteral("fonts")};
     ProjectFonts m_fonts;
