@@ -4,6 +4,22 @@
 
 namespace Korvex::Meridane::Architecture {
 
+namespace {
+
+/// What the first group of @p pattern catches in the lines of @p output, sorted.
+QStringList namesOf(const QString& pattern, const QString& output)
+{
+    const QRegularExpression expression(pattern, QRegularExpression::MultilineOption);
+    QStringList names;
+    auto matches = expression.globalMatch(output);
+    while (matches.hasNext())
+        names.append(matches.next().captured(1));
+    names.sort();
+    return names;
+}
+
+} // namespace
+
 QStringList LinkRules::neededLibraries(const QString& readelfOutput)
 {
     static const QRegularExpression pattern(QStringLiteral(R"(\(NEEDED\)[^\[\n]*\[([^\]]+)\])"));
@@ -17,14 +33,12 @@ QStringList LinkRules::neededLibraries(const QString& readelfOutput)
 QStringList LinkRules::exportedSymbols(const QString& nmOutput)
 {
     // Address, type and name; an absolute symbol (A) only names a version node.
-    static const QRegularExpression pattern(QStringLiteral(R"(^[0-9a-f]+ ([B-Zb-z]) ([^@\n]+))"),
-                                            QRegularExpression::MultilineOption);
-    QStringList names;
-    auto matches = pattern.globalMatch(nmOutput);
-    while (matches.hasNext())
-        names.append(matches.next().captured(2));
-    names.sort();
-    return names;
+    return namesOf(QStringLiteral(R"(^[0-9a-f]+ [B-Zb-z] ([^@\n]+))"), nmOutput);
+}
+
+QStringList LinkRules::importedSymbols(const QString& nmOutput)
+{
+    return namesOf(QStringLiteral(R"(^ +[Uvw] ([^@\n]+))"), nmOutput);
 }
 
 QStringList LinkRules::forbiddenLibraries(const QStringList& needed, const QStringList& forbidden)

@@ -71,9 +71,12 @@ private Q_SLOTS:
     void theDesignerCoreLinksNoPlugin();
     void theProgramsDoNotLinkThePlugin_data();
     void theProgramsDoNotLinkThePlugin();
+    void nothingOfOursReachesTheNetwork_data();
+    void nothingOfOursReachesTheNetwork();
     void thePluginExportsExactlyItsTwoEntryPoints();
     void neededLibrariesAreRead();
     void exportedSymbolsAreRead();
+    void importedSymbolsAreRead();
     void forbiddenLibrariesAreFound();
 };
 
@@ -120,6 +123,30 @@ void tst_LinkRules::theProgramsDoNotLinkThePlugin()
     QCOMPARE(LinkRules::forbiddenLibraries(needed, {QStringLiteral("VisualElements")}), QStringList());
 }
 
+void tst_LinkRules::nothingOfOursReachesTheNetwork_data()
+{
+    QTest::addColumn<QString>("binary");
+    for (const char* binary :
+         {MERIDANE_COMMON, MERIDANE_DESIGNER_CORE, MERIDANE_PLUGIN, MERIDANE_CLI, MERIDANE_APP, MERIDANE_VIEWER})
+        QTest::newRow(qPrintable(QFileInfo(QLatin1String(binary)).fileName())) << QString::fromLatin1(binary);
+    const QStringList libraries = displayLibraries();
+    for (const QString& library : libraries)
+        QTest::newRow(qPrintable(QFileInfo(library).fileName())) << library;
+}
+
+void tst_LinkRules::nothingOfOursReachesTheNetwork()
+{
+    QFETCH(QString, binary);
+    // Qt Qml itself links Qt Network; what counts is what our own code asks for.
+    QCOMPARE(LinkRules::forbiddenLibraries(neededBy(binary), {QStringLiteral("Qt6Network"), QStringLiteral("curl")}),
+             QStringList());
+    const QStringList wanted = LinkRules::importedSymbols(
+        outputOf(QStringLiteral("nm"), {QStringLiteral("--dynamic"), QStringLiteral("--undefined-only"), binary}));
+    QVERIFY(!wanted.isEmpty());
+    for (const char* symbol : {"socket", "connect", "getaddrinfo", "gethostbyname"})
+        QVERIFY2(!wanted.contains(QLatin1String(symbol)), symbol);
+}
+
 void tst_LinkRules::thePluginExportsExactlyItsTwoEntryPoints()
 {
     const QString output =
@@ -155,6 +182,17 @@ void tst_LinkRules::exportedSymbolsAreRead()
                                QStringLiteral("qt_plugin_instance"),
                                QStringLiteral("qt_plugin_query_verification_data")};
     QCOMPARE(LinkRules::exportedSymbols(output), expected);
+}
+
+void tst_LinkRules::importedSymbolsAreRead()
+{
+    const QString output = QStringLiteral("                 w __cxa_finalize@GLIBC_2.2.5\n"
+                                          "                 U connect@GLIBC_2.2.5\n"
+                                          "                 U _ZN7QSocketC1Ev\n"
+                                          "0000000000004a10 T socket\n");
+    const QStringList expected{QStringLiteral("_ZN7QSocketC1Ev"), QStringLiteral("__cxa_finalize"),
+                               QStringLiteral("connect")};
+    QCOMPARE(LinkRules::importedSymbols(output), expected);
 }
 
 void tst_LinkRules::forbiddenLibrariesAreFound()
