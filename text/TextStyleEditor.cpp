@@ -82,6 +82,7 @@ bool TextStyleEditor::createEditorWidget()
         setEdited({});
         setMergeKey(m_dragKey);
     });
+    connect(m_widget->colorWidget(), &ColorWidget::inputRefused, this, &TextStyleEditor::refuse);
     saveOn(m_widget, &TextStyleWidget::userModified);
     return true;
 }

@@ -1,3 +1,4 @@
+#include "host/core/widgets/ColorChannelFields.h"
 #include "host/core/widgets/ColorChannelSlider.h"
 #include "host/core/widgets/ColorPopup.h"
 #include "host/core/widgets/ColorSwatch.h"
@@ -6,9 +7,11 @@
 #include "host/core/widgets/RecentColors.h"
 #include "host/core/widgets/ScreenColorOverlay.h"
 #include "host/core/widgets/ScreenColorPicker.h"
+#include "host/core/widgets/SpinBox.h"
 
 #include <QtGui/QScreen>
 #include <QtTest/QtTest>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QToolButton>
 
 #include <algorithm>
@@ -33,6 +36,12 @@ private Q_SLOTS:
     void escapeEndsADrag();
     void aChosenColorBecomesRecent();
     void recentColorsArePicked();
+    void colorsInUseArePicked();
+    void withoutColorsInUseTheirTitleIsHidden();
+    void channelsAreTyped();
+    void aTypedHueKeepsTheOtherChannels();
+    void returnInAChannelTakesItOverAndASecondOneCloses();
+    void aColorOfSeveralIsChosenAgain();
     void thePopupStaysOnTheScreen();
     void allPartsHaveNames();
     void aColorIsPickedFromTheScreen();
@@ -210,6 +219,99 @@ void tst_ColorPopup::recentColorsArePicked()
     QCOMPARE(m_modified->count(), 1);
 }
 
+void tst_ColorPopup::colorsInUseArePicked()
+{
+    QList<QColor> used;
+    for (int i = 0; i < 20; ++i) {
+        used.append(QColor(10 * i, 20, 30));
+    }
+    m_popup->open(QColor(0, 200, 0), m_anchor.get(), used);
+    const auto swatches = m_popup->findChildren<ColorSwatch*>(QStringLiteral("usedColor"));
+    QCOMPARE(swatches.size(), 16);
+    QTest::mouseClick(swatches.at(3), Qt::LeftButton);
+    QCOMPARE(m_popup->color(), QColor(30, 20, 30));
+    QCOMPARE(m_modified->count(), 1);
+    // By keyboard as well.
+    swatches.at(4)->setFocus();
+    QTest::keyClick(swatches.at(4), Qt::Key_Space);
+    QCOMPARE(m_popup->color(), QColor(40, 20, 30));
+}
+
+void tst_ColorPopup::withoutColorsInUseTheirTitleIsHidden()
+{
+    const auto isShown = [this](const QString& text) {
+        const auto labels = m_popup->findChildren<QLabel*>();
+        return std::any_of(labels.cbegin(), labels.cend(),
+                           [&text](const QLabel* label) { return label->text() == text && label->isVisible(); });
+    };
+    m_popup->open(QColor(0, 200, 0), m_anchor.get());
+    QVERIFY(!isShown(QStringLiteral("In the project")));
+    m_popup->close();
+    m_popup->open(QColor(0, 200, 0), m_anchor.get(), {QColor(1, 2, 3)});
+    QVERIFY(isShown(QStringLiteral("In the project")));
+}
+
+void tst_ColorPopup::channelsAreTyped()
+{
+    m_popup->open(QColor(0, 200, 0), m_anchor.get());
+    const auto enter = [](SpinBox* field, const char* text) {
+        field->setFocus();
+        field->selectAll();
+        QTest::keyClicks(field, QString::fromLatin1(text));
+        QTest::keyClick(field, Qt::Key_Return);
+    };
+    ColorChannelFields* channels = m_popup->channelFields();
+    enter(channels->redField(), "255/5");
+    QCOMPARE(m_popup->color(), QColor(51, 200, 0));
+    enter(channels->blueField(), "+=10");
+    QCOMPARE(m_popup->color(), QColor(51, 200, 10));
+    enter(channels->opacityField(), "50");
+    QCOMPARE(m_popup->color(), QColor(51, 200, 10, 128));
+    enter(channels->saturationField(), "0");
+    QCOMPARE(m_popup->color(), QColor(200, 200, 200, 128));
+    enter(channels->brightnessField(), "100");
+    QCOMPARE(m_popup->color(), QColor(255, 255, 255, 128));
+    QCOMPARE(m_modified->count(), 5);
+}
+
+void tst_ColorPopup::aTypedHueKeepsTheOtherChannels()
+{
+    // A brightness that is no whole percent.
+    m_popup->open(QColor(0, 201, 0), m_anchor.get());
+    SpinBox* hue = m_popup->channelFields()->hueField();
+    QCOMPARE(hue->value(), 120.0);
+    hue->setFocus();
+    hue->selectAll();
+    QTest::keyClicks(hue, QStringLiteral("240"));
+    QTest::keyClick(hue, Qt::Key_Return);
+    QCOMPARE(m_popup->color(), QColor(0, 0, 201));
+}
+
+void tst_ColorPopup::returnInAChannelTakesItOverAndASecondOneCloses()
+{
+    m_popup->open(QColor(0, 200, 0), m_anchor.get());
+    SpinBox* red = m_popup->channelFields()->redField();
+    red->setFocus();
+    red->selectAll();
+    QTest::keyClicks(red, QStringLiteral("7"));
+    QTest::keyClick(red, Qt::Key_Return);
+    QVERIFY(m_popup->isVisible());
+    QCOMPARE(m_popup->color(), QColor(7, 200, 0));
+    QTest::keyClick(red, Qt::Key_Return);
+    QVERIFY(!m_popup->isVisible());
+}
+
+void tst_ColorPopup::aColorOfSeveralIsChosenAgain()
+{
+    m_popup->open(QColor(1, 2, 3), m_anchor.get(), {QColor(1, 2, 3)}, true);
+    QTest::mouseClick(m_popup->findChild<ColorSwatch*>(QStringLiteral("usedColor")), Qt::LeftButton);
+    QCOMPARE(m_modified->count(), 1);
+    m_popup->close();
+    m_popup->open(QColor(1, 2, 3), m_anchor.get(), {}, true);
+    QTest::keyClick(m_popup.get(), Qt::Key_Escape);
+    QCOMPARE(m_modified->count(), 1);
+}
+
 void tst_ColorPopup::thePopupStaysOnTheScreen()
 {
     const QRect available = m_anchor->screen()->availableGeometry();
@@ -222,7 +324,8 @@ void tst_ColorPopup::allPartsHaveNames()
 {
     m_popup->open(QColor(0, 200, 0), m_anchor.get());
     for (const QWidget* part : m_popup->findChildren<QWidget*>()) {
-        if (part->focusPolicy() != Qt::NoFocus && !part->isHidden()) {
+        // The line in a number field speaks for the field.
+        if (part->focusPolicy() != Qt::NoFocus && !part->focusProxy() && !part->isHidden()) {
             const auto* button = qobject_cast<const QAbstractButton*>(part);
             QVERIFY2(!part->accessibleName().isEmpty() || (button && !button->text().isEmpty()),
                      part->metaObject()->className());

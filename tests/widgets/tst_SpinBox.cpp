@@ -28,12 +28,15 @@ private Q_SLOTS:
     void lettersAreNotAccepted();
     void entriesAreLimitedAndRounded();
     void textThatCannotBeReadIsDropped();
+    void textThatCannotBeReadStaysWhereSomebodyListens();
+    void aNewValueReplacesARefusedText();
     void anOperatorThatNothingFollowsIsIgnored();
     void retypingTheShownTextChangesNothing();
     void theSuffixIsKept();
     void aPastedSuffixIsIgnored();
     void stepsCommitTypingFirst();
     void stepsStopAtTheEnds();
+    void shiftAndControlChangeTheStep();
     void stepsWrapWhenAsked();
     void theWheelActsOnTheFocusedFieldOnly();
     void relativeInputIsReported();
@@ -221,6 +224,48 @@ void tst_SpinBox::textThatCannotBeReadIsDropped()
     QCOMPARE(m_modified->count(), 0);
 }
 
+void tst_SpinBox::textThatCannotBeReadStaysWhereSomebodyListens()
+{
+    m_box->setValue(3);
+    QSignalSpy refused(m_box, &SpinBox::inputRefused);
+    type(QStringLiteral("1/0"));
+    QTest::keyClick(m_box, Qt::Key_Return);
+    QCOMPARE(m_box->text(), QStringLiteral("1/0"));
+    QCOMPARE(refused.count(), 1);
+    QVERIFY(!refused.first().first().toString().isEmpty());
+    m_other->setFocus();
+    QCOMPARE(m_box->text(), QStringLiteral("1/0"));
+    QCOMPARE(m_box->value(), 3.0);
+    QCOMPARE(m_modified->count(), 0);
+    m_box->setFocus();
+    QTest::keyClick(m_box, Qt::Key_Escape);
+    QCOMPARE(m_box->text(), QStringLiteral("3"));
+    // Whoever was told of the text is told that it is in order again, also where the value is the same.
+    type(QStringLiteral("(2"));
+    QTest::keyClick(m_box, Qt::Key_Return);
+    QCOMPARE(m_box->text(), QStringLiteral("(2"));
+    type(QStringLiteral("3"));
+    QTest::keyClick(m_box, Qt::Key_Return);
+    QCOMPARE(m_box->text(), QStringLiteral("3"));
+    QCOMPARE(m_modified->count(), 1);
+    QCOMPARE(m_box->value(), 3.0);
+}
+
+void tst_SpinBox::aNewValueReplacesARefusedText()
+{
+    m_box->setValue(3);
+    const QSignalSpy refused(m_box, &SpinBox::inputRefused);
+    type(QStringLiteral("1/0"));
+    m_other->setFocus();
+    m_box->setValue(4);
+    QCOMPARE(m_box->text(), QStringLiteral("4"));
+    type(QStringLiteral("1/0"));
+    m_other->setFocus();
+    m_box->dropInput();
+    QCOMPARE(m_box->text(), QStringLiteral("4"));
+    QCOMPARE(m_modified->count(), 0);
+}
+
 void tst_SpinBox::anOperatorThatNothingFollowsIsIgnored()
 {
     type(QStringLiteral("40+"));
@@ -280,6 +325,25 @@ void tst_SpinBox::stepsStopAtTheEnds()
     QTest::keyClick(m_box, Qt::Key_Up);
     QCOMPARE(m_box->value(), 1000.0);
     QCOMPARE(m_modified->count(), 1);
+}
+
+void tst_SpinBox::shiftAndControlChangeTheStep()
+{
+    m_box->setValue(5);
+    m_box->setFocus();
+    QTest::keyClick(m_box, Qt::Key_Up, Qt::ShiftModifier);
+    QCOMPARE(m_box->value(), 15.0);
+    QTest::keyClick(m_box, Qt::Key_Down, Qt::ControlModifier);
+    QCOMPARE(m_box->value(), 14.9);
+    QTest::keyClick(m_box, Qt::Key_Up);
+    QCOMPARE(m_box->value(), 15.9);
+    // A tenth of a whole number is the smallest step that makes a difference.
+    m_box->setDecimals(0);
+    m_box->setValue(7);
+    QTest::keyClick(m_box, Qt::Key_Up, Qt::ControlModifier);
+    QCOMPARE(m_box->value(), 8.0);
+    QTest::keyClick(m_box, Qt::Key_Down, Qt::ControlModifier);
+    QCOMPARE(m_box->value(), 7.0);
 }
 
 void tst_SpinBox::stepsWrapWhenAsked()

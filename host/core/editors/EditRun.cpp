@@ -13,6 +13,11 @@ bool isStepKey(int key)
     return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown;
 }
 
+bool isModifier(int key)
+{
+    return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_Meta;
+}
+
 bool isSliderKey(int key)
 {
     return isStepKey(key) || key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Home || key == Qt::Key_End;
@@ -48,7 +53,7 @@ bool EditRun::eventFilter(QObject* watched, QEvent* event)
         const int key = static_cast<const QKeyEvent*>(event)->key();
         if (slider ? isSliderKey(key) : isStepKey(key))
             goOn();
-        else if (!slider || key != Qt::Key_Escape) // which takes a drag back, as part of it
+        else if (!isModifier(key) && (!slider || key != Qt::Key_Escape)) // which takes a drag back, as part of it
             m_key.clear();
         break;
     }

@@ -1,6 +1,7 @@
 #include "host/core/editors/FontEditor.h"
 
 #include "host/core/canvas/EditSession.h"
+#include "host/core/properties/DesignerProperty.h"
 #include "host/core/values/ValueConversion.h"
 #include "host/core/widgets/ComboBox.h"
 #include "host/core/widgets/FontFamilyBox.h"
@@ -13,7 +14,9 @@
 #include <QFileDialog>
 #include <QToolButton>
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace Korvex::Meridane::Designer {
 
@@ -45,11 +48,16 @@ bool FontEditor::createEditorWidget()
         return [this, component] { edit(QString::fromLatin1(component)); };
     };
     connect(m_widget->familyBox(), &FontFamilyBox::userModified, this, save("family"));
-    connect(m_widget->sizeField(), &SpinBox::userModified, this, save("size"));
     connect(m_widget->unitBox(), &ComboBox::userModified, this, save("size"));
     connect(m_widget->weightBox(), &ComboBox::userModified, this, save("bold"));
-    connect(m_widget->letterSpacingField(), &SpinBox::userModified, this, save("letterSpacing"));
-    connect(m_widget->wordSpacingField(), &SpinBox::userModified, this, save("wordSpacing"));
+    const auto saveNumber = [this](SpinBox* field, const char* component) {
+        field->setRelativeInputAllowed(true);
+        connect(field, &SpinBox::userModified, this,
+                [this, field, component] { edit(QString::fromLatin1(component), operationText(field->operation())); });
+    };
+    saveNumber(m_widget->sizeField(), "size");
+    saveNumber(m_widget->letterSpacingField(), "letterSpacing");
+    saveNumber(m_widget->wordSpacingField(), "wordSpacing");
     for (qsizetype i = 0; i < m_widget->styleButtons().size(); ++i) {
         connect(m_widget->styleButtons().at(i), &FontStyleButton::userModified, this,
                 save(StyleComponents.at(static_cast<std::size_t>(i))));
@@ -70,6 +78,21 @@ void FontEditor::propertyReplaced()
 {
     if (m_widget)
         m_widget->importButton()->setEnabled(session() != nullptr);
+}
+
+UndoCommand* FontEditor::createUpdateCommand(const QSharedPointer<DesignerProperty>& property, const QString& value,
+                                             UndoCommand* parent)
+{
+    bool presentOk = false;
+    bool wantedOk = false;
+    const QFont present = ValueConversion::toFont(property->valueString(), &presentOk);
+    QFont wanted = ValueConversion::toFont(value, &wantedOk);
+    if (!wantedOk || !m_widget || wanted.pointSizeF() <= 0
+        || (presentOk && wanted.pointSizeF() == present.pointSizeF()))
+        return StandardEditor::createUpdateCommand(property, value, parent);
+    constexpr double Steps = 100; // of a point: two decimals
+    wanted.setPointSizeF(std::max(std::round(wanted.pointSizeF() * Steps) / Steps, m_widget->sizeField()->minimum()));
+    return StandardEditor::createUpdateCommand(property, ValueConversion::toString(wanted), parent);
 }
 
 void FontEditor::importFile(const QString& file)
@@ -112,6 +135,8 @@ bool FontEditor::showValue(const QString& value)
     m_widget->weightBox()->setMixed(mixed("bold"));
     m_widget->letterSpacingField()->setMixed(mixed("letterSpacing"));
     m_widget->wordSpacingField()->setMixed(mixed("wordSpacing"));
+    for (qsizetype i = 0; i < m_widget->styleButtons().size(); ++i)
+        m_widget->styleButtons().at(i)->setMixed(mixed(StyleComponents.at(static_cast<std::size_t>(i))));
     return ok;
 }
 

@@ -20,6 +20,9 @@ public:
     [[nodiscard]] QString className() const override;
     bool createEditorWidget() override;
     void propertyReplaced() override;
+    /// Keeps to the decimals of the size, also where a relative edit led beyond them.
+    UndoCommand* createUpdateCommand(const QSharedPointer<DesignerProperty>& property, const QString& value,
+                                     UndoCommand* parent) override;
 
     /// Copies \a file into the project and chooses its family; a file that is no font is refused with a message.
     void importFile(const QString& file);

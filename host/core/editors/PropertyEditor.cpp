@@ -6,6 +6,7 @@
 #include "host/core/objects/DesignerObject.h"
 #include "host/core/project/Project.h"
 #include "host/core/properties/DesignerProperty.h"
+#include "host/core/widgets/HexColorField.h"
 #include "host/core/widgets/SpinBox.h"
 
 #include "host/common/LocalizationHelper.h"
@@ -18,6 +19,7 @@
 #include <QScopedValueRollback>
 
 #include <memory>
+#include <utility>
 
 namespace Korvex::Meridane::Designer {
 
@@ -97,7 +99,8 @@ void PropertyEditor::setProperties(const QList<QSharedPointer<DesignerProperty>>
     if (m_property && m_property->editorWidget() == this)
         m_property->setEditorWidget(nullptr);
     m_property = property;
-    m_refused = false;
+    if (std::exchange(m_refused, false))
+        dropInput();
     m_changedValue.clear();
     m_mixedComponents.clear();
     m_mergeKey.clear();
@@ -129,7 +132,8 @@ void PropertyEditor::load()
     if (!m_property)
         return;
     const QScopedValueRollback loading(m_loading, true);
-    m_refused = false;
+    if (std::exchange(m_refused, false))
+        dropInput();
     loadEditorValue();
 }
 
@@ -288,6 +292,15 @@ void PropertyEditor::keyPressEvent(QKeyEvent* event)
         return;
     }
     QWidget::keyPressEvent(event);
+}
+
+/// Fields that show the value already keep what was typed into them; a refused text is not to outlive its object.
+void PropertyEditor::dropInput()
+{
+    for (SpinBox* field : findChildren<SpinBox*>())
+        field->dropInput();
+    for (HexColorField* field : findChildren<HexColorField*>())
+        field->dropInput();
 }
 
 void PropertyEditor::applyToolTip()

@@ -154,6 +154,7 @@ protected:
 
 private:
     void applyToolTip();
+    void dropInput();
     void forgetEdited();
 
     QSharedPointer<DesignerProperty> m_property;

@@ -1,7 +1,9 @@
 #include "host/core/editors/StandardEditor.h"
 
+#include "host/core/commands/UndoCommand.h"
 #include "host/core/editors/EditRun.h"
 #include "host/core/editors/ValueComponents.h"
+#include "host/core/project/Project.h"
 #include "host/core/properties/DesignerProperty.h"
 #include "host/core/values/NumberOperation.h"
 #include "host/core/values/ValueConversion.h"
@@ -11,6 +13,9 @@
 #include "host/core/widgets/SpinBox.h"
 
 #include <QVariant>
+
+#include <memory>
+#include <utility>
 
 namespace Korvex::Meridane::Designer {
 
@@ -67,18 +72,22 @@ void StandardEditor::edit(const QString& component, const QString& operation)
 void StandardEditor::joinSteps(SpinBox* field)
 {
     m_run->watch(field);
+    connect(field, &SpinBox::inputRefused, this, &StandardEditor::refuse);
 }
 
 void StandardEditor::joinSteps(NumberWidget* field)
 {
-    m_run->watch(field->spinBox());
+    joinSteps(field->spinBox());
     m_run->watch(field->slider());
+    connect(field, &NumberWidget::sliderReleased, this, &StandardEditor::endDrag);
 }
 
 void StandardEditor::joinSteps(ColorWidget* field)
 {
-    connect(field, &ColorWidget::sliderPressed, m_run, &EditRun::begin);
+    connect(field, &ColorWidget::sliderPressed, this, &StandardEditor::beginColorRun);
+    connect(field, &ColorWidget::cancelled, this, &StandardEditor::takeColorRunBack);
     connect(field, &ColorWidget::sliderReleased, m_run, &EditRun::end);
+    connect(field, &ColorWidget::inputRefused, this, &StandardEditor::refuse);
 }
 
 void StandardEditor::endSteps()
@@ -111,6 +120,39 @@ QString StandardEditor::operationText(const NumberOperation& operation)
 QVariant StandardEditor::parameter(const char* name, const QVariant& fallback) const
 {
     return property() ? property()->editorParameters().value(QString::fromLatin1(name), fallback) : fallback;
+}
+
+void StandardEditor::beginColorRun()
+{
+    m_run->begin();
+    m_before.clear();
+    if (!isPropertyChange())
+        return;
+    for (const auto& each : properties())
+        m_before.append(each->valueString());
+}
+
+/// A single object has got its colour back already; of several each gets back its own.
+void StandardEditor::takeColorRunBack()
+{
+    const QStringList before = std::exchange(m_before, {});
+    Project* project = property() ? Project::parentProject(property()->parentObject()) : nullptr;
+    if (!project || before.size() != properties().size())
+        return;
+    auto step = std::make_unique<UndoCommand>();
+    step->setMergeKey(m_run->key());
+    for (qsizetype i = 0; i < before.size(); ++i)
+        PropertyEditor::createUpdateCommand(properties().at(i), before.at(i), step.get());
+    project->execute(std::move(step));
+}
+
+/// What a drag led to beyond what the property takes is not worth keeping, unlike something typed.
+void StandardEditor::endDrag()
+{
+    if (!isRefused())
+        return;
+    load();
+    Q_EMIT accepted();
 }
 
 void StandardEditor::valueTaken()

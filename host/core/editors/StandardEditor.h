@@ -40,7 +40,9 @@ protected:
 
     /// The user edited \a component (empty: the whole value), by \a operation ("+=10") or to a plain value: saves.
     void edit(const QString& component = {}, const QString& operation = {});
-    /// Joins the steps of \a field, and the drags of its slider, into one undo step a run.
+    /// Joins the steps of \a field, and the drags of its slider, into one undo step a run; what is done in a colour
+    /// popup until it closes is a run as well, which Escape takes back whole. A text that a field cannot read is refused
+    /// with its message.
     void joinSteps(SpinBox* field);
     void joinSteps(NumberWidget* field);
     void joinSteps(ColorWidget* field);
@@ -53,10 +55,14 @@ protected:
 
 private:
     void valueTaken();
+    void beginColorRun();
+    void takeColorRunBack();
+    void endDrag();
 
     EditRun* m_run;
     QString m_loaded;
     QStringList m_touched;
+    QStringList m_before; // property-change mode: the values of properties() before a run
 };
 
 } // namespace Korvex::Meridane::Designer

@@ -180,6 +180,13 @@ std::optional<int> leastWholeNumber(const QString& propertyClass, const QString&
     return std::nullopt;
 }
 
+/// The text of the number called \a name; a font names no spacing of 0.
+QString numberText(const Parts& parts, const QString& name)
+{
+    const bool isSpacing = name == QLatin1String("letterSpacing") || name == QLatin1String("wordSpacing");
+    return parts.value(name, isSpacing ? QStringLiteral("0") : QString());
+}
+
 QString wholeNumber(double value, int least)
 {
     const double rounded = std::round(value);
@@ -240,7 +247,7 @@ QString ValueComponents::withOperation(const QString& propertyClass, const QStri
         return ownValue;
     for (const QString& part : keysOf(*known)) {
         bool ok = false;
-        const double number = operation.applyTo(ValueConversion::toReal(own->value(part), &ok));
+        const double number = operation.applyTo(ValueConversion::toReal(numberText(*own, part), &ok));
         if (!ok)
             continue;
         const std::optional<int> least = leastWholeNumber(propertyClass, part);

@@ -37,7 +37,7 @@ public:
                                                const QString& component, const QString& editedValue);
 
     /// \a ownValue with \a operation applied to the number that \a component (empty: the whole value) is. Whole numbers
-    /// stay whole, and a border's width stays 0 or more. \a ownValue itself where it does not convert, where the
+    /// stay whole, and a border's width stays 0 or more. A spacing that a font does not name is 0. \a ownValue itself where it does not convert, where the
     /// component is no number, or where the result would be no value of the class.
     [[nodiscard]] static QString withOperation(const QString& propertyClass, const QString& ownValue,
                                                const QString& component, const NumberOperation& operation);

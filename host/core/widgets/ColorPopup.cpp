@@ -2,6 +2,7 @@
 
 #include "host/common/LocalizationHelper.h"
 #include "host/core/values/ValueConversion.h"
+#include "host/core/widgets/ColorChannelFields.h"
 #include "host/core/widgets/ColorChannelSlider.h"
 #include "host/core/widgets/ColorSwatch.h"
 #include "host/core/widgets/HexColorField.h"
@@ -14,6 +15,7 @@
 #include <QtGui/QScreen>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QVBoxLayout>
 
@@ -23,8 +25,9 @@ namespace Korvex::Meridane::Designer {
 namespace {
 using Common::LocalizationHelper;
 
-constexpr int recentColumns = 8;
-constexpr int recentSwatchWidth = 32;
+constexpr int swatchColumns = 8;
+constexpr int swatchWidth = 32;
+constexpr int mostSwatches = 16;
 /** What a window system needs to take a hidden popup off the screen before the screen is grabbed, in milliseconds. */
 constexpr int hidingDelay = 200;
 } // namespace
@@ -35,9 +38,13 @@ ColorPopup::ColorPopup(TransparentOption transparency, QWidget* parent)
     , m_field(new HueSaturationField(this))
     , m_brightness(new ColorChannelSlider(this))
     , m_alpha(new ColorChannelSlider(this))
+    , m_channels(new ColorChannelFields(transparency, this))
     , m_text(new HexColorField(transparency, this))
     , m_preview(new ColorSwatch(this))
     , m_pickButton(new QToolButton(this))
+    , m_inUseTitle(new QLabel(LocalizationHelper::coreString(QStringLiteral("In the project")), this))
+    , m_inUseLayout(new QGridLayout)
+    , m_recentTitle(new QLabel(LocalizationHelper::coreString(QStringLiteral("Recently used")), this))
     , m_recentLayout(new QGridLayout)
     , m_screenPicker(new ScreenColorPicker(this))
 {
@@ -59,19 +66,38 @@ ColorPopup::ColorPopup(TransparentOption transparency, QWidget* parent)
     row->addWidget(m_preview);
     row->addWidget(m_text, 1);
     row->addWidget(m_pickButton);
-    m_recentLayout->setSpacing(2);
-    m_recentLayout->setColumnStretch(recentColumns, 1);
+    for (QGridLayout* swatches : {m_inUseLayout, m_recentLayout}) {
+        swatches->setSpacing(2);
+        swatches->setColumnStretch(swatchColumns, 1);
+    }
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_field, 1);
     layout->addWidget(m_brightness);
     layout->addWidget(m_alpha);
+    layout->addWidget(m_channels);
     layout->addLayout(row);
+    layout->addWidget(m_inUseTitle);
+    layout->addLayout(m_inUseLayout);
+    layout->addWidget(m_recentTitle);
     layout->addLayout(m_recentLayout);
 
     connect(m_field, &HueSaturationField::userModified, this, &ColorPopup::editFromSliders);
     connect(m_brightness, &ColorChannelSlider::userModified, this, &ColorPopup::editFromSliders);
     connect(m_alpha, &ColorChannelSlider::userModified, this, &ColorPopup::editFromSliders);
     connect(m_text, &HexColorField::userModified, this, [this] { edit(m_text->color()); });
+    connect(m_channels, &ColorChannelFields::colorEdited, this, &ColorPopup::edit);
+    connect(m_channels, &ColorChannelFields::hueEdited, this, [this](double hue) {
+        m_field->setHueAndSaturation(hue, m_saturation);
+        editFromSliders();
+    });
+    connect(m_channels, &ColorChannelFields::saturationEdited, this, [this](double saturation) {
+        m_field->setHueAndSaturation(m_hue, saturation);
+        editFromSliders();
+    });
+    connect(m_channels, &ColorChannelFields::brightnessEdited, this, [this](double brightness) {
+        m_brightness->setChannel(qRound(brightness * m_brightness->maximum()));
+        editFromSliders();
+    });
     connect(m_field, &HueSaturationField::gestureStarted, this, &ColorPopup::gestureStarted);
     connect(m_field, &HueSaturationField::gestureFinished, this, &ColorPopup::gestureFinished);
     for (const ColorChannelSlider* slider : {m_brightness, m_alpha}) {
@@ -85,12 +111,14 @@ ColorPopup::ColorPopup(TransparentOption transparency, QWidget* parent)
 
 ColorPopup::~ColorPopup() = default;
 
-void ColorPopup::open(const QColor& color, const QWidget* anchor)
+void ColorPopup::open(const QColor& color, const QWidget* anchor, const QList<QColor>& inUse, bool mixed)
 {
+    m_mixed = mixed;
     m_color = color.isValid() ? color : QColor(Qt::black);
     m_colorBefore = m_color;
     m_pickButton->setVisible(ScreenColorPicker::isAvailable());
-    showRecentColors();
+    showSwatches(m_inUseLayout, m_inUseTitle, inUse, QStringLiteral("usedColor"));
+    showSwatches(m_recentLayout, m_recentTitle, RecentColors::shared().colors(), QStringLiteral("recentColor"));
     showColor();
     placeBeside(anchor);
     show();
@@ -117,7 +145,10 @@ void ColorPopup::keyPressEvent(QKeyEvent* event)
 {
     switch (event->key()) {
     case Qt::Key_Escape:
-        edit(m_colorBefore);
+        if (!m_mixed) {
+            edit(m_colorBefore);
+        }
+        Q_EMIT cancelled();
         close();
         break;
     case Qt::Key_Enter:
@@ -154,6 +185,7 @@ void ColorPopup::showColor()
         }
     }
     m_field->setHueAndSaturation(m_hue, m_saturation);
+    m_channels->showColor(m_color, m_hue, m_saturation);
     m_brightness->setChannel(hsv.value());
     m_alpha->setChannel(m_color.alpha());
     m_brightness->setEnds(Qt::black, QColor::fromHsvF(static_cast<float>(m_hue), static_cast<float>(m_saturation), 1));
@@ -166,33 +198,38 @@ void ColorPopup::showColor()
     m_preview->setColor(m_color);
 }
 
-void ColorPopup::showRecentColors()
+void ColorPopup::showSwatches(QGridLayout* layout, QLabel* title, const QList<QColor>& colors,
+                              const QString& objectName)
 {
-    while (QLayoutItem* item = m_recentLayout->takeAt(0)) {
+    while (QLayoutItem* item = layout->takeAt(0)) {
         delete item->widget();
         delete item;
     }
     int index = 0;
-    for (const QColor& color : RecentColors::shared().colors()) {
+    for (const QColor& color : colors) {
         if (m_transparency == OpaqueOnly && color.alpha() < 255) {
             continue;
         }
         auto* swatch = new ColorSwatch(this);
-        swatch->setObjectName(QStringLiteral("recentColor"));
-        swatch->setAccessibleName(LocalizationHelper::coreString(QStringLiteral("Recent color")));
+        swatch->setObjectName(objectName);
+        swatch->setAccessibleName(title->text());
         swatch->setColor(color);
-        swatch->setFixedSize(recentSwatchWidth, swatch->sizeHint().height());
+        swatch->setFixedSize(swatchWidth, swatch->sizeHint().height());
         connect(swatch, &ColorSwatch::clicked, this, [this, color] { edit(color); });
-        m_recentLayout->addWidget(swatch, index / recentColumns, index % recentColumns);
-        ++index;
+        layout->addWidget(swatch, index / swatchColumns, index % swatchColumns);
+        if (++index == mostSwatches) {
+            break;
+        }
     }
+    title->setVisible(index > 0);
 }
 
 void ColorPopup::edit(const QColor& color)
 {
-    if (color == m_color) {
+    if (color == m_color && !m_mixed) {
         return;
     }
+    m_mixed = false;
     m_color = color;
     showColor();
     Q_EMIT userModified();
@@ -210,13 +247,15 @@ void ColorPopup::editFromSliders()
                    m_transparency == TransparencyAllowed ? m_alpha->value() : 255);
     const double hue = m_hue;
     const double saturation = m_saturation;
-    const bool changed = color != m_color;
+    const bool changed = color != m_color || m_mixed;
+    m_mixed = false;
     m_color = color;
     showColor();
     // Rounding to channels must not pull the point from under the mouse.
     m_hue = hue;
     m_saturation = saturation;
     m_field->setHueAndSaturation(hue, saturation);
+    m_channels->showColor(m_color, hue, saturation);
     if (changed) {
         Q_EMIT userModified();
     }

@@ -11,7 +11,10 @@ class ColorPopup;
 class ColorSwatch;
 class HexColorField;
 
-/** A colour field: a swatch that opens a ColorPopup and, unless it is compact, the colour as text beside it. */
+/**
+ * A colour field: a swatch that opens a ColorPopup and, unless it is compact, the colour as text beside it. The popup
+ * offers the colours of the nearest ColorSource among the parents.
+ */
 class MERIDANE_CORE_EXPORT ColorWidget : public QWidget
 {
     Q_OBJECT
@@ -35,6 +38,7 @@ public:
     void setAccessibleLabel(const QString& label);
 
     [[nodiscard]] ColorSwatch* swatch() const { return m_swatch; }
+    /** Null in a compact field. */
     [[nodiscard]] HexColorField* textField() const { return m_text; }
     /** Made when it is first opened; null before. */
     [[nodiscard]] ColorPopup* popup() const { return m_popup; }
@@ -42,11 +46,15 @@ public:
 Q_SIGNALS:
     /** The user has changed the colour; during a drag in the popup once for every change. */
     void userModified();
+    /** What was typed is no colour; see HexColorField. */
+    void inputRefused(const QString& message);
     void focusedIn();
     void focusedOut();
-    /** A drag in the popup begins and ends; what is modified between belongs together. */
+    /** The popup opens and closes; what is modified between belongs together. */
     void sliderPressed();
     void sliderReleased();
+    /** Escape in the popup: what was modified since it opened is to be taken back. sliderReleased() follows. */
+    void cancelled();
 
 private:
     void openPopup();
@@ -56,7 +64,7 @@ private:
     QColor m_color = QColor(Qt::black);
     bool m_mixed = false;
     ColorSwatch* m_swatch;
-    HexColorField* m_text;
+    HexColorField* m_text = nullptr;
     ColorPopup* m_popup = nullptr;
 };
 } // namespace Korvex::Meridane::Designer

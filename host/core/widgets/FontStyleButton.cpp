@@ -2,6 +2,8 @@
 
 #include "host/common/LocalizationHelper.h"
 
+#include <QtGui/QPainter>
+
 namespace Korvex::Meridane::Designer {
 namespace {
 bool hasStyle(const QFont& font, FontStyleButton::Style style)
@@ -78,7 +80,39 @@ FontStyleButton::FontStyleButton(Style style, QWidget* parent)
 
 void FontStyleButton::showFont(const QFont& font)
 {
+    setMixed(false);
     setChecked(hasStyle(font, m_style));
+}
+
+void FontStyleButton::setMixed(bool mixed)
+{
+    m_mixed = mixed;
+    if (mixed) {
+        setChecked(false);
+    }
+    setAccessibleDescription(mixed ? Common::LocalizationHelper::coreString(QStringLiteral("different values"))
+                                   : QString());
+    update();
+}
+
+void FontStyleButton::nextCheckState()
+{
+    const bool wasMixed = m_mixed;
+    setMixed(false);
+    setChecked(wasMixed || !isChecked());
+}
+
+void FontStyleButton::paintEvent(QPaintEvent* event)
+{
+    QToolButton::paintEvent(event);
+    if (!m_mixed) {
+        return;
+    }
+    constexpr double dashLength = 8;
+    constexpr double dashWidth = 2;
+    QPainter painter(this);
+    const QRectF dash(rect().center().x() - dashLength / 2, height() - dashWidth - 1, dashLength, dashWidth);
+    painter.fillRect(dash, palette().color(QPalette::PlaceholderText));
 }
 
 QFont FontStyleButton::appliedTo(const QFont& font) const

@@ -3,7 +3,10 @@
 #include "host/common/LocalizationHelper.h"
 #include "host/core/values/ValueConversion.h"
 
+#include <QtCore/QMetaMethod>
 #include <QtGui/QKeyEvent>
+
+#include <utility>
 
 namespace Korvex::Meridane::Designer {
 HexColorField::HexColorField(TransparentOption transparency, QWidget* parent)
@@ -37,10 +40,21 @@ void HexColorField::setMixed(bool mixed)
 void HexColorField::commit()
 {
     if (text() == shownText()) {
+        if (std::exchange(m_refused, false)) {
+            Q_EMIT userModified();
+        }
         return;
     }
     const QColor typed = typedColor();
-    const bool changed = typed.isValid() && (m_mixed || typed != m_color);
+    if (!typed.isValid() && !text().trimmed().isEmpty()
+        && isSignalConnected(QMetaMethod::fromSignal(&HexColorField::inputRefused))) {
+        m_refused = true;
+        Q_EMIT inputRefused(Common::LocalizationHelper::coreString(QStringLiteral("\"%1\" is no color. Write #rrggbb, "
+                                                                                  "#aarrggbb or the name of a color."))
+                                .arg(text().trimmed()));
+        return;
+    }
+    const bool changed = (typed.isValid() && (m_mixed || typed != m_color)) || m_refused;
     if (typed.isValid()) {
         m_color = typed;
         m_mixed = false;
@@ -49,6 +63,14 @@ void HexColorField::commit()
     if (changed) {
         Q_EMIT userModified();
     }
+}
+
+void HexColorField::dropInput()
+{
+    if (text() != shownText()) {
+        showColor();
+    }
+    m_refused = false;
 }
 
 bool HexColorField::event(QEvent* event)
@@ -71,9 +93,10 @@ bool HexColorField::event(QEvent* event)
 void HexColorField::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Escape && text() != shownText()) {
-        showColor();
+        const bool wasRefused = m_refused;
+        dropInput();
         selectAll();
-        event->accept();
+        event->setAccepted(!wasRefused); // whoever shows the message takes it away
         return;
     }
     if (event->key() == Qt::Key_Enter || event->key() == Qt::Key_Return) {
@@ -98,6 +121,7 @@ void HexColorField::focusOutEvent(QFocusEvent* event)
 
 void HexColorField::showColor()
 {
+    m_refused = false;
     setPlaceholderText(m_mixed ? QStringLiteral("\u2014") : QString());
     setText(shownText());
     setCursorPosition(0);

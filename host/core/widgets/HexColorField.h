@@ -9,7 +9,8 @@
 namespace Korvex::Meridane::Designer {
 /**
  * A line for a colour as text: `#rrggbb`, `#aarrggbb`, `#rgb`, the same without `#`, or a colour name. What is typed
- * counts on Enter and when the focus leaves; Escape, and a text that is no colour, bring the colour back.
+ * counts on Enter and when the focus leaves; Escape brings the colour back. A text that is no colour stays where somebody
+ * listens to inputRefused(), and is dropped otherwise.
  */
 class MERIDANE_CORE_EXPORT HexColorField : public QLineEdit
 {
@@ -25,9 +26,16 @@ public:
     /** Shows "—" until setColor() or an edit. */
     void setMixed(bool mixed);
     void commit();
+    /** Shows the colour again, whatever was typed; silently. */
+    void dropInput();
 
 Q_SIGNALS:
     void userModified();
+    /**
+     * The typed text is no colour, as @p message tells the user; it stays in the field. When the field is in order again
+     * userModified() follows, also when the colour is the one before.
+     */
+    void inputRefused(const QString& message);
 
 protected:
     bool event(QEvent* event) override;
@@ -42,5 +50,6 @@ private:
     TransparentOption m_transparency;
     QColor m_color = QColor(Qt::black);
     bool m_mixed = false;
+    bool m_refused = false; // the text is no colour
 };
 } // namespace Korvex::Meridane::Designer

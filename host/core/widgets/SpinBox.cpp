@@ -3,6 +3,7 @@
 #include "host/core/values/NumberExpression.h"
 #include "host/core/values/ValueConversion.h"
 
+#include <QtCore/QMetaMethod>
 #include <QtCore/QScopedValueRollback>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QLineEdit>
@@ -10,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace Korvex::Meridane::Designer {
 namespace {
@@ -18,6 +20,17 @@ constexpr int maximumDecimals = 15;
 constexpr char16_t mixedSign = u'\u2014';
 /** From here on doubles have no decimals. */
 constexpr double wholeNumbersOnly = 1e15;
+constexpr double largeStep = 10;
+constexpr double smallStep = 0.1;
+
+/** What a step counts with these keys held. */
+double stepFactor(Qt::KeyboardModifiers modifiers)
+{
+    if (modifiers.testFlag(Qt::ShiftModifier)) {
+        return largeStep;
+    }
+    return modifiers.testFlag(Qt::ControlModifier) ? smallStep : 1;
+}
 } // namespace
 
 SpinBox::SpinBox(bool wholeNumbers, QWidget* parent)
@@ -114,6 +127,7 @@ void SpinBox::setValue(double value)
     }
     m_value = value;
     m_mixed = false;
+    m_refusedText = QString();
     showValue();
 }
 
@@ -125,6 +139,9 @@ void SpinBox::editValue(double value)
 void SpinBox::commit()
 {
     if (!isEdited()) {
+        if (!std::exchange(m_refusedText, QString()).isNull()) {
+            Q_EMIT userModified();
+        }
         return;
     }
     const QString text = lineEdit()->text();
@@ -133,10 +150,34 @@ void SpinBox::commit()
         applyOperation(*operation);
         return;
     }
+    if (!withoutSuffix(text).trimmed().isEmpty()
+        && isSignalConnected(QMetaMethod::fromSignal(&SpinBox::inputRefused))) {
+        m_refusedText = text;
+        Q_EMIT inputRefused(error);
+        return;
+    }
     showValue();
     if (!withoutSuffix(text).trimmed().isEmpty() && isVisible()) {
         QToolTip::showText(mapToGlobal(QPoint(0, height())), error, this);
     }
+}
+
+void SpinBox::dropInput()
+{
+    if (isEdited()) {
+        showValue();
+    }
+    m_refusedText = QString();
+}
+
+/** Puts a text back that the base class has replaced because it cannot read it. */
+void SpinBox::keepRefusedText()
+{
+    if (m_refusedText.isNull() || lineEdit()->text() == m_refusedText) {
+        return;
+    }
+    const QScopedValueRollback guard(m_synchronising, true);
+    lineEdit()->setText(m_refusedText);
 }
 
 /** The one way by which the user's edits reach the value. */
@@ -144,6 +185,7 @@ void SpinBox::applyOperation(const NumberOperation& operation)
 {
     const double before = m_value;
     const bool wasMixed = m_mixed;
+    const bool wasRefused = !std::exchange(m_refusedText, QString()).isNull();
     m_value = adjusted(operation.applyTo(m_value));
     m_loaded = true;
     if (operation.isRelative() && m_relativeInputAllowed) {
@@ -153,7 +195,7 @@ void SpinBox::applyOperation(const NumberOperation& operation)
         m_mixed = false;
     }
     showValue();
-    if (wasMixed || m_value != before) {
+    if (wasMixed || wasRefused || m_value != before) {
         Q_EMIT userModified();
     }
 }
@@ -168,8 +210,17 @@ void SpinBox::onBaseValueChanged(double value)
 
 void SpinBox::stepBy(int steps)
 {
+    step(steps);
+}
+
+void SpinBox::step(double steps)
+{
     commit();
-    const double distance = singleStep() * steps;
+    dropInput();
+    // A part of a step is at least what the decimals show.
+    const double least = std::pow(10, -m_decimals);
+    const double wanted = singleStep() * steps;
+    const double distance = std::abs(wanted) < least ? std::copysign(std::min(least, singleStep()), wanted) : wanted;
     if (wrapping() && (m_value + distance > m_maximum || m_value + distance < m_minimum)) {
         const bool above = distance > 0;
         const bool atEnd = above ? m_value >= m_maximum : m_value <= m_minimum;
@@ -256,8 +307,17 @@ void SpinBox::keyPressEvent(QKeyEvent* event)
     switch (event->key()) {
     case Qt::Key_Escape:
         if (isEdited()) {
-            showValue();
+            const bool wasRefused = !m_refusedText.isNull();
+            dropInput();
             selectAll();
+            event->setAccepted(!wasRefused); // whoever shows the message takes it away
+            return;
+        }
+        break;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        if (const double factor = stepFactor(event->modifiers()); factor != 1 && !isReadOnly()) {
+            step(event->key() == Qt::Key_Up ? factor : -factor);
             event->accept();
             return;
         }
@@ -265,7 +325,10 @@ void SpinBox::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Enter:
     case Qt::Key_Return:
         commit();
-        break;
+        QDoubleSpinBox::keyPressEvent(event);
+        keepRefusedText();
+        selectAll();
+        return;
     default:
         break;
     }
@@ -274,10 +337,16 @@ void SpinBox::keyPressEvent(QKeyEvent* event)
 
 void SpinBox::wheelEvent(QWheelEvent* event)
 {
-    if (hasFocus()) {
+    const double factor = stepFactor(event->modifiers());
+    if (!hasFocus()) {
+        event->ignore();
+    } else if (factor == 1) {
         QDoubleSpinBox::wheelEvent(event);
     } else {
-        event->ignore();
+        if (event->angleDelta().y() != 0) {
+            step(event->angleDelta().y() > 0 ? factor : -factor);
+        }
+        event->accept();
     }
 }
 
@@ -297,6 +366,7 @@ void SpinBox::focusOutEvent(QFocusEvent* event)
         commit();
     }
     QDoubleSpinBox::focusOutEvent(event);
+    keepRefusedText();
     if (leaving) {
         Q_EMIT focusedOut();
     }
@@ -306,6 +376,7 @@ void SpinBox::hideEvent(QHideEvent* event)
 {
     commit();
     QDoubleSpinBox::hideEvent(event);
+    keepRefusedText();
 }
 
 void SpinBox::showValue()

@@ -13,8 +13,11 @@ namespace Korvex::Meridane::Designer {
  *
  * It keeps the exact value it was given and shows it with at most decimals() decimals; only an edit by the user rounds
  * and limits it. A value outside the range is shown as it is. What is typed counts when it is committed: on Enter, when
- * the focus leaves, and before a step; Escape takes it back. Arithmetic (`120/3`) may be typed, and where it is allowed
+ * the focus leaves, and before a step; Escape takes it back. A text that cannot be read stays where somebody listens to
+ * inputRefused(), and is dropped otherwise. Arithmetic (`120/3`) may be typed, and where it is allowed
  * a relative change (`+=10`), which operation() then reports. The decimal sign shown is ".", whatever the locale.
+ *
+ * Up and Down step; with Shift by ten steps, with Ctrl by a tenth, as far as the decimals go.
  *
  * The wheel acts only on the focused field, so that a scrolled page keeps its values.
  *
@@ -64,8 +67,10 @@ public:
     void setMixed(bool mixed);
     [[nodiscard]] bool isMixed() const { return m_mixed; }
 
-    /** Takes over the typed text as Enter does. Text that cannot be read is dropped, with its reason as a tooltip. */
+    /** Takes over the typed text as Enter does. */
     void commit();
+    /** Shows the value again, whatever was typed; silently. */
+    void dropInput();
 
     /** Changes the value for the user, as a step or a slider does: userModified() when that makes a difference. */
     void editValue(double value);
@@ -83,6 +88,12 @@ public Q_SLOTS:
 Q_SIGNALS:
     /** The user has changed the value; never sent for setValue(). */
     void userModified();
+    /**
+     * The typed text cannot be read, for the reason that @p message tells the user; it stays in the field. When the field
+     * is in order again userModified() follows, also when the value is the one before. Without a receiver the text is
+     * dropped and the reason shown as a tooltip.
+     */
+    void inputRefused(const QString& message);
     void focusedIn();
     void focusedOut();
 
@@ -97,6 +108,8 @@ protected:
 
 private:
     void showValue();
+    void keepRefusedText();
+    void step(double steps);
     void applyOperation(const NumberOperation& operation);
     void onBaseValueChanged(double value);
     [[nodiscard]] QString shownText() const;
@@ -110,6 +123,7 @@ private:
     int m_decimals;
     QString m_suffix;
     NumberOperation m_operation;
+    QString m_refusedText; // null while the text can be read
     bool m_loaded = false;
     bool m_mixed = false;
     bool m_relativeInputAllowed = false;
