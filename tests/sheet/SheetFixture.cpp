@@ -1,10 +1,14 @@
 #include "tests/sheet/SheetFixture.h"
 
+#include "host/core/sheet/SectionHeader.h"
+
 #include "shapes/Rectangle.h"
 
 #include <QAbstractSpinBox>
 #include <QLineEdit>
 #include <QtTest>
+
+#include <algorithm>
 
 namespace Korvex::Meridane::Designer::Test {
 
@@ -63,6 +67,15 @@ void SheetFixture::select(const QList<DesignerObject*>& objects)
 QLineEdit* SheetFixture::idField() const
 {
     return sheet->findChild<QLineEdit*>(QStringLiteral("sheetId"));
+}
+
+SectionHeader* SheetFixture::section(const QString& key) const
+{
+    const auto headers = sheet->findChildren<SectionHeader*>();
+    const auto found = std::find_if(headers.begin(), headers.end(), [&key](const SectionHeader* header) {
+        return header->key() == key && header->isVisible();
+    });
+    return found == headers.end() ? nullptr : *found;
 }
 
 void SheetFixture::enter(QWidget* field, const char* text)

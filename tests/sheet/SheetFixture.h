@@ -14,8 +14,9 @@
 class QLineEdit;
 
 namespace Korvex::Meridane::Designer {
+class SectionHeader;
 class SpinBox;
-}
+} // namespace Korvex::Meridane::Designer
 
 namespace Korvex::Meridane::Designer::Test {
 
@@ -46,6 +47,8 @@ public:
         return sheet->message(QString::fromLatin1(propertyId));
     }
     [[nodiscard]] QLineEdit* idField() const;
+    /// The heading of that section that one can see, or null.
+    [[nodiscard]] SectionHeader* section(const QString& key) const;
 
     /// Clicks into the field, replaces its text and presses Enter.
     static void enter(QWidget* field, const char* text);

@@ -5,7 +5,9 @@
 #include "host/core/editors/RealEditor.h"
 #include "host/core/editors/SizeEditor.h"
 #include "host/core/editors/StringEditor.h"
+#include "host/core/sheet/SectionHeader.h"
 #include "host/core/sheet/SheetColors.h"
+#include "host/core/sheet/SheetSections.h"
 #include "host/core/widgets/LockToggle.h"
 #include "host/core/widgets/NumberWidget.h"
 #include "host/core/widgets/SizeWidget.h"
@@ -14,6 +16,7 @@
 #include "tests/sheet/SheetFixture.h"
 
 #include <QApplication>
+#include <QHash>
 #include <QLabel>
 #include <QLineEdit>
 #include <QtTest>
@@ -39,17 +42,21 @@ private Q_SLOTS:
 
     void cleanup() { m_fixture.reset(); }
 
-    void everyShownPropertyHasARowInOrderOfRank()
+    void everyShownPropertyHasARowAndSectionsKeepTheOrderOfRank()
     {
-        int lastY = -1;
+        QHash<QString, int> lastY; // by section
         for (const auto& property : m_element->properties()) {
             const PropertyEditor* editor = m_fixture->sheet->editor(property->id());
             QVERIFY2((editor != nullptr) == property->hasFlag(Shown), qPrintable(property->id()));
             if (!editor || property->id() == QLatin1String("keepRatio"))
                 continue;
             const int y = editor->mapTo(m_fixture->sheet->widget(), QPoint()).y();
-            QVERIFY2(y > lastY, qPrintable(property->id()));
-            lastY = y;
+            const QString section = SheetSections::keyOf(*property);
+            const SectionHeader* header = m_fixture->section(section);
+            QVERIFY2(header, qPrintable(section));
+            QVERIFY(y > header->mapTo(m_fixture->sheet->widget(), QPoint()).y());
+            QVERIFY2(y > lastY.value(section, -1), qPrintable(property->id()));
+            lastY.insert(section, y);
         }
     }
 
@@ -246,17 +253,22 @@ private Q_SLOTS:
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             const QWidget* focus = QApplication::focusWidget();
             QVERIFY(focus);
-            if (focus == m_fixture->idField())
-                break;
-            // The row it stands in: rows are named after their properties.
+            if (focus->objectName() == QLatin1String("sheetSearch"))
+                break; // which stands above the heading
+            // The row or heading it stands in: rows are named after their properties.
             const QWidget* row = focus;
-            while (row && !row->objectName().startsWith(QLatin1String("row_")))
+            while (row && !row->objectName().startsWith(QLatin1String("row_"))
+                   && !row->objectName().startsWith(QLatin1String("section_")))
                 row = row->parentWidget();
             QVERIFY(row);
             QVERIFY(row->y() >= lastY);
             lastY = row->y();
-            visited.insert(row->objectName());
+            if (row->objectName().startsWith(QLatin1String("row_")))
+                visited.insert(row->objectName());
         }
+        QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("sheetSearch"));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), m_fixture->idField());
         // The row that may not be edited takes no focus, and the lock shares the row of the size.
         QCOMPARE(visited.size(), 13);
     }
@@ -297,7 +309,7 @@ private Q_SLOTS:
             const auto linear = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
             return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
         };
-        for (const QColor& color : {errorColor(palette), quietColor(palette)}) {
+        for (const QColor& color : {errorColor(palette), quietColor(palette), markColor(palette)}) {
             const auto [dark, light] = std::minmax({luminance(color), luminance(window)});
             QVERIFY((light + 0.05) / (dark + 0.05) >= 4.5);
         }

@@ -6,11 +6,15 @@
 #include "host/core/objects/DesignerObject.h"
 #include "host/core/project/Project.h"
 #include "host/core/properties/DesignerProperty.h"
+#include "host/core/sheet/DefaultValues.h"
 #include "host/core/sheet/DirectChangeRecorder.h"
 #include "host/core/values/NumberExpression.h"
 
 #include "host/common/LocalizationHelper.h"
 
+#include <QSet>
+
+#include <algorithm>
 #include <memory>
 #include <optional>
 
@@ -25,6 +29,7 @@ PropertyField::PropertyField(PropertyEditor* editor, bool several, DirectChangeR
 {
     m_editor->setPropertyChange(several);
     connect(m_editor, &PropertyEditor::changeSaved, this, &PropertyField::applyToAll);
+    connect(m_editor, &PropertyEditor::accepted, this, &PropertyField::compareWithDefaults);
 }
 
 PropertyField::~PropertyField() = default;
@@ -34,10 +39,20 @@ void PropertyField::bind(const QList<QSharedPointer<DesignerProperty>>& properti
     m_properties = properties;
     m_stale = false;
     m_editor->setProperties(properties);
+    compareWithDefaults();
     if (properties.isEmpty())
         return;
     load();
     reportInvalid();
+}
+
+bool PropertyField::holdsText(const QString& part) const
+{
+    constexpr qsizetype Most = 100; // a filter that is typed must not wait for thousands of objects
+    const auto end = m_properties.begin() + std::min(m_properties.size(), Most);
+    return std::any_of(m_properties.begin(), end, [&part](const auto& property) {
+        return property->valueString().contains(part, Qt::CaseInsensitive);
+    });
 }
 
 void PropertyField::refresh()
@@ -46,6 +61,7 @@ void PropertyField::refresh()
         return;
     if (m_editor->isTyping()) {
         m_stale = true;
+        compareWithDefaults();
         return;
     }
     m_stale = false;
@@ -55,6 +71,16 @@ void PropertyField::refresh()
     // What is shown already is not loaded again: that would move the cursor.
     if (wasMixed || m_mixed || m_editor->isRefused() || !m_properties.first()->equalsValue(m_editor->editorValue()))
         m_editor->load();
+    Q_EMIT m_editor->accepted();
+    reportInvalid();
+}
+
+void PropertyField::reload()
+{
+    if (m_properties.isEmpty())
+        return;
+    m_stale = false;
+    load();
     Q_EMIT m_editor->accepted();
     reportInvalid();
 }
@@ -168,6 +194,16 @@ QString PropertyField::editedValue(const DesignerProperty& property, const QStri
                     : ValueComponents::withComponent(property.className(), value, component, edited);
     }
     return value;
+}
+
+void PropertyField::compareWithDefaults()
+{
+    const bool differs = std::any_of(m_properties.begin(), m_properties.end(),
+                                     [](const auto& property) { return !hasDefaultValue(*property); });
+    if (differs == m_differs)
+        return;
+    m_differs = differs;
+    Q_EMIT differsChanged(differs);
 }
 
 void PropertyField::setMixed(bool mixed)

@@ -29,19 +29,28 @@ public:
     ~PropertyField() override;
 
     [[nodiscard]] PropertyEditor* editor() const { return m_editor; }
+    /// What the field shows, one for each object; empty for none.
+    [[nodiscard]] const QList<QSharedPointer<DesignerProperty>>& properties() const { return m_properties; }
     /// The objects have different values.
     [[nodiscard]] bool isMixed() const { return m_mixed; }
+    /// At least one value is another than its object's default.
+    [[nodiscard]] bool differsFromDefault() const { return m_differs; }
+    /// Whether \a part stands in a value, upper or lower case.
+    [[nodiscard]] bool holdsText(const QString& part) const;
 
     /// Shows these properties; the list is empty for none.
     void bind(const QList<QSharedPointer<DesignerProperty>>& properties);
     /// Brings the display up to date after a value changed elsewhere. A text that the user is typing is left alone
     /// until the keyboard focus leaves it.
     void refresh();
+    /// Shows the values whatever the user may have typed, after they were set by something else than the editor.
+    void reload();
     /// The keyboard focus has moved.
     void focusMoved();
 
 Q_SIGNALS:
     void mixedChanged(bool mixed);
+    void differsChanged(bool differs);
     /// The property holds a text that does not convert, which most editors cannot show; \a message says so.
     void invalidShown(const QString& message);
 
@@ -50,6 +59,7 @@ private:
     void loadPending();
     void reportInvalid();
     void applyToAll();
+    void compareWithDefaults();
     [[nodiscard]] QStringList mixedComponents() const;
     [[nodiscard]] QString editedValue(const DesignerProperty& property, const QStringList& components) const;
     void setMixed(bool mixed);
@@ -59,6 +69,7 @@ private:
     QList<QSharedPointer<DesignerProperty>> m_properties;
     QString m_pending; // what the editor was given to edit in property-change mode
     bool m_mixed = false;
+    bool m_differs = false;
     bool m_stale = false; // a value changed while the user was typing
 };
 

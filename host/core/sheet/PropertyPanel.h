@@ -10,8 +10,9 @@ class DirectChangeRecorder;
 class EditSession;
 class PropertyField;
 class PropertyRow;
+class SectionHeader;
 
-/// One set of rows of the property sheet. It is built once for objects of one description and handed from selection to
+/// One set of rows of the property sheet, under the headings of their sections. It is built once for objects of one description and handed from selection to
 /// selection, because building widgets is what makes selecting slow.
 class PropertyPanel : public QWidget
 {
@@ -38,16 +39,37 @@ public:
     /// Gives every row \a labelWidth of \a rowWidth for its label; in pixels.
     void arrange(int labelWidth, int rowWidth);
 
+    /// Shows only the rows that match \a text (see PropertyRow), also those of folded sections; an empty text shows all
+    /// rows of the sections that are open. False when there is nothing to show.
+    bool setFilter(const QString& text);
+    /// The first row that is shown, or null.
+    [[nodiscard]] PropertyRow* firstShownRow() const;
+
     /// The keyboard focus has moved.
     void focusMoved();
 
+Q_SIGNALS:
+    /// A row can be reset now, or can no longer.
+    void canResetChanged();
+
 private:
+    struct Section
+    {
+        SectionHeader* header;
+        QList<PropertyRow*> rows;
+    };
+
+    SectionHeader* addSection(const RowDescription& description);
+    void resetSection(const QString& key);
+    void showRows();
     void addRow(const RowDescription& description, const DesignerProperty& property, DirectChangeRecorder* recorder,
                 EditSession* session);
     [[nodiscard]] bool joinsRowBefore(const RowDescription& description) const;
 
     QList<RowDescription> m_descriptions;
     QList<PropertyRow*> m_rows;
+    QList<Section> m_sections;
+    QString m_filter;
     QHash<QString, PropertyField*> m_fields;
     QString m_lastRowClass; // the property class of the first editor in the last row
     bool m_several;

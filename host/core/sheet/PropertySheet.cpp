@@ -7,12 +7,14 @@
 #include "host/core/project/Project.h"
 #include "host/core/properties/DesignerProperty.h"
 #include "host/core/sheet/DirectChangeRecorder.h"
+#include "host/core/sheet/ProjectColors.h"
 #include "host/core/sheet/PropertyField.h"
 #include "host/core/sheet/PropertyPanel.h"
 #include "host/core/sheet/PropertyRow.h"
 #include "host/core/sheet/SheetColors.h"
 #include "host/core/sheet/SheetHeading.h"
 #include "host/core/sheet/SheetMetrics.h"
+#include "host/core/sheet/SheetSearch.h"
 
 #include "host/common/LocalizationHelper.h"
 
@@ -34,15 +36,30 @@ namespace {
 
 /// Sets of rows that are kept for the next selection that needs them.
 constexpr int KeptPanels = 12;
+/// Colours of the project that colour fields offer.
+constexpr int OfferedColors = 16;
+
+QLabel* createHint(QWidget* parent)
+{
+    auto* hint = new QLabel(parent);
+    hint->setTextFormat(Qt::PlainText);
+    hint->setWordWrap(true);
+    hint->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    hint->setContentsMargins(SheetMetrics::Margin, 2 * SheetMetrics::Margin, SheetMetrics::Margin, 0);
+    hint->hide();
+    return hint;
+}
 
 } // namespace
 
 PropertySheet::PropertySheet(EditSession* session, QWidget* parent)
     : QScrollArea(parent)
+    , m_search(new SheetSearch(this))
     , m_content(new QWidget)
     , m_column(new QVBoxLayout(m_content))
     , m_heading(new SheetHeading(m_content))
-    , m_hint(new QLabel(m_content))
+    , m_hint(createHint(m_content))
+    , m_nothingFound(createHint(m_content))
     , m_recorder(new DirectChangeRecorder(this))
     , m_refreshTimer(new QTimer(this))
 {
@@ -52,25 +69,27 @@ PropertySheet::PropertySheet(EditSession* session, QWidget* parent)
     setFocusPolicy(Qt::NoFocus);
     m_hint->setText(LocalizationHelper::coreString(
         QStringLiteral("There is no screen yet. Add one, and its properties appear here.")));
-    m_hint->setTextFormat(Qt::PlainText);
-    m_hint->setWordWrap(true);
-    m_hint->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    m_hint->setContentsMargins(0, 2 * SheetMetrics::Margin, 0, 0);
-    m_column->setContentsMargins(SheetMetrics::Margin, SheetMetrics::Margin, SheetMetrics::Margin,
-                                 SheetMetrics::Margin);
+    m_nothingFound->setObjectName(QStringLiteral("nothingFound"));
+    // Rows have their margins at the sides themselves, because their marks stand there.
+    m_column->setContentsMargins(0, SheetMetrics::RowGap, 0, SheetMetrics::Margin);
     m_column->setSpacing(SheetMetrics::RowGap);
     m_column->addWidget(m_hint);
     m_column->addWidget(m_heading);
+    m_column->addWidget(m_nothingFound);
     m_column->addStretch(1);
     // Here and in all that the sheet nests: a new size leaves what is painted already as it is.
     m_content->setAttribute(Qt::WA_StaticContents);
     setWidget(m_content);
-    colorHint();
+    m_search->hide();
+    colorHints();
 
     m_refreshTimer->setSingleShot(true);
     m_refreshTimer->setInterval(0);
     connect(m_refreshTimer, &QTimer::timeout, this, &PropertySheet::refreshStaleFields);
     connect(m_recorder, &DirectChangeRecorder::changedDirectly, this, &PropertySheet::keepDirectChanges);
+    connect(m_search, &QLineEdit::textChanged, this, &PropertySheet::applyFilter);
+    connect(m_search, &SheetSearch::cancelled, this, &PropertySheet::leaveSearch);
+    connect(m_search, &SheetSearch::resultRequested, this, &PropertySheet::focusFirstResult);
     connect(qApp, &QApplication::focusChanged, this, &PropertySheet::onFocusChanged);
     setSession(session);
 }
@@ -98,6 +117,7 @@ void PropertySheet::setSession(EditSession* session)
     showObjects({});
     qDeleteAll(m_panels);
     m_panels.clear();
+    m_search->clear();
     m_session = session;
     m_heading->setSession(session);
     if (!session)
@@ -138,6 +158,43 @@ QString PropertySheet::title() const
     return m_objects.isEmpty() ? QString() : m_heading->title();
 }
 
+void PropertySheet::focusSearch()
+{
+    if (m_objects.isEmpty())
+        return;
+    QWidget* focused = QApplication::focusWidget();
+    if (focused != m_search)
+        m_focusBeforeSearch = focused;
+    m_search->setFocus(Qt::ShortcutFocusReason);
+    m_search->selectAll();
+}
+
+void PropertySheet::focusFirstField()
+{
+    if (m_heading->idField()->isVisible())
+        m_heading->idField()->setFocus(Qt::TabFocusReason);
+    else
+        focusFirstResult();
+}
+
+bool PropertySheet::canResetCurrent() const
+{
+    const auto* row = qobject_cast<const PropertyRow*>(m_currentRow.data());
+    return row && row->canReset();
+}
+
+void PropertySheet::resetCurrent()
+{
+    if (auto* row = qobject_cast<PropertyRow*>(m_currentRow.data()))
+        row->reset();
+}
+
+QList<QColor> PropertySheet::colorsInUse() const
+{
+    const EditSession* current = session();
+    return current ? projectColors(*current->project(), OfferedColors) : QList<QColor>();
+}
+
 QSize PropertySheet::sizeHint() const
 {
     return {280, 480};
@@ -146,6 +203,7 @@ QSize PropertySheet::sizeHint() const
 void PropertySheet::resizeEvent(QResizeEvent* event)
 {
     QScrollArea::resizeEvent(event);
+    placeSearch();
     arrange();
 }
 
@@ -153,17 +211,61 @@ void PropertySheet::changeEvent(QEvent* event)
 {
     QScrollArea::changeEvent(event);
     if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange) {
-        colorHint();
+        colorHints();
     } else if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        placeSearch();
         arrange();
     }
 }
 
-void PropertySheet::colorHint()
+void PropertySheet::colorHints()
 {
     QPalette quiet = m_hint->palette();
     quiet.setColor(QPalette::WindowText, quietColor(palette()));
     m_hint->setPalette(quiet);
+    m_nothingFound->setPalette(quiet);
+}
+
+void PropertySheet::applyFilter()
+{
+    const QString text = m_search->text().trimmed();
+    const bool found = !m_panel || m_panel->setFilter(text);
+    m_heading->setVisible(!m_objects.isEmpty() && text.isEmpty());
+    if (!found)
+        m_nothingFound->setText(
+            LocalizationHelper::coreString(QStringLiteral("No property matches \"%1\".")).arg(text));
+    m_nothingFound->setVisible(!found);
+    verticalScrollBar()->setValue(0);
+}
+
+/// Ends the search and gives the focus back to where it came from.
+void PropertySheet::leaveSearch()
+{
+    m_search->clear();
+    QWidget* before = std::exchange(m_focusBeforeSearch, nullptr);
+    if (before && before->isVisible() && before->isEnabled())
+        before->setFocus(Qt::OtherFocusReason);
+    else
+        focusFirstField();
+}
+
+void PropertySheet::focusFirstResult()
+{
+    const PropertyRow* row = m_panel ? m_panel->firstShownRow() : nullptr;
+    if (row && !row->fields().isEmpty())
+        row->fields().constFirst()->editor()->setFocus(Qt::TabFocusReason);
+}
+
+/// Above the rows, in line with them.
+void PropertySheet::placeSearch()
+{
+    const bool shown = !m_objects.isEmpty();
+    const int height = m_search->sizeHint().height();
+    setViewportMargins(0, shown ? height + SheetMetrics::RowGap : 0, 0, 0);
+    m_search->setVisible(shown);
+    m_search->setGeometry(SheetMetrics::Margin, SheetMetrics::RowGap, viewport()->width() - 2 * SheetMetrics::Margin,
+                          height);
+    m_search->raise();
 }
 
 void PropertySheet::showSelection()
@@ -196,8 +298,8 @@ void PropertySheet::showObjects(const QList<DesignerObject*>& objects)
     m_objectSet = QSet<const DesignerObject*>(objects.begin(), objects.end());
     m_recorder->setActive(objects.size() > 1);
     m_heading->setObjects(objects);
-    m_heading->setVisible(!objects.isEmpty());
     m_hint->setVisible(objects.isEmpty());
+    placeSearch();
     showPanel(objects.isEmpty() ? nullptr : panelFor(objects));
     verticalScrollBar()->setValue(0);
 }
@@ -235,6 +337,7 @@ PropertyPanel* PropertySheet::panelFor(const QList<DesignerObject*>& objects)
         return panel;
     }
     auto* panel = new PropertyPanel(rows, several, objects, session(), m_recorder, m_content);
+    connect(panel, &PropertyPanel::canResetChanged, this, &PropertySheet::canResetCurrentChanged);
     ++m_builtPanels;
     m_panels.prepend(panel);
     m_column->insertWidget(m_column->count() - 1, panel);
@@ -254,6 +357,9 @@ void PropertySheet::showPanel(PropertyPanel* panel)
         m_panel->hide();
     }
     m_panel = panel;
+    m_currentRow = nullptr;
+    applyFilter();
+    Q_EMIT canResetCurrentChanged();
     arrange();
     if (panel)
         panel->show();
@@ -287,11 +393,13 @@ void PropertySheet::refreshStaleFields()
 
 void PropertySheet::onFocusChanged(QWidget* old, QWidget* now)
 {
-    if (!m_panel || !old || !m_panel->isAncestorOf(old))
+    if (m_panel && old && m_panel->isAncestorOf(old))
+        m_panel->focusMoved();
+    if (!now || !m_content->isAncestorOf(now))
         return;
-    m_panel->focusMoved();
-    if (now && m_content->isAncestorOf(now))
-        ensureWidgetVisible(now, 0, SheetMetrics::Margin);
+    ensureWidgetVisible(now, 0, SheetMetrics::Margin);
+    m_currentRow = m_panel ? m_panel->rowOf(now) : nullptr;
+    Q_EMIT canResetCurrentChanged();
 }
 
 void PropertySheet::onModificationRefused(const QString& message)
@@ -326,7 +434,7 @@ void PropertySheet::rebuildIfNeeded()
 
 void PropertySheet::arrange()
 {
-    const int width = viewport()->width() - 2 * SheetMetrics::Margin;
+    const int width = viewport()->width() - 2 * SheetMetrics::Margin; // between the margins of the rows
     const int label = SheetMetrics::labelWidth(viewport()->width());
     m_heading->arrange(label);
     if (m_panel)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/core/commands/ChangeRecording.h"
+#include "host/core/widgets/ColorSource.h"
 
 #include <QList>
 #include <QPointer>
@@ -21,9 +22,11 @@ class PropertyEditor;
 class PropertyPanel;
 class PropertyRow;
 class SheetHeading;
+class SheetSearch;
 
 /**
- * The property sheet: a row for each shown property of the selection, by rank, built from the properties alone.
+ * The property sheet: a row for each shown property of the selection, by section and rank, built from the properties
+ * alone. A search line above them, which does not scroll with them, filters the rows.
  *
  * With several objects it shows the properties that all of them have in common; an edit then changes each object by
  * the component and operation that the user touched, as one undo step. With nothing selected it shows the current
@@ -31,7 +34,7 @@ class SheetHeading;
  *
  * A set of rows is built once for objects that need the same rows and then reused; the sets used last are kept.
  */
-class MERIDANE_CORE_EXPORT PropertySheet : public QScrollArea
+class MERIDANE_CORE_EXPORT PropertySheet : public QScrollArea, public ColorSource
 {
     Q_OBJECT
 
@@ -54,7 +57,23 @@ public:
     /// How many sets of rows have been built since the sheet was made.
     [[nodiscard]] int builtPanels() const { return m_builtPanels; }
 
+    /// Goes to the search line.
+    void focusSearch();
+    /// Goes to the first field: the id where there is one, else that of the first row.
+    void focusFirstField();
+    /// Whether the row that has or last had the keyboard focus can be set to its default.
+    [[nodiscard]] bool canResetCurrent() const;
+    /// Sets the values of that row to their defaults.
+    void resetCurrent();
+
+    /// The colours of the project, for the colour fields in the rows.
+    [[nodiscard]] QList<QColor> colorsInUse() const override;
+
     [[nodiscard]] QSize sizeHint() const override;
+
+Q_SIGNALS:
+    /// What canResetCurrent() says may have changed.
+    void canResetCurrentChanged();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -72,19 +91,27 @@ private:
     void onModificationRefused(const QString& message);
     void keepDirectChanges(const QVector<PropertyChange>& changes);
     void rebuildIfNeeded();
+    void applyFilter();
+    void leaveSearch();
+    void focusFirstResult();
+    void placeSearch();
     void arrange();
-    void colorHint();
+    void colorHints();
 
     QPointer<QObject> m_session; // an EditSession; kept as its base, so that this header needs no more
     QList<DesignerObject*> m_objects;
     QSet<const DesignerObject*> m_objectSet;
+    SheetSearch* m_search;
+    QPointer<QWidget> m_focusBeforeSearch;
     QWidget* m_content;
     QVBoxLayout* m_column;
     SheetHeading* m_heading;
     QLabel* m_hint;
+    QLabel* m_nothingFound;
     DirectChangeRecorder* m_recorder;
     QList<PropertyPanel*> m_panels; // the one used last stands first
     PropertyPanel* m_panel = nullptr; // the one that is shown
+    QPointer<QWidget> m_currentRow; // a PropertyRow
     QTimer* m_refreshTimer;
     QSet<QString> m_staleIds; // property ids whose fields are to be refreshed
     int m_builtPanels = 0;

@@ -20,6 +20,8 @@ struct RowDescription
     QString propertyClass;
     QString editorClass;
     QString label;
+    QString section; ///< the key of the section that it stands in; see SheetSections
+    QString sectionTitle;
     QMap<QString, QVariant> parameters;
     bool editable = true;
 
@@ -27,8 +29,8 @@ struct RowDescription
 };
 
 /**
- * The rows that \a objects have in common, by rank: the properties that are Shown in each and have the same id and class
- * everywhere. A row is editable when the property is Editable in each. Label, editor and parameters are the first
+ * The rows that \a objects have in common: the properties that are Shown in each and have the same id and class
+ * everywhere, by section and within a section by rank; the section of the lowest rank comes first. A row is editable when the property is Editable in each. Label, editor and parameters are the first
  * object's.
  */
 [[nodiscard]] QList<RowDescription> commonRows(const QList<DesignerObject*>& objects);

@@ -56,6 +56,12 @@ QColor errorColor(const QPalette& palette)
     return legible(red, palette.color(QPalette::WindowText), palette.color(QPalette::Window));
 }
 
+QColor markColor(const QPalette& palette)
+{
+    return legible(palette.color(QPalette::Highlight), palette.color(QPalette::WindowText),
+                   palette.color(QPalette::Window));
+}
+
 QColor quietColor(const QPalette& palette)
 {
     const QColor window = palette.color(QPalette::Window);

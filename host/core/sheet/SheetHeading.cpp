@@ -40,7 +40,7 @@ SheetHeading::SheetHeading(QWidget* parent)
     m_idLabel->setBuddy(m_id);
     m_idLabel->setMinimumHeight(SheetMetrics::fieldHeight(this));
 
-    m_grid->setContentsMargins(0, 0, 0, 0);
+    m_grid->setContentsMargins(SheetMetrics::Margin, 0, SheetMetrics::Margin, 0);
     m_grid->setHorizontalSpacing(SheetMetrics::LabelGap);
     m_grid->setVerticalSpacing(2);
     m_grid->addWidget(m_title, 0, 0, 1, 2);
