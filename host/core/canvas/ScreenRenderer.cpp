@@ -1,12 +1,15 @@
 #include "host/core/canvas/ScreenRenderer.h"
 
 #include "host/core/canvas/CanvasScene.h"
+#include "host/core/canvas/GraphicsItem.h"
+#include "host/core/objects/EditorMarks.h"
 #include "host/core/objects/Screen.h"
 
 #include <QGraphicsItem>
 #include <QPainter>
 #include <QStyleOptionGraphicsItem>
 
+#include <algorithm>
 #include <cmath>
 
 namespace Korvex::Meridane::Designer {
@@ -18,8 +21,18 @@ constexpr double MostPixels = 64e6;
 /// QPainter's raster engine draws no further.
 constexpr double LongestSide = 32767;
 
-/// Paints one item as the view does, but never as selected.
-void paintItem(QGraphicsItem* graphic, const QTransform& toImage, QPainter* painter)
+bool standsIn(const DesignerObject* object, const QList<DesignerObject*>& objects)
+{
+    for (; object; object = object->parentObject()) {
+        if (std::find(objects.cbegin(), objects.cend(), object) != objects.cend())
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+void ScreenRenderer::paintItem(QGraphicsItem* graphic, const QTransform& fromScene, QPainter* painter)
 {
     QStyleOptionGraphicsItem option;
     option.state = QStyle::State_None;
@@ -28,19 +41,51 @@ void paintItem(QGraphicsItem* graphic, const QTransform& toImage, QPainter* pain
     option.exposedRect = graphic->boundingRect();
     option.rect = option.exposedRect.toAlignedRect();
     painter->save();
-    painter->setWorldTransform(graphic->sceneTransform() * toImage);
+    painter->setWorldTransform(graphic->sceneTransform() * fromScene);
     painter->setOpacity(graphic->effectiveOpacity());
     graphic->paint(painter, &option, nullptr);
     painter->restore();
 }
 
-} // namespace
+QList<QGraphicsItem*> ScreenRenderer::items(CanvasScene* scene, const RenderOptions& options)
+{
+    QList<QGraphicsItem*> shown = scene->items(Qt::AscendingOrder);
+    shown.removeIf([scene, &options](QGraphicsItem* graphic) {
+        const GraphicsItem* item = GraphicsItem::fromGraphic(graphic);
+        const DesignerObject* object = item ? item->dataObject() : nullptr;
+        if (!options.only.isEmpty())
+            return !standsIn(object, options.only);
+        return object == scene->screen() && !options.ground;
+    });
+    return shown;
+}
+
+QRectF ScreenRenderer::area(CanvasScene* scene, const RenderOptions& options)
+{
+    if (options.only.isEmpty())
+        return {QPointF(0, 0), scene->screen()->size()};
+    QRectF area;
+    const QList<QGraphicsItem*> shown = items(scene, options);
+    for (QGraphicsItem* graphic : shown) {
+        if (const GraphicsItem* item = GraphicsItem::fromGraphic(graphic))
+            area |= graphic->mapRectToScene(item->outerRect());
+    }
+    return area.toAlignedRect();
+}
 
 QImage ScreenRenderer::render(CanvasScene* scene, double scale)
 {
-    if (!scene || !(scale > 0))
+    RenderOptions options;
+    options.scale = scale;
+    return render(scene, options);
+}
+
+QImage ScreenRenderer::render(CanvasScene* scene, const RenderOptions& options, const WorkProgress& progress)
+{
+    if (!scene || !(options.scale > 0))
         return {};
-    const QSizeF size = scene->screen()->size() * scale;
+    const QRectF shownArea = area(scene, options);
+    const QSizeF size = shownArea.size() * options.scale;
     const double width = std::max(std::round(size.width()), 1.0);
     const double height = std::max(std::round(size.height()), 1.0);
     if (!(width <= LongestSide) || !(height <= LongestSide) || width * height > MostPixels)
@@ -51,11 +96,13 @@ QImage ScreenRenderer::render(CanvasScene* scene, double scale)
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::TextAntialiasing);
-    const QTransform toImage = QTransform::fromScale(scale, scale);
-    const QList<QGraphicsItem*> backToFront = scene->items(Qt::AscendingOrder);
-    for (QGraphicsItem* graphic : backToFront) {
-        if (graphic->isVisible())
-            paintItem(graphic, toImage, &painter);
+    const QTransform toImage =
+        QTransform::fromTranslate(-shownArea.x(), -shownArea.y()) * QTransform::fromScale(options.scale, options.scale);
+    const QList<QGraphicsItem*> backToFront = items(scene, options);
+    for (qsizetype i = 0; i < backToFront.size(); ++i) {
+        if (progress && !progress(int(i), int(backToFront.size())))
+            return {};
+        paintItem(backToFront.at(i), toImage, &painter);
     }
     return image;
 }
