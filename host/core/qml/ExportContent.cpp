@@ -20,7 +20,11 @@ using Common::LocalizationHelper;
 
 namespace {
 
-const QLatin1String Import("import Meridane.Display\n\n");
+/// Before what a file consists of.
+QString importText()
+{
+    return ExportContent::importLines().join(QLatin1Char('\n')) + QLatin1Char('\n');
+}
 
 } // namespace
 
@@ -32,6 +36,12 @@ ExportContent::ExportContent(Project* project)
     addMain();
     for (const Screen* screen : project->screens())
         addScreen(screen);
+}
+
+const QStringList& ExportContent::importLines()
+{
+    static const QStringList lines{QStringLiteral("import Meridane.Display"), QString()};
+    return lines;
 }
 
 void ExportContent::addMain()
@@ -51,7 +61,7 @@ void ExportContent::addMain()
     const QString qml =
         QStringLiteral("Display {\n\twidth: %1\n\theight: %2\n\tscreens: %3\n}\n")
             .arg(ValueConversion::toQmlString(size.width(), 4), ValueConversion::toQmlString(size.height(), 4), list);
-    m_files.insert(QStringLiteral("Main.qml"), (Import + qml).toUtf8());
+    m_files.insert(QStringLiteral("Main.qml"), (importText() + qml).toUtf8());
 }
 
 void ExportContent::addScreen(const Screen* screen)
@@ -71,7 +81,7 @@ void ExportContent::addScreen(const Screen* screen)
         addResources(object, file);
         addFonts(object);
     });
-    const QString qml = Import + screen->toQml(0) + QLatin1Char('\n');
+    const QString qml = importText() + screen->toQml(0) + QLatin1Char('\n');
     m_files.insert(QStringLiteral("screens/%1.qml").arg(screen->getIdName()), qml.toUtf8());
 }
 

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "host/core/CoreExport.h"
 #include "host/core/project/Problem.h"
 
 #include <QByteArray>
 #include <QMap>
+#include <QStringList>
 
 namespace Korvex::Meridane::Designer {
 
@@ -13,7 +15,7 @@ class ProjectFiles;
 class Screen;
 
 /// The files of an export, composed in memory.
-class ExportContent
+class MERIDANE_CORE_EXPORT ExportContent
 {
 public:
     explicit ExportContent(Project* project);
@@ -21,6 +23,9 @@ public:
     /// By path relative to the export's folder; of use only when there are no problems.
     [[nodiscard]] const QMap<QString, QByteArray>& files() const { return m_files; }
     [[nodiscard]] const QList<Problem>& problems() const { return m_problems; }
+
+    /// What the file of a screen begins with, by lines.
+    [[nodiscard]] static const QStringList& importLines();
 
 private:
     void addMain();
