@@ -54,7 +54,7 @@ struct LiveMessage
         QByteArray body;
         QDataStream stream(&body, QIODevice::WriteOnly);
         stream.setVersion(QDataStream::Qt_6_0);
-        (stream << ... << values);
+        ((void)(stream << values), ...);
         return framed(kind, body);
     }
 
@@ -64,7 +64,7 @@ struct LiveMessage
     {
         QDataStream stream(values);
         stream.setVersion(QDataStream::Qt_6_0);
-        (stream >> ... >> wanted);
+        ((void)(stream >> wanted), ...);
         return stream.status() == QDataStream::Ok && stream.atEnd();
     }
 

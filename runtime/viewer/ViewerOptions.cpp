@@ -19,7 +19,10 @@ ViewerOptions parseViewerOptions(const QStringList& arguments)
     const QCommandLineOption title(QStringLiteral("title"),
                                    QStringLiteral("Name the window TEXT instead of after the folder."),
                                    QStringLiteral("TEXT"));
-    parser.addOptions({help, screen, grab, import, title});
+    QCommandLineOption live(QStringLiteral("live"));
+    // Of use to the designer alone, which runs the display so beside its canvas.
+    live.setFlags(QCommandLineOption::HiddenFromHelp);
+    parser.addOptions({help, screen, grab, import, title, live});
     parser.addPositionalArgument(QStringLiteral("FOLDER"), QStringLiteral("The exported folder: it holds Main.qml."));
 
     ViewerOptions options;
@@ -36,6 +39,16 @@ ViewerOptions parseViewerOptions(const QStringList& arguments)
         return options;
     }
     const QStringList folders = parser.positionalArguments();
+    options.importPaths = parser.values(import);
+    if (parser.isSet(live)) {
+        if (!folders.isEmpty() || parser.isSet(grab)) {
+            options.message = QStringLiteral("With --live there is neither a folder nor --grab.");
+            return options;
+        }
+        options.result = ViewerOptions::Result::Run;
+        options.live = true;
+        return options;
+    }
     if (folders.size() != 1) {
         options.message =
             folders.isEmpty()
@@ -52,7 +65,6 @@ ViewerOptions parseViewerOptions(const QStringList& arguments)
     options.screen = parser.value(screen);
     options.grabFile = parser.value(grab);
     options.title = parser.value(title);
-    options.importPaths = parser.values(import);
     return options;
 }
 } // namespace Korvex::Meridane::Display

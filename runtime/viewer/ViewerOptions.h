@@ -19,6 +19,8 @@ struct ViewerOptions
 
     Result result = Result::Wrong;
     QString message;
+    /** Without a window and a folder: what is to be shown comes over the standard input. */
+    bool live = false;
     /** The folder of the export. */
     QString folder;
     /** The screen to be shown; empty for the first. */
