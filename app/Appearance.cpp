@@ -61,6 +61,11 @@ void Appearance::apply(Scheme scheme)
                              : scheme == Scheme::Dark ? darkPalette()
                                                       : QPalette();
     QApplication::setPalette(palette);
+    follow();
+}
+
+void Appearance::follow()
+{
     QToolTip::setPalette(QApplication::palette());
 }
 

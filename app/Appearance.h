@@ -19,7 +19,9 @@ public:
     [[nodiscard]] static Scheme stored();
     /// Sets the colours of the whole application.
     static void apply(Scheme scheme);
-    /// The same, remembered in the settings.
+    /// The desktop has changed its colours: what does not follow by itself takes those of the application.
+    static void follow();
+    /// Sets them as apply() does, and remembers that in the settings.
     static void choose(Scheme scheme);
 
     [[nodiscard]] static QPalette lightPalette();

@@ -2,6 +2,7 @@
 
 #include "app/ThemedIcon.h"
 
+#include <QApplication>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -10,6 +11,7 @@ namespace Korvex::Meridane::Designer {
 namespace {
 
 constexpr int TitleMargin = 6; // pixels above and below the title of a panel
+constexpr int FocusBarWidth = 3; // pixels, of the mark of the panel that has the keyboard
 constexpr int TitleIndent = 6; // pixels in front of it, beyond the style's own
 
 } // namespace
@@ -59,6 +61,13 @@ void DesignerStyle::drawControl(ControlElement element, const QStyleOption* opti
         QStyleOptionDockWidget indented(*title);
         indented.rect.adjust(TitleIndent, 0, 0, 0);
         QProxyStyle::drawControl(element, &indented, painter, widget);
+        // A panel that has the keyboard says so; its content often cannot.
+        const QWidget* focused = QApplication::focusWidget();
+        if (focused && widget && widget->isAncestorOf(focused)) {
+            const QRect& area = title->rect;
+            painter->fillRect(QRect(area.left(), area.top(), FocusBarWidth, area.height()),
+                              option->palette.highlight());
+        }
         return;
     }
     if (element == CE_ToolBar) {

@@ -37,14 +37,24 @@ FileActions::FileActions(ProjectDocument* document, UserPrompts* prompts, Messag
     , m_prompts(prompts)
     , m_messages(messages)
     , m_recent(new RecentFiles(this))
+    , m_startPage(new WindowAction(QStringLiteral("start-page"), coreText("Start Pa&ge"),
+                                   {QKeySequence(Qt::ALT | Qt::Key_Home)}, this))
     , m_new(new WindowAction(QStringLiteral("file-new"), coreText("&New…"), QKeySequence::New, this))
     , m_open(new WindowAction(QStringLiteral("file-open"), coreText("O&pen…"), QKeySequence::Open, this))
     , m_save(new WindowAction(QStringLiteral("file-save"), coreText("Sa&ve"), QKeySequence::Save, this))
     , m_saveAs(new WindowAction(QStringLiteral("file-save-as"), coreText("Save &As…"),
                                 {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)}, this))
-    , m_close(new WindowAction({}, coreText("&Close"), QKeySequence::Close, this))
-    , m_quit(new WindowAction({}, coreText("&Quit"), {QKeySequence(Qt::CTRL | Qt::Key_Q)}, this))
+    , m_close(new WindowAction(QStringLiteral("file-close"), coreText("&Close"), QKeySequence::Close, this))
+    , m_quit(new WindowAction(QStringLiteral("quit"), coreText("&Quit"), {QKeySequence(Qt::CTRL | Qt::Key_Q)}, this))
 {
+    m_startPage->setObjectName(QStringLiteral("file.startPage"));
+    m_new->setObjectName(QStringLiteral("file.new"));
+    m_open->setObjectName(QStringLiteral("file.open"));
+    m_save->setObjectName(QStringLiteral("file.save"));
+    m_saveAs->setObjectName(QStringLiteral("file.saveAs"));
+    m_close->setObjectName(QStringLiteral("file.close"));
+    m_quit->setObjectName(QStringLiteral("file.quit"));
+    connect(m_startPage, &QAction::triggered, this, &FileActions::startPageRequested);
     connect(m_new, &QAction::triggered, this, &FileActions::createProject);
     connect(m_open, &QAction::triggered, this, &FileActions::chooseAndOpen);
     connect(m_save, &QAction::triggered, this, &FileActions::save);
@@ -57,10 +67,12 @@ void FileActions::addTo(QMenu* menu)
     menu->addAction(m_new);
     menu->addAction(m_open);
     m_recentMenu = menu->addMenu(coreText("Open &Recent"));
+    m_recentMenu->setObjectName(QStringLiteral("RecentMenu"));
     connect(m_recentMenu, &QMenu::aboutToShow, this, &FileActions::fillRecentMenu);
     connect(m_recent, &RecentFiles::changed, this,
             [this] { m_recentMenu->setEnabled(!m_recent->folders().isEmpty()); });
     m_recentMenu->setEnabled(!m_recent->folders().isEmpty());
+    menu->addAction(m_startPage);
     menu->addSeparator();
     menu->addAction(m_save);
     menu->addAction(m_saveAs);
@@ -103,7 +115,31 @@ bool FileActions::openPath(const QString& path)
     m_recent->add(m_document->project()->folder());
     rememberFolder(m_document->project()->folder());
     Q_EMIT problemsFound(problems, QString());
+    Q_EMIT projectStored();
     return true;
+}
+
+bool FileActions::openExample(const QString& folder)
+{
+    if (!mayClose())
+        return false;
+    QList<Problem> problems;
+    const bool opened = m_document->openCopy(folder, &problems);
+    if (opened)
+        m_messages->hide();
+    Q_EMIT problemsFound(problems, opened ? QString() : coreText("The project has not been opened."));
+    return opened;
+}
+
+void FileActions::createSized(const QSizeF& size)
+{
+    if (!size.isValid()) {
+        createProject();
+    } else if (mayClose()) {
+        m_messages->hide();
+        m_document->create(ProjectDocument::untitledName(), size);
+        Q_EMIT problemsFound({}, QString());
+    }
 }
 
 bool FileActions::save()
@@ -169,7 +205,9 @@ void FileActions::fillRecentMenu()
         connect(m_recentMenu->addAction(menuEntry(folder)), &QAction::triggered, this,
                 [this, folder] { openPath(folder); });
     m_recentMenu->addSeparator();
-    connect(m_recentMenu->addAction(coreText("&Clear List")), &QAction::triggered, m_recent, &RecentFiles::clear);
+    QAction* clear = m_recentMenu->addAction(coreText("&Clear List"));
+    clear->setObjectName(QStringLiteral("file.clearRecent"));
+    connect(clear, &QAction::triggered, m_recent, &RecentFiles::clear);
 }
 
 bool FileActions::reportSave(bool done, const QString& message)
@@ -185,6 +223,7 @@ bool FileActions::reportSave(bool done, const QString& message)
     // An earlier complaint about saving is settled; other messages go by themselves.
     if (m_messages->kind() == MessageBar::Kind::Error)
         m_messages->hide();
+    Q_EMIT projectStored();
     return true;
 }
 

@@ -29,6 +29,7 @@ public:
     /// Close and Quit, for the end of the menu.
     void addEndTo(QMenu* menu);
 
+    [[nodiscard]] QAction* startPageAction() const { return m_startPage; }
     [[nodiscard]] QAction* newAction() const { return m_new; }
     [[nodiscard]] QAction* openAction() const { return m_open; }
     [[nodiscard]] QAction* saveAction() const { return m_save; }
@@ -39,12 +40,20 @@ public:
     bool mayClose();
     /// Opens the project in \a path (folder or project.json); false when it cannot be opened or the user cancels.
     bool openPath(const QString& path);
+    /// Opens a copy of the project in \a folder as a new one that has no folder yet; false as above.
+    bool openExample(const QString& folder);
+    /// Starts a new project for a display of \a size in pixels, unless the user cancels; one that is invalid is asked for.
+    void createSized(const QSizeF& size);
     bool save();
     bool saveAs();
 
 Q_SIGNALS:
     /// Opening met \a problems, or could not open at all, as \a consequence then says.
     void problemsFound(const QList<Problem>& problems, const QString& consequence);
+    /// The start page is to be shown.
+    void startPageRequested();
+    /// The open project has been read from, or written into, its folder.
+    void projectStored();
 
 private:
     void createProject();
@@ -60,6 +69,7 @@ private:
     MessageBar* m_messages;
     RecentFiles* m_recent;
     QMenu* m_recentMenu = nullptr;
+    QAction* m_startPage;
     QAction* m_new;
     QAction* m_open;
     QAction* m_save;

@@ -1,5 +1,7 @@
 #include "app/MenuText.h"
 
+#include <QMenu>
+
 namespace Korvex::Meridane::Designer {
 
 namespace {
@@ -26,6 +28,34 @@ QString MenuText::withoutReservedMnemonic(const QString& text)
         return text;
     QString plain = text;
     return plain.remove(markIndex(text), 1);
+}
+
+QString MenuText::plain(const QString& text)
+{
+    QString read;
+    read.reserve(text.size());
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text.at(i) == QLatin1Char('&') && i + 1 < text.size())
+            ++i;
+        read += text.at(i);
+    }
+    return read.remove(QChar(0x2026));
+}
+
+void MenuText::makeMnemonicsUnique(const QMenu* menu)
+{
+    QString taken;
+    const QList<QAction*> actions = menu->actions();
+    for (QAction* action : actions) {
+        const QChar letter = mnemonic(action->text());
+        if (!letter.isNull() && taken.contains(letter)) {
+            QString plain = action->text();
+            action->setText(plain.remove(markIndex(action->text()), 1));
+        }
+        taken += letter;
+        if (action->menu())
+            makeMnemonicsUnique(action->menu());
+    }
 }
 
 QChar MenuText::mnemonic(const QString& text)

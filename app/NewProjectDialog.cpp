@@ -1,6 +1,7 @@
 #include "app/NewProjectDialog.h"
 
 #include "app/CoreText.h"
+#include "app/PanelSizes.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -17,7 +18,6 @@ namespace Korvex::Meridane::Designer {
 
 namespace {
 
-constexpr QSize Presets[] = {{320, 240}, {480, 272}, {800, 480}, {1024, 600}};
 constexpr int LargestSide = 20000; // pixels, the limit of a screen
 
 QSpinBox* pixelBox(const QString& name)
@@ -41,7 +41,7 @@ NewProjectDialog::NewProjectDialog(const NewProject& proposal, QWidget* parent)
     , m_buttons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel))
 {
     setWindowTitle(coreText("New Project"));
-    for (const QSize& preset : Presets)
+    for (const QSize& preset : PanelSizes)
         m_preset->addItem(coreText("%1 × %2").arg(preset.width()).arg(preset.height()), preset);
     m_preset->addItem(coreText("Custom"));
     m_width->setValue(qRound(proposal.displaySize.width()));

@@ -57,6 +57,16 @@ bool ProjectDocument::open(const QString& path, QList<Problem>* problems)
     return true;
 }
 
+bool ProjectDocument::openCopy(const QString& path, QList<Problem>* problems)
+{
+    ProjectStore::Loaded loaded = ProjectStore::loadCopy(path);
+    *problems = loaded.problems;
+    if (!loaded.project)
+        return false;
+    replaceSession(std::move(loaded.project), true);
+    return true;
+}
+
 bool ProjectDocument::save(QString* message)
 {
     if (!ProjectStore::save(project(), project()->folder(), message))

@@ -45,6 +45,8 @@ public:
     /// opened the present project stays and false is returned; \a problems tells why. An opened project may have
     /// problems too.
     bool open(const QString& path, QList<Problem>* problems);
+    /// Replaces the open project by a copy of the one in \a path, which belongs to no folder until it is saved.
+    bool openCopy(const QString& path, QList<Problem>* problems);
     /// Saves into the project's own folder. False with a message when that cannot be done; nothing is lost then.
     bool save(QString* message);
     /// Saves into \a folder, which becomes the project's own. A folder that holds anything else already is refused.

@@ -9,6 +9,8 @@ namespace Korvex::Meridane::Designer {
 /// and a tooltip that follows the text and names the shortcut.
 class WindowAction : public QAction
 {
+    Q_OBJECT
+
 public:
     /// \a iconName: a drawing of app/icons, or empty. \a text: localised.
     WindowAction(const QString& iconName, const QString& text, const QList<QKeySequence>& shortcuts, QObject* parent);

@@ -51,6 +51,27 @@ ProjectStore::Loaded ProjectStore::load(const QString& folder)
     return loaded;
 }
 
+ProjectStore::Loaded ProjectStore::loadCopy(const QString& folder)
+{
+    auto copy = std::make_unique<QTemporaryDir>(QDir::temp().filePath(QStringLiteral("meridane-XXXXXX")));
+    const QDir target(copy->path());
+    for (const char* subfolder : {".", "screens", "images", "fonts"}) {
+        const QString name = QLatin1String(subfolder);
+        target.mkpath(name);
+        const QFileInfoList files = QDir(QDir(folder).filePath(name)).entryInfoList(QDir::Files);
+        for (const QFileInfo& file : files) {
+            QFile written(target.filePath(name + QLatin1Char('/') + file.fileName()));
+            // A copy of a file that is read-only would be, too.
+            if (QFile::copy(file.filePath(), written.fileName()))
+                written.setPermissions(written.permissions() | QFile::ReadOwner | QFile::WriteOwner);
+        }
+    }
+    Loaded loaded = load(copy->path());
+    if (loaded.project)
+        ProjectFiles::of(loaded.project.get())->setTemporaryFolder(std::move(copy));
+    return loaded;
+}
+
 bool ProjectStore::isProjectFolder(const Project* project, const QString& folder)
 {
     if (project->folder().isEmpty())

@@ -35,6 +35,9 @@ public:
     /// Opens the project in \a folder, after completing or taking back a save that was interrupted there. Screens are
     /// read when they are first needed. The problems are those of project.json and of the folder.
     [[nodiscard]] static Loaded load(const QString& folder);
+    /// Opens a copy of the project in \a folder, made in a temporary folder that goes with it; what is in \a folder stays as
+    /// it is.
+    [[nodiscard]] static Loaded loadCopy(const QString& folder);
     /// Whether \a folder is one of the folders that hold the project's own files: nothing else is written there.
     [[nodiscard]] static bool isProjectFolder(const Project* project, const QString& folder);
     /// Reads every screen that has not been read; what is wrong with the files of all screens.

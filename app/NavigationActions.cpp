@@ -1,0 +1,80 @@
+#include "app/NavigationActions.h"
+
+#include "app/CanvasPanel.h"
+#include "app/CoreText.h"
+#include "app/ScreenTabs.h"
+#include "app/WindowAction.h"
+#include "app/WindowPanels.h"
+#include "app/Workspace.h"
+
+#include "host/core/canvas/CanvasView.h"
+#include "host/core/sheet/PropertySheet.h"
+
+#include <QMenu>
+
+namespace Korvex::Meridane::Designer {
+
+NavigationActions::NavigationActions(WindowPanels* panels, QObject* parent)
+    : QObject(parent)
+    , m_panels(panels)
+{
+    const auto add = [this](const char* name, const char* icon, const QString& text, const QKeySequence& shortcut,
+                            auto run) {
+        auto* action = new WindowAction(QString::fromLatin1(icon), text, {shortcut}, this);
+        action->setObjectName(QLatin1String(name));
+        connect(action, &QAction::triggered, this, [this, run] {
+            if (m_workspace)
+                run();
+        });
+        m_actions.append(action);
+    };
+    add("view.editProperties", "properties", coreText("Edit P&roperties"), QKeySequence(Qt::Key_F4),
+        [this] { editProperties(); });
+    add("view.goToCanvas", "canvas", coreText("&Go to Canvas"), QKeySequence(Qt::CTRL | Qt::Key_F6),
+        [this] { m_workspace->canvas()->setFocus(Qt::TabFocusReason); });
+    add("view.nextPanel", "panel-next", coreText("Ne&xt Panel"), QKeySequence(Qt::Key_F6), [this] { stepPanel(1); });
+    add("view.previousPanel", "panel-previous", coreText("Previous Pane&l"), QKeySequence(Qt::SHIFT | Qt::Key_F6),
+        [this] { stepPanel(-1); });
+    add("view.nextScreen", "screen-next", coreText("&Next Screen"), QKeySequence(Qt::CTRL | Qt::Key_Tab),
+        [this] { stepScreen(1); });
+    add("view.previousScreen", "screen-previous", coreText("Pre&vious Screen"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab),
+        [this] { stepScreen(-1); });
+}
+
+void NavigationActions::addTo(QMenu* menu)
+{
+    menu->addActions(m_actions);
+}
+
+void NavigationActions::setWorkspace(Workspace* workspace)
+{
+    m_workspace = workspace;
+    for (QAction* action : std::as_const(m_actions))
+        action->setEnabled(workspace);
+}
+
+void NavigationActions::editProperties()
+{
+    Q_EMIT propertiesRequested();
+    // The first editor of the sheet; its rows come before whatever follows in the window's order.
+    PropertySheet* sheet = m_workspace->sheet();
+    for (QWidget* widget = sheet->nextInFocusChain(); widget && widget != sheet; widget = widget->nextInFocusChain()) {
+        if (sheet->isAncestorOf(widget) && widget->isVisible() && widget->isEnabled()
+            && (widget->focusPolicy() & Qt::TabFocus)) {
+            widget->setFocus(Qt::TabFocusReason);
+            return;
+        }
+    }
+}
+
+void NavigationActions::stepScreen(int steps)
+{
+    m_workspace->canvasPanel()->tabs()->step(steps);
+}
+
+void NavigationActions::stepPanel(int steps)
+{
+    m_panels->stepFocus(m_workspace->canvas(), steps);
+}
+
+} // namespace Korvex::Meridane::Designer

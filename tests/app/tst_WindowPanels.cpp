@@ -1,0 +1,168 @@
+#include "app/CanvasPanel.h"
+#include "app/WindowPanels.h"
+#include "tests/app/TestWindow.h"
+
+#include "host/core/canvas/CanvasView.h"
+#include "host/core/plugins/DesignerFactory.h"
+#include "host/core/sheet/PropertySheet.h"
+
+#include <QDockWidget>
+#include <QStandardPaths>
+
+using namespace Korvex::Meridane::Designer;
+using Test::TestWindow;
+
+/// The panels around the canvas: their sizes, their arrangement, and the way of the keyboard through them.
+class tst_WindowPanels : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QStandardPaths::setTestModeEnabled(true);
+        (void)DesignerFactory::instance()->loadInstalledPlugins();
+    }
+
+    void init()
+    {
+        m_test = std::make_unique<TestWindow>();
+        QVERIFY(m_test->show());
+        QTest::qWait(50); // the layout's second look at its sizes
+    }
+
+    void cleanup() { m_test.reset(); }
+
+    void panelsGrowBackAfterTheWindowWasTiny()
+    {
+        const int left = dock("PaletteDock")->width();
+        const int right = dock("SheetDock")->width();
+        resize({420, 300});
+        QVERIFY(dock("PaletteDock")->width() < left || dock("SheetDock")->width() < right);
+        resize({1280, 800});
+        QTRY_COMPARE(dock("PaletteDock")->width(), left);
+        QTRY_COMPARE(dock("SheetDock")->width(), right);
+    }
+
+    void theyGrowBackStepByStepToo()
+    {
+        const int left = dock("PaletteDock")->width();
+        const int right = dock("SheetDock")->width();
+        for (int width = 1280; width > 400; width -= 88)
+            resize({width, 700});
+        for (int width = 400; width <= 1280; width += 88)
+            resize({width, 700});
+        QTRY_COMPARE(dock("PaletteDock")->width(), left);
+        QTRY_COMPARE(dock("SheetDock")->width(), right);
+    }
+
+    void theWidthThatTheUserGivesIsKept()
+    {
+        m_test->window->resizeDocks({dock("SheetDock")}, {430}, Qt::Horizontal);
+        QTRY_COMPARE(dock("SheetDock")->width(), 430);
+        resize({500, 300});
+        resize({1400, 800});
+        QTRY_COMPARE(dock("SheetDock")->width(), 430);
+        // Narrower by choice stays narrower.
+        m_test->window->resizeDocks({dock("SheetDock")}, {350}, Qt::Horizontal);
+        QTRY_COMPARE(dock("SheetDock")->width(), 350);
+        resize({1500, 800});
+        QTest::qWait(50);
+        QCOMPARE(dock("SheetDock")->width(), 350);
+    }
+
+    void theLayoutIsReset()
+    {
+        const QRect sheet = dock("SheetDock")->geometry();
+        m_test->window->addDockWidget(Qt::LeftDockWidgetArea, dock("SheetDock"));
+        dock("HistoryDock")->hide();
+        dock("TreeDock")->setFloating(true);
+        m_test->action("view.resetLayout")->trigger();
+        QCOMPARE(m_test->window->dockWidgetArea(dock("SheetDock")), Qt::RightDockWidgetArea);
+        QVERIFY(dock("HistoryDock")->isVisible());
+        QVERIFY(!dock("TreeDock")->isFloating());
+        QTRY_COMPARE(dock("SheetDock")->geometry(), sheet);
+    }
+
+    void f6GoesAroundThroughPanelsAndCanvas()
+    {
+        m_test->window->workspace()->canvas()->setFocus();
+        QStringList forward;
+        QWidget* start = QApplication::focusWidget();
+        do {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6);
+            QVERIFY(forward.size() < 20);
+            forward.append(place());
+        } while (QApplication::focusWidget() != start);
+        QCOMPARE(forward.last(), QStringLiteral("Canvas"));
+        for (const char* name : {"PaletteDock", "TreeDock", "SheetDock", "HistoryDock"})
+            QVERIFY2(forward.contains(QLatin1String(name)), name);
+        QStringList backward;
+        do {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6, Qt::ShiftModifier);
+            QVERIFY(backward.size() < 20);
+            backward.append(place());
+        } while (QApplication::focusWidget() != start);
+        std::reverse(forward.begin(), forward.end() - 1);
+        QCOMPARE(backward, forward);
+    }
+
+    void f6ComesBackToWhatHadTheFocusInAPanel()
+    {
+        m_test->action("view.editProperties")->trigger();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        const QWidget* field = QApplication::focusWidget();
+        QVERIFY(m_test->window->workspace()->sheet()->isAncestorOf(field));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6);
+        QVERIFY(QApplication::focusWidget() != field);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6, Qt::ShiftModifier);
+        QCOMPARE(QApplication::focusWidget(), field);
+    }
+
+    void closedPanelsAreLeftOut()
+    {
+        dock("HistoryDock")->hide();
+        m_test->window->workspace()->canvas()->setFocus();
+        for (int i = 0; i < 8; ++i) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6);
+            QVERIFY(place() != QLatin1String("HistoryDock"));
+        }
+    }
+
+    void theirEntriesShowAndHideThem()
+    {
+        QAction* entry = m_test->action("panels.showHistoryDock");
+        QVERIFY(entry->isChecked());
+        entry->trigger();
+        QVERIFY(!dock("HistoryDock")->isVisible());
+        entry->trigger();
+        QVERIFY(dock("HistoryDock")->isVisible());
+    }
+
+private:
+    QDockWidget* dock(const char* name) const { return m_test->window->findChild<QDockWidget*>(QLatin1String(name)); }
+
+    void resize(const QSize& size) const
+    {
+        m_test->window->resize(size);
+        QCoreApplication::processEvents();
+        QTest::qWait(1);
+    }
+
+    /// The name of the panel that has the focus.
+    QString place() const
+    {
+        const QWidget* focused = QApplication::focusWidget();
+        for (const QDockWidget* dock : m_test->window->findChildren<QDockWidget*>()) {
+            if (dock->isAncestorOf(focused))
+                return dock->objectName();
+        }
+        return m_test->window->workspace()->canvasPanel()->isAncestorOf(focused) ? QStringLiteral("Canvas")
+                                                                                 : QStringLiteral("?");
+    }
+
+    std::unique_ptr<TestWindow> m_test;
+};
+
+QTEST_MAIN(tst_WindowPanels)
+#include "tst_WindowPanels.moc"
