@@ -33,7 +33,7 @@ EditActions::EditActions(MessageBar* messages, QObject* parent)
     m_cut = make("edit.cut", "cut", "Cu&t", keys(QKeySequence::Cut), &EditActions::cut);
     m_copy = make("edit.copy", "copy", "&Copy", keys(QKeySequence::Copy), &EditActions::copy);
     m_paste = make("edit.paste", "paste", "&Paste", keys(QKeySequence::Paste), &EditActions::paste);
-    m_pasteInPlace = make("edit.pasteInPlace", "paste", "Paste in Place",
+    m_pasteInPlace = make("edit.pasteInPlace", "paste-in-place", "Paste in Place",
                           {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_V)}, &EditActions::pasteInPlace);
     m_duplicate = make("edit.duplicate", "duplicate", "Dup&licate", {QKeySequence(Qt::CTRL | Qt::Key_D)},
                        &EditActions::duplicate);
@@ -92,8 +92,6 @@ void EditActions::addTo(QMenu* menu)
     menu->addSeparator();
     menu->addAction(m_selectAll);
     menu->addAction(m_rename);
-    menu->addSeparator();
-    menu->addActions(m_order);
     menu->addSeparator();
     menu->addAction(m_addScreen);
 }

@@ -36,7 +36,9 @@ ImageActions::ImageActions(UserPrompts* prompts, MessageBar* messages, QObject* 
 
 void ImageActions::addTo(QMenu* menu)
 {
-    auto* import = new WindowAction({}, coreText("Import I&mages…"), QList<QKeySequence>(), this);
+    auto* import =
+        new WindowAction(QStringLiteral("image-add"), coreText("Import I&mages…"), QList<QKeySequence>(), this);
+    import->setObjectName(QStringLiteral("project.importImages"));
     connect(import, &QAction::triggered, this, &ImageActions::importFiles);
     menu->addAction(import);
 }

@@ -1,8 +1,14 @@
 #include "app/MainWindow.h"
 
 #include "app/AppSettings.h"
+#include "app/Appearance.h"
+#include "app/ArrangeActions.h"
+#include "app/CanvasActions.h"
 #include "app/CanvasImageDrop.h"
+#include "app/CanvasMenu.h"
 #include "app/CanvasPanel.h"
+#include "app/CommandPalette.h"
+#include "app/CommandSource.h"
 #include "app/CoreText.h"
 #include "app/EditActions.h"
 #include "app/ElementPalette.h"
@@ -14,20 +20,24 @@
 #include "app/ImagePanel.h"
 #include "app/MenuText.h"
 #include "app/MessageBar.h"
+#include "app/NavigationActions.h"
 #include "app/OutputActions.h"
 #include "app/ProblemsPanel.h"
+#include "app/ProgramFiles.h"
 #include "app/ProjectDocument.h"
+#include "app/ProjectThumbnails.h"
 #include "app/ProjectTree.h"
-#include "app/ScreenTabs.h"
+#include "app/ShortcutSettings.h"
+#include "app/StartPage.h"
 #include "app/StatusReadout.h"
 #include "app/ViewActions.h"
-#include "app/WindowAction.h"
-#include "app/WindowLayout.h"
+#include "app/WindowPanels.h"
 #include "app/Workspace.h"
 #include "app/ZoomBox.h"
 
 #include "host/core/canvas/CanvasView.h"
 #include "host/core/canvas/EditSession.h"
+#include "host/core/objects/Screen.h"
 #include "host/core/project/Project.h"
 #include "host/core/project/ProjectStore.h"
 #include "host/core/sheet/PropertySheet.h"
@@ -47,15 +57,16 @@ namespace Korvex::Meridane::Designer {
 
 namespace {
 
-constexpr int LeftWidth = 272;
-constexpr int RightWidth = 320;
 constexpr int ReadingDelay = 200; // ms
+constexpr int ThumbnailDelay = 800; // ms after a project was opened or saved
 
 } // namespace
 
 MainWindow::MainWindow(UserPrompts* prompts, QWidget* parent)
     : QMainWindow(parent)
     , m_document(std::make_unique<ProjectDocument>())
+    , m_panels(new WindowPanels(this))
+    , m_shortcuts(new ShortcutSettings(this))
     , m_palette(new ElementPalette)
     , m_problems(new ProblemsPanel)
     , m_messages(new MessageBar)
@@ -63,10 +74,14 @@ MainWindow::MainWindow(UserPrompts* prompts, QWidget* parent)
     , m_zoomBox(new ZoomBox)
     , m_file(new FileActions(m_document.get(), prompts, m_messages, this))
     , m_edit(new EditActions(m_messages, this))
+    , m_arrange(new ArrangeActions(m_messages, this))
     , m_view(new ViewActions(this))
+    , m_canvas(new CanvasActions(this))
     , m_output(new OutputActions(m_document.get(), prompts, m_messages, this))
     , m_images(new ImageActions(prompts, m_messages, this))
-    , m_help(new HelpActions(this))
+    , m_navigation(new NavigationActions(m_panels, this))
+    , m_help(new HelpActions(this, m_shortcuts, m_messages))
+    , m_commands(new CommandPalette(this))
 {
     setWindowIcon(QIcon(QStringLiteral(":/meridane/designer/icons/application.svg")));
     setDockOptions(AnimatedDocks | AllowTabbedDocks | AllowNestedDocks);
@@ -92,16 +107,24 @@ MainWindow::MainWindow(UserPrompts* prompts, QWidget* parent)
     connect(m_problems, &ProblemsPanel::objectRequested, this,
             [this](const QString& object) { m_workspace->goTo(object); });
     connect(m_edit, &EditActions::renameRequested, this, [this] {
-        reveal(m_treeDock);
+        WindowPanels::reveal(m_treeDock);
         m_workspace->tree()->renameCurrent();
     });
     connect(m_edit, &EditActions::imagesPasted, m_images, &ImageActions::placeData);
-    connect(m_images, &ImageActions::imported, this, [this] { reveal(m_imagesDock); });
+    connect(m_images, &ImageActions::imported, this, [this] { WindowPanels::reveal(m_imagesDock); });
     connect(m_zoomBox, &ZoomBox::zoomRequested, m_view, &ViewActions::setZoom);
     connect(m_zoomBox, &ZoomBox::fitRequested, m_view, &ViewActions::fit);
 
+    connect(m_navigation, &NavigationActions::propertiesRequested, this, [this] { WindowPanels::reveal(m_sheetDock); });
+
+    connect(m_file, &FileActions::startPageRequested, this, &MainWindow::showStartPage);
+    connect(m_file, &FileActions::projectStored, this, &MainWindow::keepThumbnail);
+    connect(m_help, &HelpActions::commandsRequested, this, &MainWindow::showCommands);
+
+    m_shortcuts->load();
     RecentColors::shared().load(AppSettings());
-    arrangePanels();
+    resize(sizeHint());
+    m_panels->arrange();
     m_document->create(ProjectDocument::untitledName(), ProjectDocument::DefaultDisplaySize);
 }
 
@@ -109,6 +132,50 @@ MainWindow::~MainWindow()
 {
     m_document->disconnect(this);
     detach();
+}
+
+void MainWindow::showStartPage()
+{
+    if (m_startPage)
+        return;
+    m_startPage = new StartPage(m_file->recentFiles(), ProgramFiles::folder(ProgramFiles::Kind::Examples));
+    connect(m_startPage, &StartPage::leaveRequested, this, &MainWindow::leaveStartPage, Qt::QueuedConnection);
+    connect(m_startPage, &StartPage::newRequested, m_file, &FileActions::createSized, Qt::QueuedConnection);
+    connect(m_startPage, &StartPage::openRequested, m_file->openAction(), &QAction::trigger, Qt::QueuedConnection);
+    connect(m_startPage, &StartPage::projectRequested, m_file, &FileActions::openPath, Qt::QueuedConnection);
+    connect(m_startPage, &StartPage::exampleRequested, m_file, &FileActions::openExample, Qt::QueuedConnection);
+    // Whatever is done to the project shows it.
+    const EditSession* session = m_workspace->session();
+    connect(session, &EditSession::selectionChanged, m_startPage, &StartPage::leaveRequested);
+    connect(session, &EditSession::currentScreenChanged, m_startPage, &StartPage::leaveRequested);
+    connect(session->undoStack(), &QUndoStack::indexChanged, m_startPage, &StartPage::leaveRequested);
+    m_panels->setAllHidden(true);
+    m_workspace->canvasPanel()->hide();
+    m_navigation->setWorkspace(nullptr);
+    centralWidget()->layout()->addWidget(m_startPage);
+    m_startPage->show();
+    m_startPage->refresh();
+}
+
+void MainWindow::leaveStartPage()
+{
+    if (!m_startPage)
+        return;
+    delete std::exchange(m_startPage, nullptr);
+    m_panels->setAllHidden(false);
+    if (!m_workspace)
+        return;
+    m_navigation->setWorkspace(m_workspace.get());
+    m_workspace->canvasPanel()->show();
+    m_workspace->canvas()->setFocus();
+    m_fitted = false;
+    showWholeScreen();
+}
+
+void MainWindow::keepThumbnail()
+{
+    QTimer::singleShot(ThumbnailDelay, m_workspace.get(),
+                       [this] { ProjectThumbnails::store(m_document->session(), m_document->project()->folder()); });
 }
 
 bool MainWindow::openProject(const QString& path)
@@ -128,7 +195,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
         event->ignore();
         return;
     }
-    WindowLayout::store(this);
+    m_panels->store();
     AppSettings settings;
     RecentColors::shared().save(settings);
     event->accept();
@@ -145,29 +212,22 @@ void MainWindow::changeEvent(QEvent* event)
     QMainWindow::changeEvent(event);
     // Icons are drawn in the palette's colours, which widgets that keep pixmaps do not know.
     if (event->type() == QEvent::ApplicationPaletteChange) {
+        Appearance::follow();
         const QList<QWidget*> widgets = findChildren<QWidget*>();
         for (QWidget* widget : widgets)
             widget->update();
     }
 }
 
-QDockWidget* MainWindow::addPanel(const QString& name, const QString& title, Qt::DockWidgetArea area)
-{
-    auto* dock = new QDockWidget(MenuText::withoutReservedMnemonic(title), this);
-    dock->setObjectName(name);
-    addDockWidget(area, dock);
-    return dock;
-}
-
 void MainWindow::makePanels()
 {
-    m_paletteDock = addPanel(QStringLiteral("PaletteDock"), coreText("Elements"), Qt::LeftDockWidgetArea);
-    m_treeDock = addPanel(QStringLiteral("TreeDock"), coreText("Project"), Qt::LeftDockWidgetArea);
-    m_imagesDock = addPanel(QStringLiteral("ImagesDock"), coreText("Images"), Qt::LeftDockWidgetArea);
+    m_paletteDock = m_panels->add(QStringLiteral("PaletteDock"), coreText("Elements"), Qt::LeftDockWidgetArea);
+    m_treeDock = m_panels->add(QStringLiteral("TreeDock"), coreText("Project"), Qt::LeftDockWidgetArea);
+    m_imagesDock = m_panels->add(QStringLiteral("ImagesDock"), coreText("Images"), Qt::LeftDockWidgetArea);
     tabifyDockWidget(m_treeDock, m_imagesDock);
-    m_sheetDock = addPanel(QStringLiteral("SheetDock"), coreText("Properties"), Qt::RightDockWidgetArea);
-    m_historyDock = addPanel(QStringLiteral("HistoryDock"), coreText("History"), Qt::RightDockWidgetArea);
-    m_problemsDock = addPanel(QStringLiteral("ProblemsDock"), coreText("Problems"), Qt::BottomDockWidgetArea);
+    m_sheetDock = m_panels->add(QStringLiteral("SheetDock"), coreText("Properties"), Qt::RightDockWidgetArea);
+    m_historyDock = m_panels->add(QStringLiteral("HistoryDock"), coreText("History"), Qt::RightDockWidgetArea);
+    m_problemsDock = m_panels->add(QStringLiteral("ProblemsDock"), coreText("Problems"), Qt::BottomDockWidgetArea);
     m_paletteDock->setWidget(m_palette);
     m_problemsDock->setWidget(m_problems);
     m_problemsDock->hide();
@@ -186,26 +246,21 @@ void MainWindow::makeMenus()
     file->addSeparator();
     m_file->addEndTo(file);
     m_edit->addTo(addMenu("&Edit"));
+    m_arrange->addTo(addMenu("&Arrange"), m_edit->orderActions());
 
     QMenu* view = addMenu("&View");
     m_view->addTo(view);
-    QMenu* panels = view->addMenu(coreText("&Panels"));
-    for (const QDockWidget* dock :
-         {m_paletteDock, m_treeDock, m_imagesDock, m_sheetDock, m_historyDock, m_problemsDock})
-        panels->addAction(dock->toggleViewAction());
     view->addSeparator();
-    const auto add = [this, view](const char* text, const QKeySequence& shortcut, auto run) {
-        auto* action = new WindowAction({}, coreText(text), {shortcut}, this);
-        connect(action, &QAction::triggered, this, run);
-        view->addAction(action);
-    };
-    add("Edit P&roperties", QKeySequence(Qt::Key_F4), [this] { editProperties(); });
-    add("&Go to Canvas", QKeySequence(Qt::Key_F6), [this] { m_workspace->canvas()->setFocus(); });
-    add("&Next Screen", QKeySequence(Qt::CTRL | Qt::Key_Tab), [this] { m_workspace->canvasPanel()->tabs()->step(1); });
-    add("Pre&vious Screen", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab),
-        [this] { m_workspace->canvasPanel()->tabs()->step(-1); });
+    m_canvas->addTo(view);
+    view->addSeparator();
+    m_panels->addTo(view->addMenu(coreText("&Panels")));
+    view->addSeparator();
+    m_navigation->addTo(view);
 
     m_help->addTo(addMenu("&Help"));
+    const QList<QAction*> menus = menuBar()->actions();
+    for (const QAction* menu : menus)
+        MenuText::makeMnemonicsUnique(menu->menu());
 }
 
 void MainWindow::makeToolBar()
@@ -222,6 +277,11 @@ void MainWindow::makeToolBar()
     bar->addSeparator();
     bar->addActions(m_edit->orderActions());
     bar->addSeparator();
+    bar->addActions({m_arrange->groupAction(), m_arrange->ungroupAction()});
+    bar->addActions(m_arrange->alignActions());
+    bar->addSeparator();
+    bar->addActions({m_canvas->snapAction(), m_canvas->gridAction()});
+    bar->addSeparator();
     bar->addActions({m_view->zoomOutAction(), m_view->zoomInAction(), m_view->fitAction()});
     bar->addSeparator();
     bar->addActions({m_output->checkAction(), m_output->previewAction(), m_output->exportAction()});
@@ -232,17 +292,6 @@ void MainWindow::makeStatusBar()
     statusBar()->setSizeGripEnabled(false);
     statusBar()->addPermanentWidget(m_readout);
     statusBar()->addPermanentWidget(m_zoomBox);
-}
-
-void MainWindow::arrangePanels()
-{
-    resize(sizeHint());
-    if (WindowLayout::restore(this))
-        return;
-    resizeDocks({m_paletteDock, m_sheetDock}, {LeftWidth, RightWidth}, Qt::Horizontal);
-    resizeDocks({m_paletteDock, m_treeDock}, {380, 300}, Qt::Vertical);
-    resizeDocks({m_sheetDock, m_historyDock}, {500, 180}, Qt::Vertical);
-    m_treeDock->raise();
 }
 
 void MainWindow::attach(EditSession* session)
@@ -257,9 +306,15 @@ void MainWindow::attach(EditSession* session)
     // Last: the sheet's rows come and go and are appended to the order of the Tab key, where they follow its heading.
     m_sheetDock->setWidget(m_workspace->sheet());
     m_workspace->tree()->addActions(m_edit->treeActions());
+    m_workspace->tree()->addActions(m_arrange->contextActions());
     m_edit->setSession(session);
+    m_arrange->setSession(session);
     m_images->setWorkspace(m_workspace.get());
     m_view->setCanvas(canvas);
+    m_canvas->setCanvas(canvas);
+    new CanvasMenu(canvas, QList<QAction*>{nullptr, m_edit->copyAction(), m_edit->pasteAction(), nullptr}
+                               + m_edit->treeActions() + QList<QAction*>{nullptr} + m_arrange->contextActions());
+    m_navigation->setWorkspace(m_workspace.get());
     connect(images, &ImagePanel::importRequested, m_images, &ImageActions::importFiles);
     connect(images, &ImagePanel::replaceRequested, m_images, &ImageActions::replaceFile);
     connect(images, &ImagePanel::placeRequested, m_images, &ImageActions::placeImages);
@@ -317,9 +372,13 @@ void MainWindow::showWholeScreen()
 void MainWindow::detach()
 {
     m_edit->setSession(nullptr);
+    m_arrange->setSession(nullptr);
     m_images->setWorkspace(nullptr);
     m_view->setCanvas(nullptr);
+    m_canvas->setCanvas(nullptr);
+    m_navigation->setWorkspace(nullptr);
     m_workspace.reset();
+    leaveStartPage();
 }
 
 void MainWindow::showProblems(const QList<Problem>& problems, const QString& consequence)
@@ -348,30 +407,16 @@ void MainWindow::addProblems(const QList<Problem>& problems)
         showProblems(m_problems->problems() + problems);
 }
 
+void MainWindow::showCommands()
+{
+    m_commands->open(CommandSource::actions(this) + CommandSource::insertions(m_palette)
+                     + CommandSource::places(m_workspace.get()) + CommandSource::recentProjects(m_file));
+}
+
 void MainWindow::updateTitle()
 {
     setWindowTitle(coreText("%1[*] – Meridane Designer").arg(m_document->name()));
     setWindowModified(m_document->isModified());
-}
-
-void MainWindow::reveal(QDockWidget* dock)
-{
-    dock->show();
-    dock->raise();
-}
-
-void MainWindow::editProperties()
-{
-    reveal(m_sheetDock);
-    // The first editor of the sheet; its rows come before whatever follows in the window's order.
-    PropertySheet* sheet = m_workspace->sheet();
-    for (QWidget* widget = sheet->nextInFocusChain(); widget && widget != sheet; widget = widget->nextInFocusChain()) {
-        if (sheet->isAncestorOf(widget) && widget->isVisible() && widget->isEnabled()
-            && (widget->focusPolicy() & Qt::TabFocus)) {
-            widget->setFocus(Qt::TabFocusReason);
-            return;
-        }
-    }
 }
 
 } // namespace Korvex::Meridane::Designer

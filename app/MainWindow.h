@@ -8,6 +8,9 @@
 
 namespace Korvex::Meridane::Designer {
 
+class CommandPalette;
+class ArrangeActions;
+class CanvasActions;
 class EditActions;
 class EditSession;
 class ElementPalette;
@@ -15,12 +18,16 @@ class FileActions;
 class HelpActions;
 class ImageActions;
 class MessageBar;
+class NavigationActions;
 class OutputActions;
 class ProblemsPanel;
 class ProjectDocument;
+class ShortcutSettings;
+class StartPage;
 class StatusReadout;
 class UserPrompts;
 class ViewActions;
+class WindowPanels;
 class Workspace;
 class ZoomBox;
 
@@ -39,6 +46,8 @@ public:
 
     /// Opens the project in \a path; what is wrong with it is shown in the window.
     bool openProject(const QString& path);
+    /// Shows the start page in place of the canvas and its panels, until something is done to a project.
+    void showStartPage();
     /// Shows \a problems after those that are shown already.
     void addProblems(const QList<Problem>& problems);
 
@@ -48,8 +57,13 @@ public:
     [[nodiscard]] ProblemsPanel* problemsPanel() const { return m_problems; }
     [[nodiscard]] MessageBar* messageBar() const { return m_messages; }
     [[nodiscard]] StatusReadout* statusReadout() const { return m_readout; }
+    /// Null while it is not shown.
+    [[nodiscard]] StartPage* startPage() const { return m_startPage; }
+    [[nodiscard]] CommandPalette* commandPalette() const { return m_commands; }
+    [[nodiscard]] ShortcutSettings* shortcutSettings() const { return m_shortcuts; }
     [[nodiscard]] FileActions* fileActions() const { return m_file; }
     [[nodiscard]] EditActions* editActions() const { return m_edit; }
+    [[nodiscard]] ArrangeActions* arrangeActions() const { return m_arrange; }
     [[nodiscard]] ImageActions* imageActions() const { return m_images; }
 
     [[nodiscard]] QSize sizeHint() const override;
@@ -60,23 +74,24 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    QDockWidget* addPanel(const QString& name, const QString& title, Qt::DockWidgetArea area);
     void makePanels();
     void makeMenus();
     void makeToolBar();
     void makeStatusBar();
-    void arrangePanels();
     void attach(EditSession* session);
     void detach();
     void showWholeScreen();
     void readRemainingScreens();
     void showProblems(const QList<Problem>& problems, const QString& consequence = {});
+    void showCommands();
+    void leaveStartPage();
+    void keepThumbnail();
     void updateTitle();
-    void editProperties();
-    static void reveal(QDockWidget* dock);
 
     std::unique_ptr<ProjectDocument> m_document;
     std::unique_ptr<Workspace> m_workspace; // goes before the document
+    WindowPanels* m_panels;
+    ShortcutSettings* m_shortcuts;
     ElementPalette* m_palette;
     ProblemsPanel* m_problems;
     MessageBar* m_messages;
@@ -84,10 +99,15 @@ private:
     ZoomBox* m_zoomBox;
     FileActions* m_file;
     EditActions* m_edit;
+    ArrangeActions* m_arrange;
     ViewActions* m_view;
+    CanvasActions* m_canvas;
     OutputActions* m_output;
     ImageActions* m_images;
+    NavigationActions* m_navigation;
     HelpActions* m_help;
+    CommandPalette* m_commands;
+    StartPage* m_startPage = nullptr;
     QDockWidget* m_paletteDock;
     QDockWidget* m_treeDock;
     QDockWidget* m_imagesDock;

@@ -38,6 +38,9 @@ OutputActions::OutputActions(ProjectDocument* document, UserPrompts* prompts, Me
     , m_preview(new WindowAction(QStringLiteral("preview"), coreText("Pre&view"), {QKeySequence(Qt::Key_F5)}, this))
     , m_check(new WindowAction(QStringLiteral("check"), coreText("Chec&k Project"), {QKeySequence(Qt::Key_F7)}, this))
 {
+    m_export->setObjectName(QStringLiteral("project.exportQml"));
+    m_preview->setObjectName(QStringLiteral("project.preview"));
+    m_check->setObjectName(QStringLiteral("project.check"));
     connect(m_export, &QAction::triggered, this, &OutputActions::exportQml);
     connect(m_preview, &QAction::triggered, this, &OutputActions::preview);
     connect(m_check, &QAction::triggered, this, &OutputActions::check);

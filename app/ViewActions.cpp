@@ -29,6 +29,10 @@ ViewActions::ViewActions(QObject* parent)
     , m_fit(new WindowAction(QStringLiteral("zoom-fit"), coreText("&Fit Screen"), {QKeySequence(Qt::CTRL | Qt::Key_0)},
                              this))
 {
+    m_zoomIn->setObjectName(QStringLiteral("view.zoomIn"));
+    m_zoomOut->setObjectName(QStringLiteral("view.zoomOut"));
+    m_actual->setObjectName(QStringLiteral("view.zoomActual"));
+    m_fit->setObjectName(QStringLiteral("view.zoomFit"));
     connect(m_zoomIn, &QAction::triggered, this, [this] {
         if (m_canvas)
             m_canvas->setZoom(nextZoom(m_canvas->zoom(), 1));
@@ -48,7 +52,7 @@ void ViewActions::addTo(QMenu* menu)
     menu->addAction(m_actual);
     menu->addAction(m_fit);
     menu->addSeparator();
-    addAppearanceTo(menu->addMenu(coreText("A&ppearance")));
+    addAppearanceTo(menu->addMenu(coreText("App&earance")));
 }
 
 void ViewActions::setCanvas(CanvasView* canvas)
@@ -102,16 +106,18 @@ void ViewActions::addAppearanceTo(QMenu* menu)
     struct Choice
     {
         Appearance::Scheme scheme;
+        const char* name;
         const char* text;
     };
     static constexpr Choice choices[] = {
-        {Appearance::Scheme::Desktop, QT_TRANSLATE_NOOP("Core", "As the &Desktop")},
-        {Appearance::Scheme::Light, QT_TRANSLATE_NOOP("Core", "&Light")},
-        {Appearance::Scheme::Dark, QT_TRANSLATE_NOOP("Core", "Dar&k")},
+        {Appearance::Scheme::Desktop, "view.colorsOfDesktop", QT_TRANSLATE_NOOP("Core", "As the &Desktop")},
+        {Appearance::Scheme::Light, "view.lightColors", QT_TRANSLATE_NOOP("Core", "&Light")},
+        {Appearance::Scheme::Dark, "view.darkColors", QT_TRANSLATE_NOOP("Core", "Dar&k")},
     };
     auto* group = new QActionGroup(this);
     for (const Choice& choice : choices) {
         auto* action = new WindowAction({}, coreText(choice.text), QList<QKeySequence>(), group);
+        action->setObjectName(QLatin1String(choice.name));
         action->setCheckable(true);
         action->setChecked(Appearance::stored() == choice.scheme);
         connect(action, &QAction::triggered, this, [scheme = choice.scheme] { Appearance::choose(scheme); });

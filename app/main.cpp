@@ -58,7 +58,9 @@ int main(int argc, char* argv[])
     DialogPrompts prompts;
     MainWindow window(&prompts);
     prompts.setWindow(&window);
-    if (!parser.positionalArguments().isEmpty())
+    if (parser.positionalArguments().isEmpty())
+        window.showStartPage();
+    else
         window.openProject(parser.positionalArguments().constFirst());
     QList<Problem> problems;
     for (const QString& message : refusedPlugins)

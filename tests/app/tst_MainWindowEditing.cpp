@@ -175,7 +175,7 @@ private Q_SLOTS:
                      QApplication::focusWidget()->metaObject()->className());
             QTest::keyClick(m_window->windowHandle(), Qt::Key_Tab);
         }
-        QTest::keyClick(m_window.get(), Qt::Key_F6);
+        QTest::keyClick(m_window.get(), Qt::Key_F6, Qt::ControlModifier);
         QCOMPARE(QApplication::focusWidget(), canvas());
     }
 

@@ -133,7 +133,7 @@ private Q_SLOTS:
     void undoAndRedoGoBackAndForth()
     {
         const QPointF last = size();
-        QVERIFY2(m_window->key(QStringLiteral("F6")) && m_window->key(QStringLiteral("ctrl+z")),
+        QVERIFY2(m_window->key(QStringLiteral("ctrl+F6")) && m_window->key(QStringLiteral("ctrl+z")),
                  qPrintable(m_window->error()));
         QVERIFY2(save(), qPrintable(m_window->error()));
         QCOMPARE(size().x(), 222.);
@@ -144,7 +144,7 @@ private Q_SLOTS:
 
     void itIsDuplicatedByItsKey()
     {
-        QVERIFY2(m_window->key(QStringLiteral("F6")) && m_window->key(QStringLiteral("ctrl+d")),
+        QVERIFY2(m_window->key(QStringLiteral("ctrl+F6")) && m_window->key(QStringLiteral("ctrl+d")),
                  qPrintable(m_window->error()));
         QVERIFY2(save(), qPrintable(m_window->error()));
         QCOMPARE(elements().size(), 2);
@@ -155,7 +155,7 @@ private Q_SLOTS:
 
     void theCanvasShowsWhatTheFileSays()
     {
-        QVERIFY2(m_window->key(QStringLiteral("F6")) && m_window->key(QStringLiteral("Escape")),
+        QVERIFY2(m_window->key(QStringLiteral("ctrl+F6")) && m_window->key(QStringLiteral("Escape")),
                  qPrintable(m_window->error()));
         const QRectF wanted(viewPoint(position().x(), position().y()),
                             viewPoint(position().x() + size().x(), position().y() + size().y()));
