@@ -4,10 +4,11 @@
 #include "app/CoreText.h"
 #include "app/ThemedIcon.h"
 
+#include "host/core/widgets/IconTint.h"
+
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPainter>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QToolButton>
@@ -54,11 +55,7 @@ QString iconName(MessageBar::Kind kind)
 /// The drawing \a file in one colour, for a ground that is not the window's.
 QPixmap inked(const QString& file, const QColor& ink, int side, qreal scale)
 {
-    QPixmap pixmap = QIcon(file).pixmap(QSize(side, side), scale);
-    QPainter painter(&pixmap);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(pixmap.rect(), ink);
-    return pixmap;
+    return IconTint::tinted(QIcon(file).pixmap(QSize(side, side), scale), ink);
 }
 
 } // namespace

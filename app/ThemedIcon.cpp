@@ -1,5 +1,7 @@
 #include "app/ThemedIcon.h"
 
+#include "host/core/widgets/IconTint.h"
+
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPixmapCache>
@@ -66,8 +68,8 @@ QPixmap ThemedIcon::drawn(const QSize& pixels, QIcon::Mode mode) const
         QPainter painter(&pixmap);
         const int side = qMin(pixels.width(), pixels.height());
         m_renderer->render(&painter, QRectF((pixels.width() - side) / 2., (pixels.height() - side) / 2., side, side));
-        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-        painter.fillRect(pixmap.rect(), ink);
+        painter.end();
+        pixmap = IconTint::tinted(pixmap, ink);
     }
     QPixmapCache::insert(key, pixmap);
     return pixmap;

@@ -1,6 +1,7 @@
 #include "text/TextAlignButtonGroup.h"
 
 #include "host/core/objects/ElementText.h"
+#include "host/core/widgets/IconTint.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -112,13 +113,8 @@ protected:
             painter.drawRoundedRect(QRectF(rect()).adjusted(Inset, Inset, -Inset, -Inset), Radius, Radius);
         }
 
-        QPixmap pixmap = icon().pixmap(iconSize(), devicePixelRatioF());
-        QPainter tint(&pixmap);
-        tint.setCompositionMode(QPainter::CompositionMode_SourceIn);
-        tint.fillRect(QRect(QPoint(0, 0), iconSize()),
-                      palette().color(group, isChecked() ? QPalette::HighlightedText : QPalette::ButtonText));
-        tint.end();
-        painter.drawPixmap(inner, pixmap);
+        const QColor ink = palette().color(group, isChecked() ? QPalette::HighlightedText : QPalette::ButtonText);
+        painter.drawPixmap(inner, IconTint::tinted(icon().pixmap(iconSize(), devicePixelRatioF()), ink));
     }
 
     /// The group moves between its buttons.
