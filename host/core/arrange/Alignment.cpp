@@ -220,8 +220,12 @@ EditResult Alignment::centerOnScreen(EditSession* session, const QList<DesignerO
             return position.x() == std::round(position.x()) && position.y() == std::round(position.y())
                    && ElementPlaces::placeOf(object->parentObject()).toScene.type() <= QTransform::TxTranslate;
         });
-    if (whole)
-        way = {std::round(withoutNoise(way.x())), std::round(withoutNoise(way.y()))};
+    if (whole) {
+        const auto* first = qobject_cast<const VisualElement*>(arrangement.elements.constFirst());
+        const QPointF from = ValueConversion::toPoint(first->position()->valueString());
+        const QPointF to = withoutNoise(from + way);
+        way = QPointF(std::round(to.x()), std::round(to.y())) - from;
+    }
     Moves moves(session, arrangement);
     for (DesignerObject* element : std::as_const(arrangement.elements))
         moves.add(element, way, false);
