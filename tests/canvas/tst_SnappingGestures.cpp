@@ -210,7 +210,8 @@ private Q_SLOTS:
     void aDraggedPointSnaps()
     {
         SnappingCanvas canvas;
-        DesignerObject* point = canvas.add("IrregularPolygon", {{QStringLiteral("position"), QStringLiteral("200,200")}});
+        DesignerObject* point =
+            canvas.add("IrregularPolygon", {{QStringLiteral("position"), QStringLiteral("200,200")}});
         canvas.setGuides(QStringLiteral("x 303, y 297"));
         canvas.select({point});
         const GraphicsItem* item = point->graphicsItem();
