@@ -19,6 +19,20 @@ class EditArguments;
 [[nodiscard]] ApplyResult applySelect(ApplySession& session, EditArguments& arguments);
 [[nodiscard]] ApplyResult applyRotate(ApplySession& session, EditArguments& arguments);
 
+// ApplyArrange.cpp
+[[nodiscard]] ApplyResult applyAlign(ApplySession& session, EditArguments& arguments);
+[[nodiscard]] ApplyResult applyDistribute(ApplySession& session, EditArguments& arguments);
+[[nodiscard]] ApplyResult applySameSize(ApplySession& session, EditArguments& arguments);
+[[nodiscard]] ApplyResult applyCenter(ApplySession& session, EditArguments& arguments);
+[[nodiscard]] ApplyResult applyGroup(ApplySession& session, EditArguments& arguments);
+[[nodiscard]] ApplyResult applyUngroup(ApplySession& session, EditArguments& arguments);
+[[nodiscard]] ApplyResult applyOrder(ApplySession& session, EditArguments& arguments);
+[[nodiscard]] ApplyResult applyLock(ApplySession& session, EditArguments& arguments);
+[[nodiscard]] ApplyResult applyUnlock(ApplySession& session, EditArguments& arguments);
+[[nodiscard]] ApplyResult applyHide(ApplySession& session, EditArguments& arguments);
+[[nodiscard]] ApplyResult applyShow(ApplySession& session, EditArguments& arguments);
+[[nodiscard]] ApplyResult applyDuplicate(ApplySession& session, EditArguments& arguments);
+
 // ApplyImages.cpp
 [[nodiscard]] ApplyResult applyImportImage(ApplySession& session, EditArguments& arguments);
 [[nodiscard]] ApplyResult applyRenameImage(ApplySession& session, EditArguments& arguments);

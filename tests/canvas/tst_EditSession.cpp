@@ -55,6 +55,34 @@ private Q_SLOTS:
         QCOMPARE(refused.size(), 3);
     }
 
+    void valuesThatExcludeEachOthersDefaultsAreTakenTogether()
+    {
+        const std::unique_ptr<DesignerObject> sample(
+            DesignerFactory::instance()->createDataObject(QStringLiteral("LinearGradientElement"), nullptr));
+        const QString start = value(sample.get(), "start");
+        const QString finalStop = value(sample.get(), "finalStop");
+        QVERIFY(start != finalStop);
+        DesignerObject* added = nullptr;
+        const auto exchange = [&](const QString& newStart, const QString& newStop) {
+            return m_session->addElement(QStringLiteral("LinearGradientElement"), m_session->currentScreen(), {},
+                                         {{QStringLiteral("start"), newStart}, {QStringLiteral("finalStop"), newStop}},
+                                         &added);
+        };
+        const EditResult result = exchange(finalStop, start);
+        QVERIFY2(result.accepted, qPrintable(result.message));
+        QCOMPARE(value(added, "start"), finalStop);
+        QCOMPARE(value(added, "finalStop"), start);
+        QCOMPARE(m_session->undoStack()->count(), 1);
+        m_session->undo();
+        m_session->redo();
+        QCOMPARE(value(added, "start"), finalStop);
+        QCOMPARE(value(added, "finalStop"), start);
+        // What does not fit with everything in place is refused all the same.
+        QVERIFY(!exchange(finalStop, finalStop).accepted);
+        QVERIFY(!exchange(start, start).accepted);
+        QCOMPARE(m_session->undoStack()->count(), 1);
+    }
+
     void aSelectionIsRemovedInOneStepAndAnnouncedOnce()
     {
         for (int i = 0; i < 20; ++i)

@@ -5,6 +5,7 @@
 #include "host/core/canvas/GraphicsItem.h"
 #include "host/core/commands/AddObject.h"
 #include "host/core/commands/ChangeEditorMark.h"
+#include "host/core/commands/ChangeProperties.h"
 #include "host/core/commands/ChangeProperty.h"
 #include "host/core/commands/MoveObject.h"
 #include "host/core/commands/RemoveFont.h"
@@ -246,11 +247,13 @@ EditResult EditSession::addElement(const QString& className, Screen* screen, con
     const auto* add = new AddObject(screen, std::move(object), -1, command.get());
     command->setText(add->text());
     command->setAllOrNothing(true);
+    QList<ChangeProperties::Value> values;
     for (const auto& property : element->properties()) {
         const auto value = properties.constFind(property->id());
         if (value != properties.cend())
-            new ChangeProperty(property, value.value(), false, command.get());
+            values.append({property, value.value()});
     }
+    new ChangeProperties(element, values, command.get());
     const EditResult result = execute(std::move(command));
     if (result.changed) {
         setSelection({element});

@@ -55,7 +55,8 @@ public:
     /// Gives \a screen another size, in pixels; \a content: what becomes of its elements.
     EditResult resizeScreen(Screen* screen, const QSizeF& size, ScreenEdits::Content content);
     /// Adds an element of \a className in front of the others. \a id empty: the smallest free one of its base.
-    /// \a properties: value strings by property id, set in order of rank. Refused as a whole when one is refused.
+    /// \a properties: value strings by property id, set in order of rank and judged together. Refused as a whole when one is
+    /// refused.
     EditResult addElement(const QString& className, Screen* screen, const QString& id,
                           const QMap<QString, QString>& properties, DesignerObject** added = nullptr);
     EditResult removeElements(const QList<DesignerObject*>& elements);
