@@ -22,6 +22,19 @@ QPoint place(const CanvasFixture& canvas, const QPointF& scenePos)
     return canvas.view->viewportTransform().map(scenePos).toPoint();
 }
 
+/// Counts how often a widget is painted.
+class PaintCounter : public QObject
+{
+public:
+    int count = 0;
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
+
 } // namespace
 
 /// What the canvas shows besides the elements: the outline under the mouse, the grid, the readout, the cursors.
@@ -142,6 +155,26 @@ private Q_SLOTS:
         QVERIFY(picture(canvas).pixelColor(beside) != ground);
         canvas.release({310, 330});
         QVERIFY(picture(canvas).pixelColor(place(canvas, {310, 330}) + QPoint(19, 23)) != ground);
+    }
+
+    void aRestingGestureIsNotPaintedAgainAndAgain()
+    {
+        CanvasFixture canvas;
+        CanvasAids aids;
+        aids.readout = true;
+        aids.rulers = true;
+        aids.snapping = true;
+        canvas.view->setAids(aids);
+        canvas.addRectangle(QRectF(100, 100, 60, 50));
+        canvas.press({130, 125});
+        canvas.move({300, 300});
+        QTest::qWait(50);
+        PaintCounter counter;
+        canvas.view->viewport()->installEventFilter(&counter);
+        QTest::qWait(100);
+        QCOMPARE(counter.count, 0);
+        canvas.key(Qt::Key_Escape);
+        canvas.release({300, 300});
     }
 
     void theArrowsOfAHandleFollowTheRotationOfItsGroup()

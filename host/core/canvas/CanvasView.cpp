@@ -301,9 +301,11 @@ void CanvasView::repaintHandles()
     QRegion now = SelectionHandles(this).region() + ElementOutline(this, m_outlined).region();
     if (m_gesture)
         now += m_gesture->paintedRegion();
-    // The readout may say something else in the same place.
-    const QRect readout = CanvasReadout(this, readoutBesideMouse(), m_lastViewPos).rect().toAlignedRect();
-    viewport()->update(readout);
+    const QString text = readoutBesideMouse();
+    const QRect readout = CanvasReadout(this, text, m_lastViewPos).rect().toAlignedRect();
+    // It may say something else in the same place.
+    if (std::exchange(m_paintedReadout, text) != text)
+        viewport()->update(readout);
     now += readout;
     if (m_aids.rulers) {
         m_topRuler->updateExtent();

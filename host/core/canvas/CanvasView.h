@@ -142,6 +142,7 @@ private:
     QPointer<DesignerObject> m_hovered; // whose handle is under the mouse
     QPointer<DesignerObject> m_outlined; // what a click would select
     QRegion m_paintedHandles; // where handles and the gesture's own marks stand on the viewport
+    QString m_paintedReadout;
     bool m_handlesPending = false;
     QPointF m_lastViewPos;
     Qt::MouseButton m_gestureButton = Qt::NoButton;
