@@ -35,7 +35,7 @@ void CardDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
     painter->drawRoundedRect(card.adjusted(0.5, 0.5, -0.5, -0.5), Radius, Radius);
 
     const QRectF inner = card.adjusted(Padding, Padding, -Padding, -Padding);
-    const QRectF place(inner.topLeft(), QSizeF(inner.width(), item.decorationSize.height()));
+    const QRectF place(inner.topLeft(), QSizeF(inner.width(), option.decorationSize.height()));
     if (dimmed)
         painter->setOpacity(0.45);
     item.icon.paint(painter, place.toRect(), Qt::AlignCenter);

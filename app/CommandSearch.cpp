@@ -13,7 +13,7 @@ namespace {
 
 // How much a fit counts, by where it was found.
 constexpr int NameWeight = 4;
-constexpr int KeywordWeight = 3;
+constexpr int KeywordWeight = 2;
 constexpr int PathWeight = 1;
 constexpr int RecencyStep = 6; // points for each place in the list of recent commands
 constexpr int DisabledHandicap = 20;

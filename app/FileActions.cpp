@@ -13,6 +13,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QMenu>
 #include <QStandardPaths>
 
@@ -21,6 +22,15 @@ namespace Korvex::Meridane::Designer {
 namespace {
 
 const QString ProjectsFolderKey = QStringLiteral("paths/projects");
+
+/// Shows that the program is busy for as long as it lives.
+class BusyCursor
+{
+public:
+    BusyCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~BusyCursor() { QGuiApplication::restoreOverrideCursor(); }
+    Q_DISABLE_COPY_MOVE(BusyCursor)
+};
 
 /// \a path as a menu entry: an ampersand in it is no mnemonic.
 QString menuEntry(const QString& path)
@@ -105,7 +115,12 @@ bool FileActions::openPath(const QString& path)
     if (!mayClose())
         return false;
     QList<Problem> problems;
-    if (!m_document->open(path, &problems)) {
+    bool opened = false;
+    {
+        const BusyCursor busy;
+        opened = m_document->open(path, &problems);
+    }
+    if (!opened) {
         if (!QFileInfo::exists(path))
             m_recent->remove(path);
         Q_EMIT problemsFound(problems, coreText("The project has not been opened."));
@@ -148,7 +163,11 @@ bool FileActions::save()
         return saveAs();
     PendingEdit::finish();
     QString message;
-    const bool done = m_document->save(&message);
+    bool done = false;
+    {
+        const BusyCursor busy;
+        done = m_document->save(&message);
+    }
     return reportSave(done, message);
 }
 
@@ -166,7 +185,11 @@ bool FileActions::saveAs()
     if (folder.isEmpty())
         return false;
     QString message;
-    const bool done = m_document->saveAs(folder, &message);
+    bool done = false;
+    {
+        const BusyCursor busy;
+        done = m_document->saveAs(folder, &message);
+    }
     return reportSave(done, message);
 }
 

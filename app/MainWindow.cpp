@@ -22,13 +22,17 @@
 #include "app/MessageBar.h"
 #include "app/NavigationActions.h"
 #include "app/OutputActions.h"
+#include "app/ProblemIndicator.h"
 #include "app/ProblemsPanel.h"
-#include "app/ProgramFiles.h"
 #include "app/ProjectDocument.h"
+#include "app/ProjectPanels.h"
 #include "app/ProjectThumbnails.h"
 #include "app/ProjectTree.h"
+#include "app/ProjectTreePanel.h"
+#include "app/ResultPanels.h"
+#include "app/SheetActions.h"
 #include "app/ShortcutSettings.h"
-#include "app/StartPage.h"
+#include "app/StartPageSwitch.h"
 #include "app/StatusReadout.h"
 #include "app/ViewActions.h"
 #include "app/WindowPanels.h"
@@ -41,6 +45,7 @@
 #include "host/core/project/Project.h"
 #include "host/core/project/ProjectStore.h"
 #include "host/core/sheet/PropertySheet.h"
+#include "host/core/sheet/SectionFolds.h"
 #include "host/core/widgets/RecentColors.h"
 
 #include <QCloseEvent>
@@ -80,6 +85,8 @@ MainWindow::MainWindow(UserPrompts* prompts, QWidget* parent)
     , m_output(new OutputActions(m_document.get(), prompts, m_messages, this))
     , m_images(new ImageActions(prompts, m_messages, this))
     , m_navigation(new NavigationActions(m_panels, this))
+    , m_startPage(new StartPageSwitch(this, m_panels, m_file, m_navigation))
+    , m_sheetActions(new SheetActions(this))
     , m_help(new HelpActions(this, m_shortcuts, m_messages))
     , m_commands(new CommandPalette(this))
 {
@@ -93,7 +100,7 @@ MainWindow::MainWindow(UserPrompts* prompts, QWidget* parent)
     layout->setSpacing(0);
     layout->addWidget(m_messages);
     setCentralWidget(center);
-    makePanels();
+    makePanels(prompts);
     makeMenus();
     makeToolBar();
     makeStatusBar();
@@ -104,8 +111,6 @@ MainWindow::MainWindow(UserPrompts* prompts, QWidget* parent)
     connect(m_file, &FileActions::problemsFound, this, &MainWindow::showProblems);
     connect(m_file->quitAction(), &QAction::triggered, this, &QWidget::close);
     connect(m_output, &OutputActions::problemsFound, this, &MainWindow::showProblems);
-    connect(m_problems, &ProblemsPanel::objectRequested, this,
-            [this](const QString& object) { m_workspace->goTo(object); });
     connect(m_edit, &EditActions::renameRequested, this, [this] {
         WindowPanels::reveal(m_treeDock);
         m_workspace->tree()->renameCurrent();
@@ -116,13 +121,19 @@ MainWindow::MainWindow(UserPrompts* prompts, QWidget* parent)
     connect(m_zoomBox, &ZoomBox::fitRequested, m_view, &ViewActions::fit);
 
     connect(m_navigation, &NavigationActions::propertiesRequested, this, [this] { WindowPanels::reveal(m_sheetDock); });
+    connect(m_sheetActions, &SheetActions::sheetRequested, this, [this] { WindowPanels::reveal(m_sheetDock); });
 
+    connect(m_startPage, &StartPageSwitch::left, this, [this] {
+        m_fitted = false;
+        showWholeScreen();
+    });
     connect(m_file, &FileActions::startPageRequested, this, &MainWindow::showStartPage);
     connect(m_file, &FileActions::projectStored, this, &MainWindow::keepThumbnail);
     connect(m_help, &HelpActions::commandsRequested, this, &MainWindow::showCommands);
 
     m_shortcuts->load();
     RecentColors::shared().load(AppSettings());
+    SectionFolds::shared().load(AppSettings());
     resize(sizeHint());
     m_panels->arrange();
     m_document->create(ProjectDocument::untitledName(), ProjectDocument::DefaultDisplaySize);
@@ -134,42 +145,14 @@ MainWindow::~MainWindow()
     detach();
 }
 
-void MainWindow::showStartPage()
+StartPage* MainWindow::startPage() const
 {
-    if (m_startPage)
-        return;
-    m_startPage = new StartPage(m_file->recentFiles(), ProgramFiles::folder(ProgramFiles::Kind::Examples));
-    connect(m_startPage, &StartPage::leaveRequested, this, &MainWindow::leaveStartPage, Qt::QueuedConnection);
-    connect(m_startPage, &StartPage::newRequested, m_file, &FileActions::createSized, Qt::QueuedConnection);
-    connect(m_startPage, &StartPage::openRequested, m_file->openAction(), &QAction::trigger, Qt::QueuedConnection);
-    connect(m_startPage, &StartPage::projectRequested, m_file, &FileActions::openPath, Qt::QueuedConnection);
-    connect(m_startPage, &StartPage::exampleRequested, m_file, &FileActions::openExample, Qt::QueuedConnection);
-    // Whatever is done to the project shows it.
-    const EditSession* session = m_workspace->session();
-    connect(session, &EditSession::selectionChanged, m_startPage, &StartPage::leaveRequested);
-    connect(session, &EditSession::currentScreenChanged, m_startPage, &StartPage::leaveRequested);
-    connect(session->undoStack(), &QUndoStack::indexChanged, m_startPage, &StartPage::leaveRequested);
-    m_panels->setAllHidden(true);
-    m_workspace->canvasPanel()->hide();
-    m_navigation->setWorkspace(nullptr);
-    centralWidget()->layout()->addWidget(m_startPage);
-    m_startPage->show();
-    m_startPage->refresh();
+    return m_startPage->page();
 }
 
-void MainWindow::leaveStartPage()
+void MainWindow::showStartPage()
 {
-    if (!m_startPage)
-        return;
-    delete std::exchange(m_startPage, nullptr);
-    m_panels->setAllHidden(false);
-    if (!m_workspace)
-        return;
-    m_navigation->setWorkspace(m_workspace.get());
-    m_workspace->canvasPanel()->show();
-    m_workspace->canvas()->setFocus();
-    m_fitted = false;
-    showWholeScreen();
+    m_startPage->show(m_workspace.get());
 }
 
 void MainWindow::keepThumbnail()
@@ -198,6 +181,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
     m_panels->store();
     AppSettings settings;
     RecentColors::shared().save(settings);
+    SectionFolds::shared().save(settings);
     event->accept();
 }
 
@@ -219,7 +203,7 @@ void MainWindow::changeEvent(QEvent* event)
     }
 }
 
-void MainWindow::makePanels()
+void MainWindow::makePanels(UserPrompts* prompts)
 {
     m_paletteDock = m_panels->add(QStringLiteral("PaletteDock"), coreText("Elements"), Qt::LeftDockWidgetArea);
     m_treeDock = m_panels->add(QStringLiteral("TreeDock"), coreText("Project"), Qt::LeftDockWidgetArea);
@@ -230,6 +214,10 @@ void MainWindow::makePanels()
     m_problemsDock = m_panels->add(QStringLiteral("ProblemsDock"), coreText("Problems"), Qt::BottomDockWidgetArea);
     m_paletteDock->setWidget(m_palette);
     m_problemsDock->setWidget(m_problems);
+    m_projectPanels = new ProjectPanels(this, m_panels, m_problems, m_problemsDock, prompts, m_messages);
+    m_projectPanels->arrange(m_treeDock, m_imagesDock);
+    m_results = new ResultPanels(m_panels, this);
+    m_results->arrange(m_historyDock, m_problemsDock);
     m_problemsDock->hide();
 }
 
@@ -245,7 +233,12 @@ void MainWindow::makeMenus()
     m_output->addTo(file);
     file->addSeparator();
     m_file->addEndTo(file);
-    m_edit->addTo(addMenu("&Edit"));
+    QMenu* edit = addMenu("&Edit");
+    m_edit->addTo(edit);
+    edit->addSeparator();
+    m_projectPanels->addTo(edit);
+    edit->addSeparator();
+    m_sheetActions->addTo(edit);
     m_arrange->addTo(addMenu("&Arrange"), m_edit->orderActions());
 
     QMenu* view = addMenu("&View");
@@ -253,6 +246,7 @@ void MainWindow::makeMenus()
     view->addSeparator();
     m_canvas->addTo(view);
     view->addSeparator();
+    m_results->addTo(view);
     m_panels->addTo(view->addMenu(coreText("&Panels")));
     view->addSeparator();
     m_navigation->addTo(view);
@@ -290,6 +284,7 @@ void MainWindow::makeToolBar()
 void MainWindow::makeStatusBar()
 {
     statusBar()->setSizeGripEnabled(false);
+    statusBar()->addPermanentWidget(m_projectPanels->indicator());
     statusBar()->addPermanentWidget(m_readout);
     statusBar()->addPermanentWidget(m_zoomBox);
 }
@@ -299,16 +294,20 @@ void MainWindow::attach(EditSession* session)
     m_workspace = std::make_unique<Workspace>(session, m_palette);
     CanvasView* canvas = m_workspace->canvas();
     centralWidget()->layout()->addWidget(m_workspace->canvasPanel());
-    m_treeDock->setWidget(m_workspace->tree());
+    m_treeDock->setWidget(m_workspace->treePanel());
     ImagePanel* images = m_workspace->images();
     m_imagesDock->setWidget(images);
     m_historyDock->setWidget(m_workspace->history());
     // Last: the sheet's rows come and go and are appended to the order of the Tab key, where they follow its heading.
     m_sheetDock->setWidget(m_workspace->sheet());
+    m_sheetActions->setSheet(m_workspace->sheet());
     m_workspace->tree()->addActions(m_edit->treeActions());
     m_workspace->tree()->addActions(m_arrange->contextActions());
     m_edit->setSession(session);
     m_arrange->setSession(session);
+    m_projectPanels->setWorkspace(m_workspace.get());
+    m_results->setWorkspace(m_workspace.get());
+    m_output->setSession(session);
     m_images->setWorkspace(m_workspace.get());
     m_view->setCanvas(canvas);
     m_canvas->setCanvas(canvas);
@@ -338,7 +337,7 @@ void MainWindow::attach(EditSession* session)
         if (m_messages->kind() == MessageBar::Kind::Error)
             m_messages->hide();
     });
-    for (QWidget* panel : {static_cast<QWidget*>(m_workspace->tree()), static_cast<QWidget*>(images),
+    for (QWidget* panel : {static_cast<QWidget*>(m_workspace->treePanel()), static_cast<QWidget*>(images),
                            static_cast<QWidget*>(m_workspace->sheet()), static_cast<QWidget*>(m_workspace->history())})
         panel->show();
     m_zoomBox->showZoom(canvas->zoom());
@@ -353,7 +352,16 @@ void MainWindow::attach(EditSession* session)
 
 void MainWindow::readRemainingScreens()
 {
+    // One at a time: the window answers in between, however many there are.
     Project* project = m_document->project();
+    const QVector<Screen*> screens = project->screens();
+    const auto unread =
+        std::find_if(screens.cbegin(), screens.cend(), [](const Screen* screen) { return !screen->isContentRead(); });
+    if (unread != screens.cend()) {
+        (*unread)->readContent();
+        QTimer::singleShot(0, m_workspace.get(), [this] { readRemainingScreens(); });
+        return;
+    }
     const QList<Problem> problems = ProjectStore::readAllScreens(project);
     project->notifyUpdateProjectBrowser();
     addProblems(problems);
@@ -372,20 +380,25 @@ void MainWindow::showWholeScreen()
 void MainWindow::detach()
 {
     m_edit->setSession(nullptr);
+    m_projectPanels->setWorkspace(nullptr);
+    m_results->setWorkspace(nullptr);
+    m_output->setSession(nullptr);
+    m_sheetActions->setSheet(nullptr);
     m_arrange->setSession(nullptr);
     m_images->setWorkspace(nullptr);
     m_view->setCanvas(nullptr);
     m_canvas->setCanvas(nullptr);
     m_navigation->setWorkspace(nullptr);
     m_workspace.reset();
-    leaveStartPage();
+    m_startPage->leave();
 }
 
 void MainWindow::showProblems(const QList<Problem>& problems, const QString& consequence)
 {
     m_problems->setProblems(problems);
     if (problems.isEmpty()) {
-        m_problemsDock->hide();
+        if (m_problems->problems().isEmpty())
+            m_problemsDock->hide();
         return;
     }
     const bool hasError = std::any_of(problems.cbegin(), problems.cend(), [](const Problem& problem) {

@@ -21,9 +21,13 @@ class MessageBar;
 class NavigationActions;
 class OutputActions;
 class ProblemsPanel;
+class ProjectPanels;
 class ProjectDocument;
 class ShortcutSettings;
 class StartPage;
+class StartPageSwitch;
+class SheetActions;
+class ResultPanels;
 class StatusReadout;
 class UserPrompts;
 class ViewActions;
@@ -55,16 +59,19 @@ public:
     [[nodiscard]] Workspace* workspace() const { return m_workspace.get(); }
     [[nodiscard]] ElementPalette* palettePanel() const { return m_palette; }
     [[nodiscard]] ProblemsPanel* problemsPanel() const { return m_problems; }
+    [[nodiscard]] ProjectPanels* projectPanels() const { return m_projectPanels; }
     [[nodiscard]] MessageBar* messageBar() const { return m_messages; }
     [[nodiscard]] StatusReadout* statusReadout() const { return m_readout; }
     /// Null while it is not shown.
-    [[nodiscard]] StartPage* startPage() const { return m_startPage; }
+    [[nodiscard]] StartPage* startPage() const;
     [[nodiscard]] CommandPalette* commandPalette() const { return m_commands; }
     [[nodiscard]] ShortcutSettings* shortcutSettings() const { return m_shortcuts; }
     [[nodiscard]] FileActions* fileActions() const { return m_file; }
     [[nodiscard]] EditActions* editActions() const { return m_edit; }
     [[nodiscard]] ArrangeActions* arrangeActions() const { return m_arrange; }
     [[nodiscard]] ImageActions* imageActions() const { return m_images; }
+    [[nodiscard]] OutputActions* outputActions() const { return m_output; }
+    [[nodiscard]] ResultPanels* results() const { return m_results; }
 
     [[nodiscard]] QSize sizeHint() const override;
 
@@ -74,7 +81,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void makePanels();
+    void makePanels(UserPrompts* prompts);
     void makeMenus();
     void makeToolBar();
     void makeStatusBar();
@@ -84,7 +91,6 @@ private:
     void readRemainingScreens();
     void showProblems(const QList<Problem>& problems, const QString& consequence = {});
     void showCommands();
-    void leaveStartPage();
     void keepThumbnail();
     void updateTitle();
 
@@ -103,17 +109,20 @@ private:
     ViewActions* m_view;
     CanvasActions* m_canvas;
     OutputActions* m_output;
+    ResultPanels* m_results;
     ImageActions* m_images;
     NavigationActions* m_navigation;
+    StartPageSwitch* m_startPage;
+    SheetActions* m_sheetActions;
     HelpActions* m_help;
     CommandPalette* m_commands;
-    StartPage* m_startPage = nullptr;
     QDockWidget* m_paletteDock;
     QDockWidget* m_treeDock;
     QDockWidget* m_imagesDock;
     QDockWidget* m_sheetDock;
     QDockWidget* m_historyDock;
     QDockWidget* m_problemsDock;
+    ProjectPanels* m_projectPanels = nullptr;
     bool m_fitted = false; // the screen of the open project has been fitted into the window
 };
 

@@ -22,7 +22,7 @@ namespace Korvex::Meridane::Designer {
 
 namespace {
 
-constexpr QSize PanelPicture(112, 54);
+constexpr QSize PanelPicture(108, 54);
 constexpr QSize ProjectPicture(176, 110);
 constexpr int PageWidth = 880; // pixels, at most
 

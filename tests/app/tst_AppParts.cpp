@@ -9,16 +9,21 @@
 #include "app/ViewActions.h"
 #include "app/ZoomBox.h"
 
+#include "host/core/widgets/IconTint.h"
+
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
 #include <QDirIterator>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
+#include <QPainter>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QStandardPaths>
 #include <QToolButton>
+#include <QToolTip>
 #include <QtTest>
 
 using namespace Korvex::Meridane::Designer;
@@ -219,6 +224,51 @@ private Q_SLOTS:
             QVERIFY2(drawn > 40, qPrintable(file.baseName()));
         }
         QVERIFY(count > 20);
+    }
+
+    void tintingKeepsTheShapeAndTheScale()
+    {
+        QPixmap drawing(8, 8);
+        drawing.setDevicePixelRatio(2);
+        drawing.fill(Qt::transparent);
+        {
+            QPainter painter(&drawing);
+            painter.fillRect(QRectF(0, 0, 2, 4), QColor(255, 0, 0, 128));
+        }
+        const QPixmap tinted = IconTint::tinted(drawing, QColor(0, 0, 255));
+        QCOMPARE(tinted.devicePixelRatio(), 2.);
+        const QImage image = tinted.toImage();
+        QCOMPARE(image.pixelColor(1, 7), QColor(0, 0, 255, 128));
+        QCOMPARE(image.pixelColor(5, 1).alpha(), 0);
+        QVERIFY(IconTint::tinted(QPixmap(), Qt::red).isNull());
+    }
+
+    void menuTextsAreReadWithoutTheirMarks()
+    {
+        QCOMPARE(MenuText::plain(QStringLiteral("Save &As…")), QStringLiteral("Save As"));
+        QCOMPARE(MenuText::plain(QStringLiteral("Cut && &Saw")), QStringLiteral("Cut & Saw"));
+        QCOMPARE(MenuText::plain(QStringLiteral("Fish &")), QStringLiteral("Fish &"));
+    }
+
+    void aLetterIsMarkedOnceInAMenu()
+    {
+        QMenu menu;
+        menu.addAction(QStringLiteral("&Copy"));
+        menu.addAction(QStringLiteral("&Cut && Go"));
+        menu.addMenu(QStringLiteral("C&ut"))->addAction(QStringLiteral("&Copy"));
+        MenuText::makeMnemonicsUnique(&menu);
+        QCOMPARE(menu.actions().at(0)->text(), QStringLiteral("&Copy"));
+        QCOMPARE(menu.actions().at(1)->text(), QStringLiteral("Cut && Go"));
+        QCOMPARE(menu.actions().at(2)->menu()->actions().first()->text(), QStringLiteral("&Copy"));
+    }
+
+    void toolTipsFollowTheDesktopsColours()
+    {
+        Appearance::apply(Appearance::Scheme::Desktop);
+        QApplication::setPalette(Appearance::darkPalette()); // as a desktop does that turns dark
+        Appearance::follow();
+        QCOMPARE(QToolTip::palette().color(QPalette::ToolTipBase),
+                 Appearance::darkPalette().color(QPalette::ToolTipBase));
     }
 
     void aNewProjectStartsFromAPresetOrAnySize()

@@ -3,6 +3,7 @@
 #include "app/RecentFiles.h"
 #include "tests/app/TestWindow.h"
 
+#include "host/core/canvas/CanvasView.h"
 #include "host/core/objects/Screen.h"
 #include "host/core/plugins/DesignerFactory.h"
 #include "host/core/project/Project.h"
@@ -49,11 +50,19 @@ private Q_SLOTS:
     {
         QFETCH(int, key);
         QFETCH(int, modifiers);
-        m_test->window->setFocus();
-        QTest::keyClick(m_test->window.get(), Qt::Key(key), Qt::KeyboardModifiers(modifiers));
-        QVERIFY(palette()->isVisible());
-        QVERIFY(palette()->field()->hasFocus());
-        QVERIFY(palette()->found().size() > 20);
+        m_test->action("view.editProperties")->trigger();
+        QLineEdit field(m_test->window.get());
+        field.show();
+        QWidget* starts[] = {m_test->window->findChild<QWidget*>(QStringLiteral("ProjectTree")), &field,
+                             m_test->window->workspace()->canvas(), QApplication::focusWidget()};
+        for (QWidget* start : starts) {
+            start->setFocus();
+            QTest::keyClick(start, Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+            QVERIFY2(palette()->isVisible(), start->metaObject()->className());
+            QVERIFY(palette()->field()->hasFocus());
+            QVERIFY(palette()->found().size() > 20);
+            palette()->dismiss();
+        }
     }
 
     void enterDoesWhatWasFound()
