@@ -2,10 +2,13 @@
 
 #include "app/CoreText.h"
 #include "app/NewProjectDialog.h"
+#include "app/PictureDialog.h"
+#include "app/ScreenSizeDialog.h"
 
 #include "host/core/project/ImageFormats.h"
 
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 
 namespace Korvex::Meridane::Designer {
@@ -62,6 +65,41 @@ QString DialogPrompts::chooseReplacement(const QString& name, const QString& sta
 {
     return QFileDialog::getOpenFileName(m_window, coreText("Replace \"%1\"").arg(name), startFolder,
                                         ImageFormats::fileFilter());
+}
+
+QStringList DialogPrompts::chooseFonts(const QString& startFolder)
+{
+    return QFileDialog::getOpenFileNames(m_window, coreText("Import Fonts"), startFolder,
+                                         coreText("Fonts (*.ttf *.otf *.ttc)"));
+}
+
+std::optional<PictureChoice> DialogPrompts::askPicture(const QSizeF& size, const PictureChoice& proposal)
+{
+    PictureDialog dialog(size, proposal, m_window);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.choice();
+}
+
+QString DialogPrompts::choosePictureFile(const QString& proposal)
+{
+    const QFileInfo proposed(proposal);
+    const bool isDrawing = proposed.suffix() == QLatin1String("svg");
+    QFileDialog dialog(m_window, coreText("Export Picture"), proposed.absolutePath(),
+                       isDrawing ? coreText("SVG drawings (*.svg)") : coreText("PNG pictures (*.png)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    // With it a name without an ending is asked for as the file that would be written.
+    dialog.setDefaultSuffix(proposed.suffix());
+    dialog.selectFile(proposed.fileName());
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+std::optional<ScreenSize> DialogPrompts::askScreenSize(const QString& name, const ScreenSize& proposal)
+{
+    ScreenSizeDialog dialog(name, proposal, m_window);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.screenSize();
 }
 
 } // namespace Korvex::Meridane::Designer

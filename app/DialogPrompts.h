@@ -21,6 +21,10 @@ public:
     QString chooseExportFolder(const QString& startFolder) override;
     QStringList chooseImages(const QString& startFolder) override;
     QString chooseReplacement(const QString& name, const QString& startFolder) override;
+    QStringList chooseFonts(const QString& startFolder) override;
+    std::optional<PictureChoice> askPicture(const QSizeF& size, const PictureChoice& proposal) override;
+    QString choosePictureFile(const QString& proposal) override;
+    std::optional<ScreenSize> askScreenSize(const QString& name, const ScreenSize& proposal) override;
 
 private:
     QPointer<QWidget> m_window;

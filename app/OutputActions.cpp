@@ -2,8 +2,10 @@
 
 #include "app/AppSettings.h"
 #include "app/CoreText.h"
+#include "app/LongWork.h"
 #include "app/MessageBar.h"
 #include "app/PendingEdit.h"
+#include "app/PictureExport.h"
 #include "app/PreviewRunner.h"
 #include "app/ProjectDocument.h"
 #include "app/UserPrompts.h"
@@ -33,6 +35,7 @@ OutputActions::OutputActions(ProjectDocument* document, UserPrompts* prompts, Me
     , m_prompts(prompts)
     , m_messages(messages)
     , m_runner(new PreviewRunner({}, this))
+    , m_picture(new PictureExport(prompts, messages, this))
     , m_export(new WindowAction(QStringLiteral("export"), coreText("&Export QML…"),
                                 {QKeySequence(Qt::CTRL | Qt::Key_E)}, this))
     , m_preview(new WindowAction(QStringLiteral("preview"), coreText("Pre&view"), {QKeySequence(Qt::Key_F5)}, this))
@@ -51,8 +54,14 @@ OutputActions::OutputActions(ProjectDocument* document, UserPrompts* prompts, Me
 void OutputActions::addTo(QMenu* menu)
 {
     menu->addAction(m_export);
+    m_picture->addTo(menu);
     menu->addAction(m_preview);
     menu->addAction(m_check);
+}
+
+void OutputActions::setSession(EditSession* session)
+{
+    m_picture->setSession(session);
 }
 
 void OutputActions::exportQml()
@@ -67,7 +76,11 @@ void OutputActions::exportQml()
     if (folder.isEmpty())
         return;
     AppSettings().setValue(ExportFolderKey, folder);
-    const QList<Problem> problems = QmlExporter::exportProject(m_document->project(), folder);
+    LongWork work(coreText("Exporting the QML…"));
+    const QList<Problem> problems = QmlExporter::exportProject(
+        m_document->project(), folder, [&work](int done, int total) { return work.step(done, total); });
+    if (work.isEnded())
+        return;
     if (problems.isEmpty()) {
         m_messages->showMessage(coreText("The QML has been exported to \"%1\".").arg(QDir::toNativeSeparators(folder)),
                                 MessageBar::Kind::Information);

@@ -9,7 +9,9 @@ class QMenu;
 
 namespace Korvex::Meridane::Designer {
 
+class EditSession;
 class MessageBar;
+class PictureExport;
 class PreviewRunner;
 class ProjectDocument;
 class UserPrompts;
@@ -24,8 +26,11 @@ public:
     OutputActions(ProjectDocument* document, UserPrompts* prompts, MessageBar* messages, QObject* parent = nullptr);
 
     void addTo(QMenu* menu);
+    /// The session of the open project; null: none.
+    void setSession(EditSession* session);
 
     [[nodiscard]] QAction* exportAction() const { return m_export; }
+    [[nodiscard]] PictureExport* pictureExport() const { return m_picture; }
     [[nodiscard]] QAction* previewAction() const { return m_preview; }
     [[nodiscard]] QAction* checkAction() const { return m_check; }
 
@@ -43,6 +48,7 @@ private:
     UserPrompts* m_prompts;
     MessageBar* m_messages;
     PreviewRunner* m_runner;
+    PictureExport* m_picture;
     QAction* m_export;
     QAction* m_preview;
     QAction* m_check;

@@ -14,16 +14,6 @@ namespace Korvex::Meridane::Designer {
 
 namespace {
 
-QString installedViewer()
-{
-#ifdef Q_OS_WIN
-    const QString name = QStringLiteral("meridane-viewer.exe");
-#else
-    const QString name = QStringLiteral("meridane-viewer");
-#endif
-    return QDir(QCoreApplication::applicationDirPath()).filePath(name);
-}
-
 constexpr int EndPatience = 2000; // ms that a viewer gets to close its window
 
 } // namespace
@@ -68,6 +58,16 @@ bool PreviewRunner::start(Project* project, const QString& screenId, QList<Probl
     arguments << QStringLiteral("--title") << project->name();
     m_process->start(m_program, arguments);
     return true;
+}
+
+QString PreviewRunner::installedViewer()
+{
+#ifdef Q_OS_WIN
+    const QString name = QStringLiteral("meridane-viewer.exe");
+#else
+    const QString name = QStringLiteral("meridane-viewer");
+#endif
+    return QDir(QCoreApplication::applicationDirPath()).filePath(name);
 }
 
 bool PreviewRunner::isRunning() const

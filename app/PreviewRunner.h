@@ -33,6 +33,9 @@ public:
     bool start(Project* project, const QString& screenId, QList<Problem>* problems);
     [[nodiscard]] bool isRunning() const;
 
+    /// The path of the viewer that lies beside this program.
+    [[nodiscard]] static QString installedViewer();
+
 Q_SIGNALS:
     void started();
     /// The viewer could not be started, or ended with an error; \a message is for the user.

@@ -15,6 +15,21 @@ struct NewProject
     QSizeF displaySize; ///< pixels
 };
 
+/// A screen's new size, and whether what is on the screen follows it.
+struct ScreenSize
+{
+    QSizeF size; ///< pixels
+    bool scales = false;
+};
+
+/// How a screen, or what is selected on it, becomes a picture.
+struct PictureChoice
+{
+    bool isDrawing = false; ///< SVG; else PNG
+    double scale = 1; ///< picture pixels for one of the display
+    bool ground = true; ///< with the screen's colour; else transparent
+};
+
 /// The questions that stop the user. The window asks through this interface, so that tests can answer.
 class UserPrompts
 {
@@ -43,6 +58,14 @@ public:
     virtual QStringList chooseImages(const QString& startFolder) = 0;
     /// The file to be shown in the place of the image \a name.
     virtual QString chooseReplacement(const QString& name, const QString& startFolder) = 0;
+    /// Font files to import; none when the user cancels.
+    virtual QStringList chooseFonts(const QString& startFolder) = 0;
+    /// How the picture of \a size (pixels of the display) is to be, starting from \a proposal; none when the user cancels.
+    virtual std::optional<PictureChoice> askPicture(const QSizeF& size, const PictureChoice& proposal) = 0;
+    /// The file for a picture, starting from \a proposal; one that exists only when the user has agreed to replace it.
+    virtual QString choosePictureFile(const QString& proposal) = 0;
+    /// The new size of the screen \a name, starting from \a proposal; none when the user cancels.
+    virtual std::optional<ScreenSize> askScreenSize(const QString& name, const ScreenSize& proposal) = 0;
 };
 
 } // namespace Korvex::Meridane::Designer

@@ -53,6 +53,31 @@ public:
         return replacement;
     }
 
+    QStringList chooseFonts(const QString&) override
+    {
+        asked << QStringLiteral("fonts");
+        return fonts;
+    }
+
+    std::optional<PictureChoice> askPicture(const QSizeF& size, const PictureChoice&) override
+    {
+        asked << QStringLiteral("picture of %1 x %2").arg(size.width()).arg(size.height());
+        return pictureChoice;
+    }
+
+    QString choosePictureFile(const QString& proposal) override
+    {
+        asked << QStringLiteral("picture file");
+        proposedPicture = proposal;
+        return pictureFile;
+    }
+
+    std::optional<ScreenSize> askScreenSize(const QString& name, const ScreenSize&) override
+    {
+        asked << QStringLiteral("size of ") + name;
+        return screenSize;
+    }
+
     SaveAnswer saveAnswer = SaveAnswer::Cancel;
     std::optional<NewProject> newProject;
     QString project;
@@ -61,6 +86,11 @@ public:
     QString proposedFolder;
     QStringList images;
     QString replacement;
+    QStringList fonts;
+    std::optional<ScreenSize> screenSize;
+    std::optional<PictureChoice> pictureChoice;
+    QString pictureFile;
+    QString proposedPicture;
     QStringList asked;
 };
 

@@ -1,11 +1,10 @@
 #pragma once
 
 #include "host/core/CoreExport.h"
+#include "host/core/output/WorkProgress.h"
 
 #include <QImage>
 #include <QList>
-
-#include <functional>
 
 class QGraphicsItem;
 class QPainter;
@@ -15,9 +14,6 @@ namespace Korvex::Meridane::Designer {
 
 class CanvasScene;
 class DesignerObject;
-
-/// Hears how far a long work has come, \a done of \a total steps; false ends it there.
-using WorkProgress = std::function<bool(int done, int total)>;
 
 /// What a picture of a screen shows.
 struct RenderOptions

@@ -28,14 +28,19 @@ QString importText()
 
 } // namespace
 
-ExportContent::ExportContent(Project* project)
+ExportContent::ExportContent(Project* project, const WorkProgress& progress)
     : m_project(project)
     , m_projectFiles(ProjectFiles::of(project))
 {
     m_projectFiles->fonts().setFiles(m_projectFiles->folder(), project->fontResources());
     addMain();
-    for (const Screen* screen : project->screens())
-        addScreen(screen);
+    const QVector<Screen*> screens = project->screens();
+    for (qsizetype i = 0; i < screens.size(); ++i) {
+        m_ended = progress && !progress(int(i), int(screens.size()));
+        if (m_ended)
+            return;
+        addScreen(screens.at(i));
+    }
 }
 
 const QStringList& ExportContent::importLines()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/core/CoreExport.h"
+#include "host/core/output/WorkProgress.h"
 #include "host/core/project/Problem.h"
 
 #include <QByteArray>
@@ -18,7 +19,10 @@ class Screen;
 class MERIDANE_CORE_EXPORT ExportContent
 {
 public:
-    explicit ExportContent(Project* project);
+    explicit ExportContent(Project* project, const WorkProgress& progress = {});
+
+    /// Whether the progress has ended it; there is nothing to be written then.
+    [[nodiscard]] bool isEnded() const { return m_ended; }
 
     /// By path relative to the export's folder; of use only when there are no problems.
     [[nodiscard]] const QMap<QString, QByteArray>& files() const { return m_files; }
@@ -38,6 +42,7 @@ private:
     ProjectFiles* m_projectFiles;
     QMap<QString, QByteArray> m_files;
     QList<Problem> m_problems;
+    bool m_ended = false;
 };
 
 } // namespace Korvex::Meridane::Designer

@@ -11,7 +11,7 @@
 
 namespace Korvex::Meridane::Designer {
 
-QList<Problem> QmlExporter::exportProject(Project* project, const QString& folder)
+QList<Problem> QmlExporter::exportProject(Project* project, const QString& folder, const WorkProgress& progress)
 {
     const QString target = QFileInfo(folder).absoluteFilePath();
     if (ProjectStore::isProjectFolder(project, target)) {
@@ -19,7 +19,9 @@ QList<Problem> QmlExporter::exportProject(Project* project, const QString& folde
                                Common::LocalizationHelper::coreString(QStringLiteral(
                                    "This folder belongs to the project itself. Export into another one.")))};
     }
-    const ExportContent content(project);
+    const ExportContent content(project, progress);
+    if (content.isEnded())
+        return {};
     if (!content.problems().isEmpty())
         return content.problems();
     QString message;

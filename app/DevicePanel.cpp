@@ -1,0 +1,218 @@
+#include "app/DevicePanel.h"
+
+#include "app/AppSettings.h"
+#include "app/CoreText.h"
+#include "app/DevicePicture.h"
+#include "app/ScreenChanges.h"
+
+#include "host/core/canvas/EditSession.h"
+#include "host/core/canvas/ScreenRenderer.h"
+#include "host/core/objects/Screen.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QScreen>
+#include <QScrollArea>
+#include <QTransform>
+#include <QVBoxLayout>
+
+namespace Korvex::Meridane::Designer {
+
+namespace {
+
+const QString FormatKey = QStringLiteral("panel/format");
+const QString RotationKey = QStringLiteral("panel/rotation");
+const QString PhysicalKey = QStringLiteral("panel/physicalSize");
+const QString DensityKey = QStringLiteral("panel/density");
+const QString CorrectionKey = QStringLiteral("panel/screenCorrection");
+
+constexpr double UnknownDensity = 20; // below any panel's; the field shows a text for it
+constexpr double LargestDensity = 1000;
+
+struct FormatChoice
+{
+    PanelFormat format;
+    const char* name; // in the settings
+    const char* text;
+};
+constexpr FormatChoice Formats[] = {
+    {PanelFormat::Full, "full", "All colors"},
+    {PanelFormat::Rgb565, "rgb565", "RGB565"},
+    {PanelFormat::Rgb565Dithered, "rgb565-dithered", "RGB565, dithered"},
+    {PanelFormat::Rgb332, "rgb332", "RGB332"},
+    {PanelFormat::Grey, "grey", "Gray"},
+};
+
+} // namespace
+
+DevicePanel::DevicePanel(EditSession* session, CanvasView* canvas, QWidget* parent)
+    : QWidget(parent)
+    , m_session(session)
+    , m_changes(new ScreenChanges(session, canvas, this))
+    , m_picture(new DevicePicture)
+    , m_pace(this, [this] { refresh(); })
+{
+    auto* area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setAlignment(Qt::AlignCenter);
+    area->setWidget(m_picture);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(makeChoices());
+    layout->addWidget(makeDensities());
+    layout->addWidget(area, 1);
+    readSettings();
+    connect(m_changes, &ScreenChanges::changed, this, [this] { m_pace.request(); });
+}
+
+QWidget* DevicePanel::makeChoices()
+{
+    m_format = new QComboBox;
+    for (const FormatChoice& choice : Formats)
+        m_format->addItem(coreText(choice.text), QLatin1String(choice.name));
+    m_format->setAccessibleName(coreText("Colors of the panel"));
+    m_format->setToolTip(m_format->accessibleName());
+    m_rotation = new QComboBox;
+    for (const int degrees : {0, 90, 180, 270})
+        m_rotation->addItem(coreText("%1°").arg(degrees), degrees);
+    m_rotation->setAccessibleName(coreText("How the panel is turned"));
+    m_rotation->setToolTip(m_rotation->accessibleName());
+    m_physical = new QCheckBox(coreText("Physical size"));
+    connect(m_format, &QComboBox::activated, this, &DevicePanel::takeChoices);
+    connect(m_rotation, &QComboBox::activated, this, &DevicePanel::takeChoices);
+    connect(m_physical, &QCheckBox::toggled, this, [this](bool physical) {
+        takeChoices();
+        // Without the density there is no size; it is asked for once.
+        if (physical && m_panelDensity->value() == UnknownDensity) {
+            m_panelDensity->setFocus();
+            m_panelDensity->selectAll();
+        }
+    });
+    auto* choices = new QWidget;
+    auto* row = new QHBoxLayout(choices);
+    row->setContentsMargins(4, 2, 4, 2);
+    row->setSpacing(4);
+    row->addWidget(m_format, 1);
+    row->addWidget(m_rotation);
+    row->addWidget(m_physical);
+    return choices;
+}
+
+QWidget* DevicePanel::makeDensities()
+{
+    m_panelDensity = new QDoubleSpinBox;
+    m_panelDensity->setRange(UnknownDensity, LargestDensity);
+    m_panelDensity->setDecimals(1);
+    m_panelDensity->setSuffix(coreText(" dpi"));
+    m_panelDensity->setSpecialValueText(coreText("not known"));
+    m_panelDensity->setKeyboardTracking(false);
+    m_correction = new QDoubleSpinBox;
+    m_correction->setRange(25, 400);
+    m_correction->setDecimals(1);
+    m_correction->setSuffix(coreText(" %"));
+    m_correction->setValue(100);
+    m_correction->setKeyboardTracking(false);
+    m_correction->setToolTip(coreText("Larger where the picture is smaller than the panel: screens often do not know "
+                                      "their own density."));
+    connect(m_panelDensity, &QDoubleSpinBox::valueChanged, this, &DevicePanel::takeChoices);
+    connect(m_correction, &QDoubleSpinBox::valueChanged, this, &DevicePanel::takeChoices);
+    m_densities = new QWidget;
+    auto* form = new QFormLayout(m_densities);
+    form->setContentsMargins(8, 2, 4, 4);
+    form->addRow(coreText("Density of the panel:"), m_panelDensity);
+    form->addRow(coreText("Correction of this screen:"), m_correction);
+    return m_densities;
+}
+
+void DevicePanel::readSettings()
+{
+    const AppSettings settings;
+    const QSignalBlocker physicalBlocked(m_physical);
+    const QSignalBlocker densityBlocked(m_panelDensity);
+    const QSignalBlocker correctionBlocked(m_correction);
+    m_format->setCurrentIndex(
+        std::max(m_format->findData(settings.value(FormatKey, QStringLiteral("rgb565")).toString()), 0));
+    m_rotation->setCurrentIndex(std::max(m_rotation->findData(settings.value(RotationKey, 0).toInt()), 0));
+    m_physical->setChecked(settings.value(PhysicalKey, false).toBool());
+    m_panelDensity->setValue(settings.value(DensityKey, UnknownDensity).toDouble());
+    m_correction->setValue(settings.value(CorrectionKey, 100.0).toDouble());
+    m_densities->setVisible(m_physical->isChecked());
+}
+
+void DevicePanel::takeChoices()
+{
+    AppSettings settings;
+    settings.setValue(FormatKey, m_format->currentData());
+    settings.setValue(RotationKey, m_rotation->currentData());
+    settings.setValue(PhysicalKey, m_physical->isChecked());
+    if (m_panelDensity->value() > UnknownDensity)
+        settings.setValue(DensityKey, m_panelDensity->value());
+    settings.setValue(CorrectionKey, m_correction->value());
+    m_densities->setVisible(m_physical->isChecked());
+    m_pace.request();
+}
+
+void DevicePanel::setFormat(PanelFormat format)
+{
+    for (int i = 0; i < m_format->count(); ++i) {
+        if (Formats[i].format == format)
+            m_format->setCurrentIndex(i);
+    }
+    takeChoices();
+}
+
+void DevicePanel::setRotation(int degrees)
+{
+    if (const int index = m_rotation->findData(degrees); index >= 0)
+        m_rotation->setCurrentIndex(index);
+    takeChoices();
+}
+
+void DevicePanel::setPhysicalSize(bool physical)
+{
+    m_physical->setChecked(physical);
+}
+
+void DevicePanel::setPanelDensity(double density)
+{
+    m_panelDensity->setValue(density);
+}
+
+double DevicePanel::physicalScale(double panelDensity, double screenDensity, double correction)
+{
+    return panelDensity > 0 ? screenDensity * correction / panelDensity : 0;
+}
+
+void DevicePanel::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    m_changes->setActive(true);
+}
+
+void DevicePanel::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    m_changes->setActive(false);
+    m_pace.cancel();
+}
+
+void DevicePanel::refresh()
+{
+    if (!m_changes->isActive())
+        return;
+    m_changes->forget();
+    Screen* current = m_session->currentScreen();
+    const QImage rendered = current ? ScreenRenderer::render(m_session->scene(current)) : QImage();
+    const QImage shown = PanelColors::shown(rendered, Formats[std::max(m_format->currentIndex(), 0)].format);
+    const bool isPhysical = m_physical->isChecked() && m_panelDensity->value() > UnknownDensity;
+    m_picture->setScale(isPhysical ? physicalScale(m_panelDensity->value(), screen()->physicalDotsPerInch(),
+                                                   m_correction->value() / 100)
+                                   : 0);
+    m_picture->setPicture(shown.transformed(QTransform().rotate(m_rotation->currentData().toInt())));
+}
+
+} // namespace Korvex::Meridane::Designer

@@ -1,0 +1,85 @@
+#include "app/ResultPanels.h"
+
+#include "app/CoreText.h"
+#include "app/DevicePanel.h"
+#include "app/LivePreviewPanel.h"
+#include "app/QmlPanel.h"
+#include "app/WindowAction.h"
+#include "app/WindowPanels.h"
+#include "app/Workspace.h"
+
+#include "host/core/objects/DesignerObject.h"
+
+#include <QDockWidget>
+#include <QMainWindow>
+#include <QMenu>
+
+namespace Korvex::Meridane::Designer {
+
+ResultPanels::ResultPanels(WindowPanels* panels, QObject* parent)
+    : QObject(parent)
+    , m_qmlDock(panels->add(QStringLiteral("QmlDock"), coreText("QML"), Qt::BottomDockWidgetArea))
+    , m_previewDock(panels->add(QStringLiteral("PreviewDock"), coreText("Live Preview"), Qt::RightDockWidgetArea))
+    , m_deviceDock(panels->add(QStringLiteral("DeviceDock"), coreText("As on the Panel"), Qt::RightDockWidgetArea))
+{
+    m_actions = {
+        makeAction("view.showLivePreview", "preview-live", "&Live Preview", QKeySequence(Qt::SHIFT | Qt::Key_F5),
+                   m_previewDock),
+        makeAction("view.showAsOnPanel", "panel", "As on the Pan&el", QKeySequence(Qt::CTRL | Qt::Key_F5),
+                   m_deviceDock),
+        makeAction("view.showQml", "qml", "&QML", QKeySequence(Qt::CTRL | Qt::Key_U), m_qmlDock),
+    };
+}
+
+QAction* ResultPanels::makeAction(const char* name, const char* icon, const char* text, const QKeySequence& shortcut,
+                                  QDockWidget* dock)
+{
+    auto* action = new WindowAction(QLatin1String(icon), coreText(text), {shortcut}, this);
+    action->setObjectName(QLatin1String(name));
+    action->setCheckable(true);
+    connect(action, &QAction::triggered, dock, [dock](bool checked) {
+        if (checked)
+            WindowPanels::reveal(dock);
+        else
+            dock->hide();
+    });
+    // A panel behind another tab is open as well, so that its visibility is not what counts.
+    connect(dock->toggleViewAction(), &QAction::toggled, action, &QAction::setChecked);
+    return action;
+}
+
+void ResultPanels::arrange(QDockWidget* side, QDockWidget* below)
+{
+    auto* window = qobject_cast<QMainWindow*>(side->parentWidget());
+    if (!window)
+        return;
+    window->tabifyDockWidget(side, m_previewDock);
+    window->tabifyDockWidget(m_previewDock, m_deviceDock);
+    window->tabifyDockWidget(below, m_qmlDock);
+    for (QDockWidget* dock : {m_qmlDock, m_previewDock, m_deviceDock})
+        dock->hide();
+}
+
+void ResultPanels::addTo(QMenu* menu)
+{
+    menu->addActions(m_actions);
+}
+
+void ResultPanels::setWorkspace(Workspace* workspace)
+{
+    delete std::exchange(m_qml, nullptr);
+    delete std::exchange(m_preview, nullptr);
+    delete std::exchange(m_device, nullptr);
+    if (!workspace)
+        return;
+    m_qml = new QmlPanel(workspace->session(), workspace->canvas());
+    m_preview = new LivePreviewPanel(workspace->session(), workspace->canvas());
+    m_device = new DevicePanel(workspace->session(), workspace->canvas());
+    m_qmlDock->setWidget(m_qml);
+    m_previewDock->setWidget(m_preview);
+    m_deviceDock->setWidget(m_device);
+    connect(m_qml, &QmlPanel::objectChosen, workspace,
+            [workspace](DesignerObject* object) { workspace->show({object}); });
+}
+
+} // namespace Korvex::Meridane::Designer
