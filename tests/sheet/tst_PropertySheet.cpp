@@ -1,4 +1,5 @@
 #include "host/core/commands/ChangeProperty.h"
+#include "host/core/editors/ColorEditor.h"
 #include "host/core/editors/IntegerEditor.h"
 #include "host/core/editors/KeepRatioEditor.h"
 #include "host/core/editors/PointEditor.h"
@@ -8,7 +9,13 @@
 #include "host/core/sheet/SectionHeader.h"
 #include "host/core/sheet/SheetColors.h"
 #include "host/core/sheet/SheetSections.h"
+#include "host/core/widgets/ColorPopup.h"
+#include "host/core/widgets/ColorSwatch.h"
+#include "host/core/widgets/ColorWidget.h"
+#include "host/core/widgets/HexColorField.h"
+#include "host/core/widgets/HueSaturationField.h"
 #include "host/core/widgets/LockToggle.h"
+#include "host/core/widgets/NumberSlider.h"
 #include "host/core/widgets/NumberWidget.h"
 #include "host/core/widgets/SizeWidget.h"
 #include "host/core/widgets/SpinBox.h"
@@ -62,17 +69,35 @@ private Q_SLOTS:
 
     void nothingIsCutOffInANarrowSheet_data()
     {
+        QTest::addColumn<int>("width");
         QTest::addColumn<int>("height");
-        QTest::newRow("whole") << 1200;
-        QTest::newRow("with a scroll bar") << 300;
+        QTest::newRow("whole") << 280 << 1200;
+        QTest::newRow("with a scroll bar") << 280 << 300;
+        QTest::newRow("narrow") << 240 << 1200;
     }
 
     void nothingIsCutOffInANarrowSheet()
     {
+        QFETCH(int, width);
         QFETCH(int, height);
-        m_fixture->sheet->resize(280, height);
+        PropertySheet* sheet = m_fixture->sheet.get();
+        sheet->resize(width, height);
         QCoreApplication::processEvents();
-        QTRY_COMPARE(m_fixture->sheet->widget()->width(), m_fixture->sheet->viewport()->width());
+        QTRY_COMPARE(sheet->widget()->width(), sheet->viewport()->width());
+        // All that one can see stands within the sheet, and no two parts of an editor cover each other.
+        const QRect inside = sheet->widget()->rect();
+        for (const auto& property : m_element->properties()) {
+            const PropertyEditor* editor = sheet->editor(property->id());
+            if (!editor)
+                continue;
+            for (const QWidget* part : editor->findChildren<QWidget*>()) {
+                if (!part->isVisible() || part->isWindow())
+                    continue;
+                const QRect place(part->mapTo(sheet->widget(), QPoint()), part->size());
+                QVERIFY2(inside.contains(place), qPrintable(property->id() + QLatin1Char(' ')
+                                                            + QString::fromLatin1(part->metaObject()->className())));
+            }
+        }
     }
 
     void aPropertyThatMayNotBeEditedIsShownDisabled()
@@ -166,6 +191,79 @@ private Q_SLOTS:
         QTest::keyClick(radius->numberWidget()->spinBox(), Qt::Key_Escape);
         QCOMPARE(m_fixture->message("cornerRadius"), QString());
         QCOMPARE(radius->numberWidget()->spinBox()->text(), QStringLiteral("0 px"));
+    }
+
+    void aTextThatCannotBeReadStaysWithItsReason()
+    {
+        SpinBox* field = m_fixture->editor<IntegerEditor>("number")->numberWidget()->spinBox();
+        SheetFixture::enter(field, "7/0");
+        QVERIFY(!m_fixture->message("number").isEmpty());
+        QCOMPARE(field->text(), QStringLiteral("7/0 px"));
+        m_fixture->idField()->setFocus();
+        QVERIFY(!m_fixture->message("number").isEmpty());
+        QCOMPARE(field->text(), QStringLiteral("7/0 px"));
+        QCOMPARE(m_element->value("number"), QStringLiteral("1"));
+        field->setFocus();
+        QTest::keyClick(field, Qt::Key_Escape);
+        QCOMPARE(m_fixture->message("number"), QString());
+        QCOMPARE(field->text(), QStringLiteral("1 px"));
+        SheetFixture::enter(field, "(3");
+        SheetFixture::enter(field, "1");
+        QCOMPARE(m_fixture->message("number"), QString());
+        QCOMPARE(m_fixture->stack()->count(), 0);
+    }
+
+    void aTextThatCannotBeReadDoesNotOutliveItsObject()
+    {
+        SpinBox* field = m_fixture->editor<IntegerEditor>("number")->numberWidget()->spinBox();
+        SheetFixture::enter(field, "7/0");
+        m_fixture->select({m_fixture->addElement()});
+        QCOMPARE(field->text(), QStringLiteral("1 px"));
+        QCOMPARE(m_fixture->message("number"), QString());
+    }
+
+    void textThatIsNoColorStaysWithItsReason()
+    {
+        HexColorField* field = m_fixture->editor<ColorEditor>("color")->colorWidget()->textField();
+        SheetFixture::enter(field, "reddish");
+        QCOMPARE(field->text(), QStringLiteral("reddish"));
+        QVERIFY(m_fixture->message("color").contains(QLatin1String("reddish")));
+        QTest::keyClick(field, Qt::Key_Escape);
+        QCOMPARE(field->text(), QStringLiteral("#f8971d"));
+        QCOMPARE(m_fixture->message("color"), QString());
+        SheetFixture::enter(field, "reddish");
+        SheetFixture::enter(field, "red");
+        QCOMPARE(m_fixture->message("color"), QString());
+        QCOMPARE(m_element->value("color"), QStringLiteral("#ff0000"));
+    }
+
+    void aDragBeyondWhatIsTakenLeavesNoMessage()
+    {
+        auto* number = m_fixture->editor<IntegerEditor>("number")->numberWidget();
+        NumberSlider* slider = number->slider();
+        const int y = slider->height() / 2;
+        QTest::mousePress(slider, Qt::LeftButton, {}, QPoint(4, y));
+        for (int x = 4; x < slider->width(); x += 2)
+            QTest::mouseMove(slider, QPoint(x, y));
+        QVERIFY(!m_fixture->message("number").isEmpty());
+        QTest::mouseRelease(slider, Qt::LeftButton, {}, QPoint(slider->width() - 2, y));
+        QCOMPARE(m_fixture->message("number"), QString());
+        QVERIFY(m_element->value("number").toInt() <= 50);
+        QCOMPARE(number->value(), m_element->value("number").toDouble());
+        QCOMPARE(m_fixture->stack()->count(), 1);
+    }
+
+    void escapeInTheColorPopupLeavesNoStep()
+    {
+        ColorWidget* color = m_fixture->editor<ColorEditor>("color")->colorWidget();
+        QTest::mouseClick(color->swatch(), Qt::LeftButton);
+        auto* field = color->popup()->findChild<HueSaturationField*>();
+        QTest::keyClick(field, Qt::Key_Right, Qt::ShiftModifier);
+        QTest::keyClick(field, Qt::Key_Right, Qt::ShiftModifier);
+        QCOMPARE(m_fixture->stack()->count(), 1);
+        QTest::keyClick(field, Qt::Key_Escape);
+        QCOMPARE(m_element->value("color"), QStringLiteral("#f8971d"));
+        QCOMPARE(m_fixture->stack()->count(), 0);
     }
 
     void aRefusedTextGoesWhenTheValueChangesElsewhere()

@@ -8,10 +8,13 @@
 #include "host/core/editors/RotationEditor.h"
 #include "host/core/editors/SizeEditor.h"
 #include "host/core/editors/StringEditor.h"
+#include "host/core/widgets/ColorPopup.h"
+#include "host/core/widgets/ColorSwatch.h"
 #include "host/core/widgets/ColorWidget.h"
 #include "host/core/widgets/FontStyleButton.h"
 #include "host/core/widgets/FontWidget.h"
 #include "host/core/widgets/HexColorField.h"
+#include "host/core/widgets/HueSaturationField.h"
 #include "host/core/widgets/LockToggle.h"
 #include "host/core/widgets/NineGrid.h"
 #include "host/core/widgets/NumberSlider.h"
@@ -224,6 +227,59 @@ private Q_SLOTS:
                               QStringLiteral("family: DejaVu Serif; pixelSize: 20; italic: true; underline: true;"),
                               QStringLiteral("family: DejaVu Sans; pointSize: 30; underline: true; weight: 600;")}));
         QCOMPARE(m_fixture->stack()->count(), 1);
+    }
+
+    void relativeFontSizesAndSpacingsGoByEachOfThem()
+    {
+        fill("font", {"family: DejaVu Sans; pointSize: 10;", "family: DejaVu Sans; pixelSize: 20; letterSpacing: 1;",
+                      "family: DejaVu Sans; pointSize: 30;"});
+        selectAll();
+        const FontWidget* font = m_fixture->editor<FontEditor>("font")->fontWidget();
+        QVERIFY(font->sizeField()->isMixed());
+        SheetFixture::enter(font->sizeField(), "+=5");
+        QCOMPARE(values("font"), QStringList({QStringLiteral("family: DejaVu Sans; pointSize: 15;"),
+                                              QStringLiteral("family: DejaVu Sans; pixelSize: 25; letterSpacing: 1;"),
+                                              QStringLiteral("family: DejaVu Sans; pointSize: 35;")}));
+        SheetFixture::enter(font->letterSpacingField(), "+=2");
+        QCOMPARE(values("font").first(), QStringLiteral("family: DejaVu Sans; pointSize: 15; letterSpacing: 2;"));
+        QCOMPARE(values("font").at(1), QStringLiteral("family: DejaVu Sans; pixelSize: 25; letterSpacing: 3;"));
+        SheetFixture::enter(font->sizeField(), "/=3");
+        QCOMPARE(values("font").at(2), QStringLiteral("family: DejaVu Sans; pointSize: 11.67; letterSpacing: 2;"));
+        QCOMPARE(m_fixture->stack()->count(), 3);
+    }
+
+    void stylesThatDifferAreShownAsMixedAndSetForAll()
+    {
+        fill("font", {"family: DejaVu Sans; pointSize: 10; italic: true;", "family: DejaVu Sans; pointSize: 10;",
+                      "family: DejaVu Sans; pointSize: 10;"});
+        selectAll();
+        const auto& styles = m_fixture->editor<FontEditor>("font")->fontWidget()->styleButtons();
+        QVERIFY(styles.at(1)->isMixed());
+        QVERIFY(!styles.at(0)->isMixed());
+        QTest::mouseClick(styles.at(1), Qt::LeftButton);
+        for (const QString& value : values("font"))
+            QVERIFY2(value.contains(QLatin1String("italic: true")), qPrintable(value));
+        QVERIFY(!styles.at(1)->isMixed());
+        QVERIFY(styles.at(1)->isChecked());
+    }
+
+    void escapeInTheColorPopupGivesEachItsOwnColorBack()
+    {
+        fill("color", {"#ff0000", "#00ff00", "#0000ff"});
+        const int steps = m_fixture->stack()->count();
+        selectAll();
+        ColorWidget* color = m_fixture->editor<ColorEditor>("color")->colorWidget();
+        QTest::mouseClick(color->swatch(), Qt::LeftButton);
+        auto* field = color->popup()->findChild<HueSaturationField*>();
+        QTest::keyClick(field, Qt::Key_Right, Qt::ShiftModifier);
+        QTest::keyClick(field, Qt::Key_Down, Qt::ShiftModifier);
+        QCOMPARE(values("color").removeDuplicates(), 2);
+        QCOMPARE(m_fixture->stack()->count(), steps + 1);
+        QTest::keyClick(field, Qt::Key_Escape);
+        QCOMPARE(values("color"),
+                 QStringList({QStringLiteral("#ff0000"), QStringLiteral("#00ff00"), QStringLiteral("#0000ff")}));
+        QCOMPARE(m_fixture->stack()->count(), steps);
+        QTRY_VERIFY(color->isMixed());
     }
 
     void aColorIsSetForAll()

@@ -53,7 +53,7 @@ bool FontEditor::createEditorWidget()
     const auto saveNumber = [this](SpinBox* field, const char* component) {
         field->setRelativeInputAllowed(true);
         connect(field, &SpinBox::userModified, this,
-                [this, field, component] { edit(QString::fromLatin1(component), operationText(field->operation())); });
+                [this, component] { edit(QString::fromLatin1(component), operationText(m_widget->operation())); });
     };
     saveNumber(m_widget->sizeField(), "size");
     saveNumber(m_widget->letterSpacingField(), "letterSpacing");

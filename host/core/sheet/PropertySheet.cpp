@@ -39,6 +39,13 @@ constexpr int KeptPanels = 12;
 /// Colours of the project that colour fields offer.
 constexpr int OfferedColors = 16;
 
+/// What the sheet scrolls: as wide as the sheet, however narrow, because scrolling sideways hides the ends of all fields.
+class SheetContent : public QWidget
+{
+public:
+    [[nodiscard]] QSize minimumSizeHint() const override { return {0, QWidget::minimumSizeHint().height()}; }
+};
+
 QLabel* createHint(QWidget* parent)
 {
     auto* hint = new QLabel(parent);
@@ -55,7 +62,7 @@ QLabel* createHint(QWidget* parent)
 PropertySheet::PropertySheet(EditSession* session, QWidget* parent)
     : QScrollArea(parent)
     , m_search(new SheetSearch(this))
-    , m_content(new QWidget)
+    , m_content(new SheetContent)
     , m_column(new QVBoxLayout(m_content))
     , m_heading(new SheetHeading(m_content))
     , m_hint(createHint(m_content))

@@ -14,6 +14,7 @@ using Common::LocalizationHelper;
 
 namespace {
 
+constexpr const char* General = "general";
 constexpr const char* Geometry = "geometry";
 constexpr const char* Appearance = "appearance";
 constexpr const char* Text = "text";
@@ -40,6 +41,7 @@ using enum Rule::Fits;
 
 /// What a property is called says more than its editor, and that more than its type.
 constexpr std::array Rules{
+    Rule{Id, "name", General},
     Rule{Id, "position", Geometry},
     Rule{Id, "length", Geometry},
     Rule{Id, "angle", Geometry},
@@ -97,6 +99,8 @@ QString SheetSections::keyOf(const DesignerProperty& property)
 
 QString SheetSections::title(const QString& key, const DesignerObject& object, bool sameType)
 {
+    if (key == QLatin1String(General))
+        return LocalizationHelper::coreString(QStringLiteral("General"));
     if (key == QLatin1String(Geometry))
         return LocalizationHelper::coreString(QStringLiteral("Geometry"));
     if (key == QLatin1String(Appearance))

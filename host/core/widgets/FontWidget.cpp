@@ -142,11 +142,7 @@ FontWidget::FontWidget(QWidget* parent)
         edit(font);
     });
     connect(m_letterSpacing, &SpinBox::userModified, this, &FontWidget::editLetterSpacing);
-    connect(m_wordSpacing, &SpinBox::userModified, this, [this] {
-        QFont font = m_font;
-        font.setWordSpacing(m_wordSpacing->value());
-        edit(font);
-    });
+    connect(m_wordSpacing, &SpinBox::userModified, this, &FontWidget::editWordSpacing);
     auto* focus = new FocusTracker(this);
     connect(focus, &FocusTracker::entered, this, &FontWidget::focusedIn);
     connect(focus, &FocusTracker::left, this, &FontWidget::focusedOut);
@@ -209,6 +205,7 @@ void FontWidget::edit(const QFont& font)
 
 void FontWidget::editSize()
 {
+    m_operation = m_size->operation();
     QFont font = m_font;
     if (font.pixelSize() > 0) {
         font.setPixelSize(qRound(m_size->value()));
@@ -230,8 +227,17 @@ void FontWidget::editUnit()
     edit(font);
 }
 
+void FontWidget::editWordSpacing()
+{
+    m_operation = m_wordSpacing->operation();
+    QFont font = m_font;
+    font.setWordSpacing(m_wordSpacing->value());
+    edit(font);
+}
+
 void FontWidget::editLetterSpacing()
 {
+    m_operation = m_letterSpacing->operation();
     QFont font = m_font;
     if (m_letterSpacing->value() == 0) {
         font.setLetterSpacing(QFont::PercentageSpacing, 0); // as in a font that was never spaced

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/core/CoreExport.h"
+#include "host/core/values/NumberOperation.h"
 
 #include <QtCore/QList>
 #include <QtGui/QFont>
@@ -42,6 +43,8 @@ public:
     [[nodiscard]] SpinBox* letterSpacingField() const { return m_letterSpacing; }
     [[nodiscard]] SpinBox* wordSpacingField() const { return m_wordSpacing; }
     [[nodiscard]] const QList<FontStyleButton*>& styleButtons() const { return m_styles; }
+    /** What the last edit of a number field asked for; see SpinBox. The fields themselves show its result already. */
+    [[nodiscard]] NumberOperation operation() const { return m_operation; }
 
 Q_SIGNALS:
     /** The user has changed the font. */
@@ -56,8 +59,10 @@ private:
     void editSize();
     void editUnit();
     void editLetterSpacing();
+    void editWordSpacing();
 
     QFont m_font;
+    NumberOperation m_operation;
     FontFamilyBox* m_family;
     QToolButton* m_import;
     SpinBox* m_size;

@@ -7,6 +7,7 @@
 #include <QtCore/QScopedValueRollback>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QStyleOptionSpinBox>
 #include <QtWidgets/QToolTip>
 
 #include <algorithm>
@@ -206,6 +207,22 @@ void SpinBox::onBaseValueChanged(double value)
     if (!m_synchronising) {
         editValue(value);
     }
+}
+
+QSize SpinBox::minimumSizeHint() const
+{
+    constexpr double usual = 9999;
+    constexpr int cursorWidth = 2;
+    ensurePolished();
+    int width = 0;
+    for (const double end : {std::max(m_minimum, -usual), std::min(m_maximum, usual)}) {
+        const QString text = ValueConversion::toQmlString(std::round(end), 0) + m_suffix;
+        width = std::max(width, fontMetrics().horizontalAdvance(text) + cursorWidth);
+    }
+    QStyleOptionSpinBox option;
+    initStyleOption(&option);
+    const QSize content(width, lineEdit()->minimumSizeHint().height());
+    return style()->sizeFromContents(QStyle::CT_SpinBox, &option, content, this);
 }
 
 void SpinBox::stepBy(int steps)

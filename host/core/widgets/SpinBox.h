@@ -75,6 +75,9 @@ public:
     /** Changes the value for the user, as a step or a slider does: userModified() when that makes a difference. */
     void editValue(double value);
 
+    /** Room for four digits and a sign, or for less where the range is smaller, whether the value is mixed or not. */
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
     void stepBy(int steps) override;
     [[nodiscard]] QString textFromValue(double value) const override;
     [[nodiscard]] double valueFromText(const QString& text) const override;
