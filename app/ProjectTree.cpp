@@ -2,14 +2,20 @@
 
 #include "app/CoreText.h"
 #include "app/ProjectTreeModel.h"
+#include "app/ThemedIcon.h"
 
 #include "host/core/canvas/EditSession.h"
+#include "host/core/objects/Element.h"
 #include "host/core/objects/Screen.h"
 #include "host/core/project/Project.h"
 
 #include <QContextMenuEvent>
+#include <QHeaderView>
 #include <QMenu>
+#include <QMouseEvent>
+#include <QPainter>
 #include <QScopedValueRollback>
+#include <QStyledItemDelegate>
 
 namespace Korvex::Meridane::Designer {
 
@@ -24,6 +30,40 @@ Screen* screenAbove(DesignerObject* object)
     }
     return nullptr;
 }
+
+constexpr int MarkWidth = 24; // pixels, of the column of a mark
+constexpr int MarkSide = 16; // of its icon
+
+/// Paints the eye and the padlock: those that are set always, dimmed where a group has passed them on; the others while
+/// the mouse is over the row.
+class MarkDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::paint(painter, option, index);
+        const QVariant value = index.data(ProjectTreeModel::MarkRole);
+        if (!value.isValid())
+            return;
+        const auto mark = ProjectTreeModel::Mark(value.toInt());
+        if (mark == ProjectTreeModel::Mark::None && !option.state.testFlag(QStyle::State_MouseOver))
+            return;
+        const bool set = mark != ProjectTreeModel::Mark::None;
+        const bool isHiding = index.column() == ProjectTreeModel::HiddenColumn;
+        const QString name = isHiding ? (set ? QStringLiteral("eye-off") : QStringLiteral("eye"))
+                                      : (set ? QStringLiteral("padlock") : QStringLiteral("padlock-open"));
+        QRect place(0, 0, MarkSide, MarkSide);
+        place.moveCenter(option.rect.center());
+        painter->save();
+        if (mark != ProjectTreeModel::Mark::Own)
+            painter->setOpacity(0.45);
+        const bool selected = option.state.testFlag(QStyle::State_Selected);
+        ThemedIcon::named(name, selected ? QPalette::HighlightedText : QPalette::Text).paint(painter, place);
+        painter->restore();
+    }
+};
 
 } // namespace
 
@@ -44,6 +84,15 @@ ProjectTree::ProjectTree(EditSession* session, QWidget* parent)
     setAcceptDrops(true);
     setDropIndicatorShown(true);
     setDragDropMode(QAbstractItemView::InternalMove);
+    setItemDelegate(new MarkDelegate(this));
+    header()->setStretchLastSection(false);
+    header()->setMinimumSectionSize(MarkWidth);
+    header()->setSectionResizeMode(ProjectTreeModel::NameColumn, QHeaderView::Stretch);
+    for (const int column : {ProjectTreeModel::HiddenColumn, ProjectTreeModel::LockedColumn}) {
+        header()->setSectionResizeMode(column, QHeaderView::Fixed);
+        header()->resizeSection(column, MarkWidth);
+    }
+    viewport()->setMouseTracking(true);
     setDragDropOverwriteMode(false);
     setDefaultDropAction(Qt::MoveAction);
     setAutoExpandDelay(600);
@@ -52,6 +101,8 @@ ProjectTree::ProjectTree(EditSession* session, QWidget* parent)
     expand(m_model->index(0, 0));
 
     connect(m_model, &ProjectTreeModel::refused, this, &ProjectTree::refused);
+    connect(m_model, &QAbstractItemModel::rowsInserted, this, &ProjectTree::filterLater);
+    connect(m_model, &QAbstractItemModel::dataChanged, this, &ProjectTree::filterLater);
     connect(session, &EditSession::selectionChanged, this, &ProjectTree::showSessionSelection);
     connect(session, &EditSession::currentScreenChanged, this, [this](Screen* screen) {
         if (screen)
@@ -113,6 +164,118 @@ void ProjectTree::keyPressEvent(QKeyEvent* event)
         QTreeView::keyPressEvent(event);
 }
 
+void ProjectTree::mousePressEvent(QMouseEvent* event)
+{
+    // A mark changes without changing the selection.
+    if (pressMark(event))
+        event->accept();
+    else
+        QTreeView::mousePressEvent(event);
+}
+
+void ProjectTree::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (pressMark(event))
+        event->accept();
+    else
+        QTreeView::mouseDoubleClickEvent(event);
+}
+
+bool ProjectTree::pressMark(const QMouseEvent* event)
+{
+    const QModelIndex pressed = indexAt(event->position().toPoint());
+    if (event->button() != Qt::LeftButton || !pressed.data(ProjectTreeModel::MarkRole).isValid())
+        return false;
+    QList<DesignerObject*> objects = selectedObjects();
+    DesignerObject* object = m_model->object(pressed);
+    // The pressed one says what becomes of all.
+    if (objects.removeAll(object) == 0)
+        objects.clear();
+    objects.prepend(object);
+    m_model->toggleMark(pressed.column(), objects);
+    return true;
+}
+
+void ProjectTree::setFilter(const QString& text)
+{
+    const QString wanted = text.trimmed();
+    if (wanted == m_filter)
+        return;
+    m_filter = wanted;
+    if (m_filter.isEmpty()) {
+        unhideBelow({});
+        scrollTo(currentIndex());
+    } else {
+        filterBelow({});
+    }
+}
+
+/// Hides the rows below \a parent that neither match nor hold what does; whether any row is left.
+bool ProjectTree::filterBelow(const QModelIndex& parent)
+{
+    if (m_model->canFetchMore(parent))
+        m_model->fetchMore(parent);
+    bool any = false;
+    const int count = m_model->rowCount(parent);
+    for (int row = 0; row < count; ++row) {
+        const QModelIndex index = m_model->index(row, 0, parent);
+        const DesignerObject* object = m_model->object(index);
+        const bool matches =
+            object->getIdName().contains(m_filter, Qt::CaseInsensitive)
+            || (qobject_cast<const Element*>(object) && object->displayName().contains(m_filter, Qt::CaseInsensitive));
+        const bool holds = filterBelow(index);
+        if (holds && !isExpanded(index))
+            expand(index);
+        // What stands in a match is shown with it only where it matches itself: the filter is for finding.
+        const bool hide = !matches && !holds && parent.isValid();
+        if (isRowHidden(row, parent) != hide)
+            setRowHidden(row, parent, hide);
+        any = any || matches || holds;
+    }
+    return any;
+}
+
+void ProjectTree::unhideBelow(const QModelIndex& parent)
+{
+    const int count = m_model->rowCount(parent);
+    for (int row = 0; row < count; ++row) {
+        if (isRowHidden(row, parent))
+            setRowHidden(row, parent, false);
+        unhideBelow(m_model->index(row, 0, parent));
+    }
+}
+
+/// Rows have come or have other names while a filter is set.
+void ProjectTree::filterLater()
+{
+    if (m_filter.isEmpty() || std::exchange(m_filterPending, true))
+        return;
+    const auto filter = [this] {
+        m_filterPending = false;
+        if (!m_filter.isEmpty())
+            filterBelow({});
+    };
+    QMetaObject::invokeMethod(this, filter, Qt::QueuedConnection);
+}
+
+void ProjectTree::openAll()
+{
+    const QModelIndex project = m_model->index(0, 0);
+    for (int row = 0; row < m_model->rowCount(project); ++row) {
+        const QModelIndex screen = m_model->index(row, 0, project);
+        if (m_model->canFetchMore(screen))
+            m_model->fetchMore(screen);
+    }
+    expandAll();
+    scrollTo(currentIndex());
+}
+
+void ProjectTree::closeAll()
+{
+    collapseAll();
+    expand(m_model->index(0, 0));
+}
+
 QSize ProjectTree::sizeHint() const
 {
     return {260, 300};
@@ -163,7 +326,8 @@ void ProjectTree::showSessionSelection()
         while (last + 1 < indexes.size() && indexes.at(last + 1).row() == indexes.at(last).row() + 1
                && indexes.at(last + 1).parent() == indexes.at(first).parent())
             ++last;
-        ranges.append(QItemSelectionRange(indexes.at(first), indexes.at(last)));
+        ranges.append(
+            QItemSelectionRange(indexes.at(first), indexes.at(last).siblingAtColumn(ProjectTreeModel::LockedColumn)));
         first = last + 1;
     }
     if (!indexes.isEmpty()) {

@@ -4,12 +4,16 @@
 #include "app/ElementPicture.h"
 #include "app/ThemedIcon.h"
 
+#include "host/core/arrange/ElementClipboard.h"
 #include "host/core/arrange/SiblingOrder.h"
 #include "host/core/canvas/EditSession.h"
+#include "host/core/objects/EditorMarks.h"
 #include "host/core/objects/Screen.h"
 #include "host/core/objects/UnknownElement.h"
+#include "host/core/objects/VisualElement.h"
 #include "host/core/project/Project.h"
 #include "host/core/properties/ObjectListProperty.h"
+#include "host/core/values/ValueConversion.h"
 
 #include <QFont>
 #include <QGuiApplication>
@@ -70,6 +74,12 @@ ProjectTreeModel::ProjectTreeModel(EditSession* session, QObject* parent)
             refresh(object);
     });
     connect(project, &Project::projectBrowserUpdateRequested, this, [this] { refreshBelow(m_root.get()); });
+    connect(project, &Project::objectMarked, this, [this](DesignerObject* object) {
+        // A group passes its marks on.
+        refresh(object);
+        if (const Node* marked = m_nodes.value(object))
+            refreshBelow(marked);
+    });
     connect(session, &EditSession::currentScreenChanged, this, [this](Screen* screen) { refresh(screen); });
 }
 
@@ -96,9 +106,9 @@ QModelIndex ProjectTreeModel::indexOf(DesignerObject* object)
 QModelIndex ProjectTreeModel::index(int row, int column, const QModelIndex& parent) const
 {
     const Node* above = node(parent);
-    if (column != 0 || row < 0 || row >= int(above->children.size()))
+    if (column < 0 || column >= ColumnCount || row < 0 || row >= int(above->children.size()))
         return {};
-    return createIndex(row, 0, above->children[std::size_t(row)].get());
+    return createIndex(row, column, above->children[std::size_t(row)].get());
 }
 
 QModelIndex ProjectTreeModel::parent(const QModelIndex& child) const
@@ -113,18 +123,20 @@ int ProjectTreeModel::rowCount(const QModelIndex& parent) const
 
 int ProjectTreeModel::columnCount(const QModelIndex&) const
 {
-    return 1;
+    return ColumnCount;
 }
 
 bool ProjectTreeModel::hasChildren(const QModelIndex& parent) const
 {
+    if (parent.column() > NameColumn)
+        return false;
     const Node* above = node(parent);
     return !above->children.empty() || !above->populated;
 }
 
 bool ProjectTreeModel::canFetchMore(const QModelIndex& parent) const
 {
-    return !node(parent)->populated;
+    return parent.column() <= NameColumn && !node(parent)->populated;
 }
 
 void ProjectTreeModel::fetchMore(const QModelIndex& parent)
@@ -137,6 +149,8 @@ QVariant ProjectTreeModel::data(const QModelIndex& index, int role) const
     const DesignerObject* shown = object(index);
     if (!shown)
         return {};
+    if (index.column() != NameColumn)
+        return markData(index, role);
     const auto* project = qobject_cast<const Project*>(shown);
     const auto* screen = qobject_cast<const Screen*>(shown);
     const bool unreadable = !unreadableReason(shown).isEmpty();
@@ -158,13 +172,7 @@ QVariant ProjectTreeModel::data(const QModelIndex& index, int role) const
             m_icons.insert(shown->className(), ElementPicture::icon(shown->className()));
         return m_icons.value(shown->className());
     case Qt::ToolTipRole:
-        if (unreadable)
-            return unreadableReason(shown);
-        if (const auto* unknown = qobject_cast<const UnknownElement*>(shown)) {
-            return coreText("No plug-in serves the class \"%1\". The element is kept as it is in the file.")
-                .arg(unknown->wantedClassName());
-        }
-        return project ? project->folder() : shown->displayName();
+        return toolTip(shown);
     case Qt::FontRole:
         if (screen && screen == m_session->currentScreen()) {
             QFont font;
@@ -208,12 +216,14 @@ Qt::ItemFlags ProjectTreeModel::flags(const QModelIndex& index) const
     if (!shown)
         return {};
     Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+    if (index.column() != NameColumn)
+        return flags;
     const bool movable = !qobject_cast<const Project*>(shown);
     if (movable)
         flags |= Qt::ItemIsDragEnabled;
     if (!qobject_cast<const UnknownElement*>(shown) && unreadableReason(shown).isEmpty())
         flags |= Qt::ItemIsEditable;
-    if (!node(index)->children.empty())
+    if (shown->childList() && unreadableReason(shown).isEmpty())
         flags |= Qt::ItemIsDropEnabled;
     return flags;
 }
@@ -233,6 +243,8 @@ QMimeData* ProjectTreeModel::mimeData(const QModelIndexList& indexes) const
     // Each row is named by the rows above it, from the project on; the data is used inside this window only.
     QStringList paths;
     for (const QModelIndex& dragged : indexes) {
+        if (dragged.column() != NameColumn)
+            continue; // each row comes with all of its columns
         QStringList rows;
         for (QModelIndex at = dragged; at.isValid(); at = at.parent())
             rows.prepend(QString::number(at.row()));
@@ -246,11 +258,23 @@ QMimeData* ProjectTreeModel::mimeData(const QModelIndexList& indexes) const
 bool ProjectTreeModel::canDropMimeData(const QMimeData* data, Qt::DropAction action, int row, int,
                                        const QModelIndex& parent) const
 {
-    if (action != Qt::MoveAction || row < 0 || !parent.isValid())
+    const DesignerObject* owner = object(parent);
+    if (action != Qt::MoveAction || !owner
+        || !flags(parent.siblingAtColumn(NameColumn)).testFlag(Qt::ItemIsDropEnabled))
         return false;
     const QList<DesignerObject*> objects = dragged(data);
+    // Screens are moved among each other, to a place between two; elements go wherever elements can be.
+    const bool areScreens = qobject_cast<const Project*>(owner);
+    if (areScreens && row < 0)
+        return false;
     return !objects.isEmpty() && std::all_of(objects.cbegin(), objects.cend(), [&](const DesignerObject* object) {
-        return object->parentObject() == this->object(parent);
+        if (areScreens)
+            return object->parentObject() == owner;
+        for (const DesignerObject* above = owner; above; above = above->parentObject()) {
+            if (above == object)
+                return false;
+        }
+        return qobject_cast<const Element*>(object) != nullptr;
     });
 }
 
@@ -259,17 +283,26 @@ bool ProjectTreeModel::dropMimeData(const QMimeData* data, Qt::DropAction action
 {
     if (!canDropMimeData(data, action, row, column, parent))
         return false;
-    const QList<DesignerObject*> objects = dragged(data);
     DesignerObject* owner = object(parent);
+    const bool areScreens = qobject_cast<Project*>(owner);
+    const QList<DesignerObject*> objects = areScreens ? dragged(data) : ElementClipboard::copyable(dragged(data));
     // The gap at `row` as a place among the siblings that stay, counted as the list counts.
+    populate(node(parent));
+    int above = 0;
     int staying = 0;
     for (const auto& child : node(parent)->children) {
-        if (child->row < row && !objects.contains(child->object))
-            ++staying;
+        if (objects.contains(child->object))
+            continue;
+        ++staying;
+        if (child->row < row)
+            ++above;
     }
-    const int others = int(node(parent)->children.size()) - int(objects.size());
-    const int place = qobject_cast<Project*>(owner) ? staying : others - staying;
-    const EditResult result = SiblingOrder::moveTo(m_session->project(), owner, objects, place);
+    const int place = areScreens ? above : staying - (row < 0 ? 0 : above);
+    const bool areSiblings = std::all_of(objects.cbegin(), objects.cend(), [owner](const DesignerObject* object) {
+        return object->parentObject() == owner;
+    });
+    const EditResult result = areSiblings ? SiblingOrder::moveTo(m_session->project(), owner, objects, place)
+                                          : m_session->moveToParent(objects, owner, place);
     if (!result.message.isEmpty())
         Q_EMIT refused(result.message);
     return false;
@@ -280,9 +313,82 @@ ProjectTreeModel::Node* ProjectTreeModel::node(const QModelIndex& index) const
     return index.isValid() ? static_cast<Node*>(index.internalPointer()) : m_root.get();
 }
 
-QModelIndex ProjectTreeModel::nodeIndex(const Node* node) const
+QModelIndex ProjectTreeModel::nodeIndex(const Node* node, int column) const
 {
-    return !node || node == m_root.get() ? QModelIndex() : createIndex(node->row, 0, node);
+    return !node || node == m_root.get() ? QModelIndex() : createIndex(node->row, column, node);
+}
+
+void ProjectTreeModel::toggleMark(int column, const QList<DesignerObject*>& objects)
+{
+    const QString mark = column == HiddenColumn ? EditorMarks::hidden() : EditorMarks::locked();
+    QList<DesignerObject*> elements;
+    for (DesignerObject* object : objects) {
+        if (object->editorMarkKeys().contains(mark))
+            elements.append(object);
+    }
+    if (elements.isEmpty())
+        return;
+    const bool set = elements.constFirst()->editorMark(mark).isEmpty();
+    const EditResult result =
+        column == HiddenColumn ? m_session->setHidden(elements, set) : m_session->setLocked(elements, set);
+    if (!result.message.isEmpty())
+        Q_EMIT refused(result.message);
+}
+
+QVariant ProjectTreeModel::markData(const QModelIndex& index, int role) const
+{
+    const DesignerObject* shown = object(index);
+    const bool isHiding = index.column() == HiddenColumn;
+    const QString mark = isHiding ? EditorMarks::hidden() : EditorMarks::locked();
+    if (!shown->editorMarkKeys().contains(mark))
+        return {};
+    const bool own = !shown->editorMark(mark).isEmpty();
+    const bool inherited = !own && (isHiding ? EditorMarks::isHidden(shown) : EditorMarks::isLocked(shown));
+    switch (role) {
+    case MarkRole:
+        return int(own ? Mark::Own : inherited ? Mark::Inherited : Mark::None);
+    case Qt::AccessibleTextRole:
+        if (isHiding)
+            return own || inherited ? coreText("Hidden on the canvas") : coreText("Shown on the canvas");
+        return own || inherited ? coreText("Locked") : coreText("Not locked");
+    case Qt::ToolTipRole:
+        if (inherited) {
+            return isHiding ? coreText("Hidden on the canvas with its group. Click to hide it by itself, too.")
+                            : coreText("Locked with its group. Click to lock it by itself, too.");
+        }
+        if (isHiding) {
+            return own ? coreText("Hidden on the canvas. Click to show it.")
+                       : coreText("Click to hide it on the canvas. Exports show it all the same.");
+        }
+        return own ? coreText("Locked against the mouse. Click to unlock it.")
+                   : coreText("Click to lock it against the mouse.");
+    default:
+        return {};
+    }
+}
+
+/// The class and where the object is.
+QString ProjectTreeModel::toolTip(const DesignerObject* object) const
+{
+    if (const QString& reason = unreadableReason(object); !reason.isEmpty())
+        return reason;
+    if (const auto* unknown = qobject_cast<const UnknownElement*>(object)) {
+        return coreText("No plug-in serves the class \"%1\". The element is kept as it is in the file.")
+            .arg(unknown->wantedClassName());
+    }
+    if (const auto* project = qobject_cast<const Project*>(object))
+        return project->folder();
+    if (const auto* screen = qobject_cast<const Screen*>(object)) {
+        return coreText("%1, %2 × %3 px")
+            .arg(screen->displayName())
+            .arg(screen->size().width())
+            .arg(screen->size().height());
+    }
+    const auto* element = qobject_cast<const VisualElement*>(object);
+    if (!element || !element->position()->isConverted())
+        return object->displayName();
+    const QPointF place = ValueConversion::toPoint(element->position()->valueString());
+    return coreText("%1 at %2, %3").arg(object->displayName()).arg(place.x()).arg(place.y());
 }
 
 std::unique_ptr<ProjectTreeModel::Node> ProjectTreeModel::makeNode(DesignerObject* object, Node* parent)
@@ -391,19 +497,20 @@ void ProjectTreeModel::refresh(DesignerObject* object)
         // The mark of the current screen goes from one row to another.
         const Node* project = m_root->children.front().get();
         if (!project->children.empty()) {
-            Q_EMIT dataChanged(nodeIndex(project->children.front().get()), nodeIndex(project->children.back().get()));
+            Q_EMIT dataChanged(nodeIndex(project->children.front().get()),
+                               nodeIndex(project->children.back().get(), LockedColumn));
         }
         return;
     }
     if (const Node* changed = m_nodes.value(object))
-        Q_EMIT dataChanged(nodeIndex(changed), nodeIndex(changed));
+        Q_EMIT dataChanged(nodeIndex(changed), nodeIndex(changed, LockedColumn));
 }
 
 void ProjectTreeModel::refreshBelow(const Node* node)
 {
     if (node->children.empty())
         return;
-    Q_EMIT dataChanged(nodeIndex(node->children.front().get()), nodeIndex(node->children.back().get()));
+    Q_EMIT dataChanged(nodeIndex(node->children.front().get()), nodeIndex(node->children.back().get(), LockedColumn));
     for (const auto& child : node->children)
         refreshBelow(child.get());
 }

@@ -16,14 +16,31 @@ class EditSession;
  * the front-most on top, as in the stack that the user sees on the screen.
  *
  * The content of a screen is read when its row is opened. The model keeps its own copy of the structure, so that views
- * hear of each change at the right moment, and follows the project's signals. Ids are renamed in place and siblings are
- * reordered by drag and drop, each as one undo step.
+ * hear of each change at the right moment, and follows the project's signals. Ids are renamed in place; elements are
+ * moved among their siblings, into and out of groups and to other screens by drag and drop, each time as one undo step.
  */
 class ProjectTreeModel : public QAbstractItemModel
 {
     Q_OBJECT
 
 public:
+    /// Beside its name an element has two marks for the canvas: hidden and locked.
+    enum Column
+    {
+        NameColumn,
+        HiddenColumn,
+        LockedColumn,
+        ColumnCount
+    };
+    /// What a mark's column says.
+    enum class Mark
+    {
+        None,
+        Inherited, ///< from a group around the element
+        Own
+    };
+    static constexpr int MarkRole = Qt::UserRole; ///< a Mark as int; invalid where there can be none
+
     /// \a session outlives the model.
     explicit ProjectTreeModel(EditSession* session, QObject* parent = nullptr);
     ~ProjectTreeModel() override;
@@ -31,6 +48,9 @@ public:
     [[nodiscard]] DesignerObject* object(const QModelIndex& index) const;
     /// The index of \a object, reading the rows above it where that has not been done; invalid for a stranger.
     [[nodiscard]] QModelIndex indexOf(DesignerObject* object);
+
+    /// Hides or locks \a objects, or takes that back where the first of them is; one undo step.
+    void toggleMark(int column, const QList<DesignerObject*>& objects);
 
     [[nodiscard]] QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     [[nodiscard]] QModelIndex parent(const QModelIndex& child) const override;
@@ -47,7 +67,7 @@ public:
     [[nodiscard]] QMimeData* mimeData(const QModelIndexList& indexes) const override;
     [[nodiscard]] bool canDropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
                                        const QModelIndex& parent) const override;
-    /// Reorders; always false, because the rows have been moved and the view must not remove the dragged ones.
+    /// Moves; always false, because the rows have been moved and the view must not remove the dragged ones.
     bool dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
                       const QModelIndex& parent) override;
 
@@ -59,7 +79,9 @@ private:
     struct Node;
 
     [[nodiscard]] Node* node(const QModelIndex& index) const;
-    [[nodiscard]] QModelIndex nodeIndex(const Node* node) const;
+    [[nodiscard]] QModelIndex nodeIndex(const Node* node, int column = NameColumn) const;
+    [[nodiscard]] QVariant markData(const QModelIndex& index, int role) const;
+    [[nodiscard]] QString toolTip(const DesignerObject* object) const;
     [[nodiscard]] std::unique_ptr<Node> makeNode(DesignerObject* object, Node* parent);
     [[nodiscard]] int rowInList(const DesignerObject* object) const;
     void populate(Node* node);

@@ -7,6 +7,7 @@
 #include "host/core/objects/Screen.h"
 #include "host/core/project/Project.h"
 
+#include <QContextMenuEvent>
 #include <QScopedValueRollback>
 
 namespace Korvex::Meridane::Designer {
@@ -71,6 +72,13 @@ void ScreenTabs::mouseReleaseEvent(QMouseEvent* event)
         return;
     m_session->reorder(dragged, currentIndex());
     refillLater();
+}
+
+void ScreenTabs::contextMenuEvent(QContextMenuEvent* event)
+{
+    const bool isKeyboard = event->reason() == QContextMenuEvent::Keyboard;
+    const int tab = isKeyboard ? currentIndex() : tabAt(event->pos());
+    Q_EMIT menuRequested(screenAt(tab), isKeyboard ? mapToGlobal(tabRect(tab).bottomLeft()) : event->globalPos());
 }
 
 void ScreenTabs::refill()

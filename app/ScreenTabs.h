@@ -7,7 +7,8 @@ namespace Korvex::Meridane::Designer {
 class EditSession;
 class Screen;
 
-/// A tab for each screen of the project: chooses the screen that is shown, and reorders screens by dragging.
+/// A tab for each screen of the project: chooses the screen that is shown, reorders screens by dragging, and asks for the
+/// menu of a screen.
 class ScreenTabs : public QTabBar
 {
     Q_OBJECT
@@ -25,8 +26,13 @@ public Q_SLOTS:
     /// Goes \a steps tabs on, round from the last to the first.
     void step(int steps);
 
+Q_SIGNALS:
+    /// The menu of \a screen (null: beside the tabs) is wanted at \a globalPos.
+    void menuRequested(Screen* screen, const QPoint& globalPos);
+
 protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     void refill();

@@ -8,6 +8,7 @@
 #include "app/HistoryPanel.h"
 #include "app/ImagePanel.h"
 #include "app/ProjectTree.h"
+#include "app/ProjectTreePanel.h"
 
 #include "host/core/canvas/CanvasView.h"
 #include "host/core/canvas/EditSession.h"
@@ -26,6 +27,7 @@ Workspace::Workspace(EditSession* session, ElementPalette* palette)
     , m_canvasPanel(new CanvasPanel(session))
     , m_imageDrop(new CanvasImageDrop(m_canvasPanel->view()))
     , m_tree(new ProjectTree(session))
+    , m_treePanel(new ProjectTreePanel(m_tree))
     , m_images(new ImagePanel(session))
     , m_sheet(new PropertySheet(session))
     , m_history(new HistoryPanel(session))
@@ -53,7 +55,7 @@ Workspace::~Workspace()
     delete m_history;
     delete m_sheet;
     delete m_images;
-    delete m_tree;
+    delete m_treePanel;
     delete m_canvasPanel;
 }
 

@@ -15,6 +15,7 @@ class ElementPalette;
 class HistoryPanel;
 class ImagePanel;
 class ProjectTree;
+class ProjectTreePanel;
 class PropertySheet;
 
 /**
@@ -35,6 +36,7 @@ public:
     [[nodiscard]] CanvasPanel* canvasPanel() const { return m_canvasPanel; }
     [[nodiscard]] CanvasView* canvas() const;
     [[nodiscard]] ProjectTree* tree() const { return m_tree; }
+    [[nodiscard]] ProjectTreePanel* treePanel() const { return m_treePanel; }
     [[nodiscard]] ImagePanel* images() const { return m_images; }
     [[nodiscard]] CanvasImageDrop* imageDrop() const { return m_imageDrop; }
     [[nodiscard]] PropertySheet* sheet() const { return m_sheet; }
@@ -57,6 +59,7 @@ private:
     CanvasPanel* m_canvasPanel;
     CanvasImageDrop* m_imageDrop;
     ProjectTree* m_tree;
+    ProjectTreePanel* m_treePanel; // holds the tree
     ImagePanel* m_images;
     PropertySheet* m_sheet;
     HistoryPanel* m_history;

@@ -1,6 +1,7 @@
 #include "app/ProjectTreeModel.h"
 
 #include "host/core/canvas/EditSession.h"
+#include "host/core/commands/AddObject.h"
 #include "host/core/objects/Screen.h"
 #include "host/core/plugins/DesignerFactory.h"
 #include "host/core/project/Project.h"
@@ -100,24 +101,100 @@ private Q_SLOTS:
         QCOMPARE(m_session->project()->name(), QStringLiteral("Toaster"));
     }
 
-    void aDropReordersWithinTheParentOnly()
+    void aDropReordersWithinTheParent()
     {
         for (int i = 0; i < 4; ++i)
             add("Rectangle");
-        m_session->addScreen(QStringLiteral("other"));
         const QModelIndex main = m_model->indexOf(m_session->project()->screen(QStringLiteral("main")));
-        const QModelIndex other = m_model->indexOf(m_session->project()->screen(QStringLiteral("other")));
         // From the top: 4 3 2 1. The rows 4 and 2 go between 1 and the end.
         const std::unique_ptr<QMimeData> data(
             m_model->mimeData({m_model->index(0, 0, main), m_model->index(2, 0, main)}));
-        QVERIFY(!m_model->canDropMimeData(data.get(), Qt::MoveAction, 0, 0, other));
-        QVERIFY(!m_model->canDropMimeData(data.get(), Qt::MoveAction, -1, -1, main));
         QVERIFY(m_model->canDropMimeData(data.get(), Qt::MoveAction, 4, 0, main));
         QVERIFY(!m_model->dropMimeData(data.get(), Qt::MoveAction, 4, 0, main));
         QCOMPARE(rows(), (QStringList{QStringLiteral("rectangle3"), QStringLiteral("rectangle1"),
                                       QStringLiteral("rectangle4"), QStringLiteral("rectangle2")}));
         m_session->undo();
         QCOMPARE(rows().first(), QStringLiteral("rectangle4"));
+    }
+
+    void aDropOnAGroupOrAScreenGoesIntoItAsOneStep()
+    {
+        for (int i = 0; i < 3; ++i)
+            add("Rectangle");
+        DesignerObject* group = addGroup();
+        m_session->addScreen(QStringLiteral("other"));
+        Screen* other = m_session->project()->screen(QStringLiteral("other"));
+        const QModelIndex main = m_model->indexOf(m_session->project()->screen(QStringLiteral("main")));
+        const int steps = m_session->undoStack()->count();
+        DesignerObject* first = element("rectangle1");
+        DesignerObject* third = element("rectangle3");
+        const std::unique_ptr<QMimeData> data(m_model->mimeData({m_model->indexOf(first), m_model->indexOf(third)}));
+        // Between rows of another parent, and onto it.
+        QVERIFY(m_model->canDropMimeData(data.get(), Qt::MoveAction, -1, -1, m_model->indexOf(group)));
+        (void)m_model->dropMimeData(data.get(), Qt::MoveAction, -1, -1, m_model->indexOf(group));
+        QCOMPARE(m_session->undoStack()->count(), steps + 1);
+        QCOMPARE(group->childList()->items(), (QVector<DesignerObject*>{first, third}));
+        QCOMPARE(m_model->rowCount(m_model->indexOf(group)), 2);
+        QCOMPARE(m_model->object(m_model->index(0, 0, m_model->indexOf(group))), third); // the front-most on top
+
+        const std::unique_ptr<QMimeData> whole(m_model->mimeData({m_model->indexOf(group)}));
+        QVERIFY(!m_model->canDropMimeData(whole.get(), Qt::MoveAction, 0, 0, m_model->indexOf(group)));
+        (void)m_model->dropMimeData(whole.get(), Qt::MoveAction, 0, 0, m_model->indexOf(other));
+        QCOMPARE(group->parentObject(), other);
+        QCOMPARE(rows(), QStringList{QStringLiteral("rectangle2")});
+        QCOMPARE(m_session->currentScreen(), other);
+        m_session->undo();
+        m_session->undo();
+        QCOMPARE(rows(), (QStringList{QStringLiteral("group1"), QStringLiteral("rectangle3"),
+                                      QStringLiteral("rectangle2"), QStringLiteral("rectangle1")}));
+        // A screen goes among screens alone.
+        const std::unique_ptr<QMimeData> screen(m_model->mimeData({m_model->indexOf(other)}));
+        QVERIFY(!m_model->canDropMimeData(screen.get(), Qt::MoveAction, 0, 0, main));
+        QVERIFY(!m_model->canDropMimeData(screen.get(), Qt::MoveAction, -1, -1, m_model->index(0, 0)));
+        QVERIFY(m_model->canDropMimeData(screen.get(), Qt::MoveAction, 0, 0, m_model->index(0, 0)));
+        (void)m_model->dropMimeData(screen.get(), Qt::MoveAction, 0, 0, m_model->index(0, 0));
+        QCOMPARE(m_session->project()->screens().constFirst(), other);
+    }
+
+    void marksAreOwnOrThoseOfTheGroup()
+    {
+        add("Rectangle");
+        DesignerObject* group = addGroup();
+        QVERIFY(m_session->moveToParent({element("rectangle1")}, group, -1).changed);
+        const auto mark = [this](DesignerObject* object, int column) {
+            return m_model->indexOf(object).siblingAtColumn(column).data(ProjectTreeModel::MarkRole);
+        };
+        using Mark = ProjectTreeModel::Mark;
+        QCOMPARE(mark(group, ProjectTreeModel::HiddenColumn).toInt(), int(Mark::None));
+        QVERIFY(!mark(m_session->currentScreen(), ProjectTreeModel::HiddenColumn).isValid());
+        QSignalSpy changed(m_model.get(), &QAbstractItemModel::dataChanged);
+        const int steps = m_session->undoStack()->count();
+        m_model->toggleMark(ProjectTreeModel::HiddenColumn, {group});
+        QCOMPARE(m_session->undoStack()->count(), steps + 1);
+        QVERIFY(changed.count() >= 2);
+        QCOMPARE(mark(group, ProjectTreeModel::HiddenColumn).toInt(), int(Mark::Own));
+        QCOMPARE(mark(group, ProjectTreeModel::LockedColumn).toInt(), int(Mark::None));
+        QCOMPARE(mark(element("rectangle1"), ProjectTreeModel::HiddenColumn).toInt(), int(Mark::Inherited));
+        m_session->undo();
+        QCOMPARE(mark(element("rectangle1"), ProjectTreeModel::HiddenColumn).toInt(), int(Mark::None));
+        // Several follow the first.
+        m_model->toggleMark(ProjectTreeModel::LockedColumn, {element("rectangle1")});
+        m_model->toggleMark(ProjectTreeModel::LockedColumn, {group, element("rectangle1")});
+        QCOMPARE(mark(group, ProjectTreeModel::LockedColumn).toInt(), int(Mark::Own));
+        QCOMPARE(mark(element("rectangle1"), ProjectTreeModel::LockedColumn).toInt(), int(Mark::Own));
+        QCOMPARE(m_model->indexOf(group)
+                     .siblingAtColumn(ProjectTreeModel::LockedColumn)
+                     .data(Qt::AccessibleTextRole)
+                     .toString(),
+                 QStringLiteral("Locked"));
+    }
+
+    void theToolTipTellsClassAndPlace()
+    {
+        add("Rectangle");
+        m_session->setProperty(element("rectangle1"), QStringLiteral("position"), QStringLiteral("12,34"));
+        QCOMPARE(m_model->indexOf(element("rectangle1")).data(Qt::ToolTipRole).toString(),
+                 QStringLiteral("Rectangle at 12, 34"));
     }
 
     void aScreenIsReadWhenItsRowIsOpened()
@@ -198,6 +275,16 @@ private:
         const EditResult result = m_session->addElement(QString::fromLatin1(className),
                                                         m_session->project()->screen(QStringLiteral("main")), {}, {});
         QVERIFY2(result.accepted, qPrintable(result.message));
+    }
+
+    DesignerObject* addGroup() const
+    {
+        std::unique_ptr<DesignerObject> group(
+            DesignerFactory::instance()->createDataObject(QStringLiteral("Group"), nullptr));
+        DesignerObject* added = group.get();
+        Screen* screen = m_session->project()->screen(QStringLiteral("main"));
+        m_session->project()->execute(std::make_unique<AddObject>(screen, std::move(group), -1, nullptr));
+        return added;
     }
 
     DesignerObject* element(const char* id) const
