@@ -39,11 +39,11 @@ struct FormatChoice
     const char* text;
 };
 constexpr FormatChoice Formats[] = {
-    {PanelFormat::Full, "full", "All colors"},
-    {PanelFormat::Rgb565, "rgb565", "RGB565"},
-    {PanelFormat::Rgb565Dithered, "rgb565-dithered", "RGB565, dithered"},
-    {PanelFormat::Rgb332, "rgb332", "RGB332"},
-    {PanelFormat::Grey, "grey", "Gray"},
+    {PanelFormat::Full, "full", QT_TRANSLATE_NOOP("Core", "All colors")},
+    {PanelFormat::Rgb565, "rgb565", QT_TRANSLATE_NOOP("Core", "RGB565")},
+    {PanelFormat::Rgb565Dithered, "rgb565-dithered", QT_TRANSLATE_NOOP("Core", "RGB565, dithered")},
+    {PanelFormat::Rgb332, "rgb332", QT_TRANSLATE_NOOP("Core", "RGB332")},
+    {PanelFormat::Grey, "grey", QT_TRANSLATE_NOOP("Core", "Gray")},
 };
 
 } // namespace

@@ -122,10 +122,10 @@ bool CodeReader::toNextCall()
     return false;
 }
 
-bool CodeReader::isMemberCall() const
+bool CodeReader::isQualified() const
 {
     const QStringView before = QStringView(m_code).left(m_nameStart);
-    return before.endsWith(QLatin1Char('.'))
+    return before.endsWith(QLatin1Char('.')) || before.endsWith(QLatin1String("::"))
            || (before.endsWith(QLatin1String("->")) && !before.endsWith(QLatin1String("this->")));
 }
 

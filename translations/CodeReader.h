@@ -17,8 +17,8 @@ public:
     bool toNextCall();
     /** The name before the parenthesis. */
     [[nodiscard]] const QString& callee() const { return m_callee; }
-    /** The function belongs to the object that is named before it: `menu->add(`, `menu.add(`. */
-    [[nodiscard]] bool isMemberCall() const;
+    /** The function belongs to what is named before it: `menu->add(`, `menu.add(`, `Menu::add(`. */
+    [[nodiscard]] bool isQualified() const;
     /** All the code before the name, without comments. */
     [[nodiscard]] QString codeBefore() const { return m_code.left(m_nameStart); }
     /** The line of the name, from 1. */

@@ -53,8 +53,10 @@ SourceTexts::SourceTexts(const QString& code)
     CodeReader reader(code);
     while (reader.toNextCall()) {
         for (const TextFunction& function : qAsConst(functions)) {
-            if (reader.callee() != function.name || reader.isMemberCall())
+            if (reader.callee() != function.name)
                 continue;
+            if (reader.isQualified() && !commonTextFunctions().contains(function))
+                continue; // another one of that name
             const QStringList arguments = reader.arguments();
             if (arguments.size() <= function.argument || isParameter(arguments.at(function.argument)))
                 continue; // a declaration
