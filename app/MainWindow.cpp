@@ -298,15 +298,15 @@ void MainWindow::attach(EditSession* session)
     ImagePanel* images = m_workspace->images();
     m_imagesDock->setWidget(images);
     m_historyDock->setWidget(m_workspace->history());
-    // Last: the sheet's rows come and go and are appended to the order of the Tab key, where they follow its heading.
-    m_sheetDock->setWidget(m_workspace->sheet());
-    m_sheetActions->setSheet(m_workspace->sheet());
     m_workspace->tree()->addActions(m_edit->treeActions());
     m_workspace->tree()->addActions(m_arrange->contextActions());
     m_edit->setSession(session);
     m_arrange->setSession(session);
     m_projectPanels->setWorkspace(m_workspace.get());
     m_results->setWorkspace(m_workspace.get());
+    // Last: the sheet's rows come and go and are appended to the order of the Tab key, where they follow its heading.
+    m_sheetDock->setWidget(m_workspace->sheet());
+    m_sheetActions->setSheet(m_workspace->sheet());
     m_output->setSession(session);
     m_images->setWorkspace(m_workspace.get());
     m_view->setCanvas(canvas);

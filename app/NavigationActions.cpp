@@ -56,15 +56,7 @@ void NavigationActions::setWorkspace(Workspace* workspace)
 void NavigationActions::editProperties()
 {
     Q_EMIT propertiesRequested();
-    // The first editor of the sheet; its rows come before whatever follows in the window's order.
-    PropertySheet* sheet = m_workspace->sheet();
-    for (QWidget* widget = sheet->nextInFocusChain(); widget && widget != sheet; widget = widget->nextInFocusChain()) {
-        if (sheet->isAncestorOf(widget) && widget->isVisible() && widget->isEnabled()
-            && (widget->focusPolicy() & Qt::TabFocus)) {
-            widget->setFocus(Qt::TabFocusReason);
-            return;
-        }
-    }
+    m_workspace->sheet()->focusFirstField();
 }
 
 void NavigationActions::stepScreen(int steps)

@@ -131,7 +131,6 @@ ShortcutsDialog::ShortcutsDialog(QMainWindow* window, ShortcutSettings* settings
         if (column == 1 && chosen())
             m_recorder->setFocus();
     });
-    connect(m_recorder, &QKeySequenceEdit::keySequenceChanged, this, &ShortcutsDialog::record);
     connect(m_clear, &QPushButton::clicked, this, [this] { m_settings->assign(chosen(), {}); });
     connect(m_reset, &QPushButton::clicked, this, [this] { m_settings->reset(chosen()); });
     connect(m_takeOver, &QPushButton::clicked, this, &ShortcutsDialog::takeOver);
@@ -180,6 +179,10 @@ bool ShortcutsDialog::eventFilter(QObject* watched, QEvent* event)
         m_list->setFocus();
         return true;
     }
+    // The field itself would wait for more keys to follow.
+    const bool isModifier = key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_Meta;
+    if (watched == m_recorder && !isModifier)
+        QMetaObject::invokeMethod(this, &ShortcutsDialog::record, Qt::QueuedConnection);
     return QDialog::eventFilter(watched, event);
 }
 

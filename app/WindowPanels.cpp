@@ -20,6 +20,7 @@ namespace {
 
 constexpr int LeftWidth = 272;
 constexpr int RightWidth = 320;
+constexpr int SmallestCenter = 120; // pixels that are left to the canvas when panels grow back
 
 /// Whether \a dock stands in the window and can be seen: not closed, not floating, not behind another tab.
 bool isSeen(const QDockWidget* dock)
@@ -54,7 +55,6 @@ QDockWidget* WindowPanels::add(const QString& name, const QString& title, Qt::Do
     dock->setObjectName(name);
     dock->toggleViewAction()->setObjectName(QStringLiteral("panels.show") + name);
     m_window->addDockWidget(area, dock);
-    dock->installEventFilter(this);
     m_docks.append(dock);
     return dock;
 }
@@ -135,16 +135,32 @@ void WindowPanels::stepFocus(QWidget* center, int steps)
 
 bool WindowPanels::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == m_window) {
-        // The layout has been at work already when this event is seen.
-        if (event->type() == QEvent::Resize)
-            QTimer::singleShot(0, this, &WindowPanels::growBack);
-    } else if (event->type() == QEvent::Resize && m_window->isVisible() && m_window->size() == m_arrangedSize) {
-        // Not the window has changed its size: somebody has moved the edge of the panel.
-        if (auto* dock = qobject_cast<QDockWidget*>(watched); dock && !dock->isFloating())
-            m_widths.insert(dock, dock->width());
+    switch (event->type()) {
+    case QEvent::Resize:
+        // The layout has been at work already when this is seen, and is not always done.
+        QTimer::singleShot(0, this, &WindowPanels::growBack);
+        break;
+    case QEvent::MouseButtonPress: // on the edge of a panel, which is no widget of its own
+        m_widthsAtPress.clear();
+        for (QDockWidget* dock : std::as_const(m_docks))
+            m_widthsAtPress.insert(dock, dock->width());
+        break;
+    case QEvent::MouseButtonRelease:
+        QTimer::singleShot(0, this, &WindowPanels::rememberMovedEdges);
+        break;
+    default:
+        break;
     }
     return QObject::eventFilter(watched, event);
+}
+
+void WindowPanels::rememberMovedEdges()
+{
+    for (auto before = m_widthsAtPress.cbegin(); before != m_widthsAtPress.cend(); ++before) {
+        if (before.key()->width() != before.value() && !before.key()->isFloating())
+            m_widths.insert(before.key(), before.key()->width());
+    }
+    m_widthsAtPress.clear();
 }
 
 void WindowPanels::arrangeAsTheProgramComes()
@@ -161,26 +177,37 @@ void WindowPanels::arrangeAsTheProgramComes()
     m_window->resizeDocks({palette, tree}, {380, 300}, Qt::Vertical);
     m_window->resizeDocks({sheet, history}, {500, 180}, Qt::Vertical);
     tree->raise();
+    QTimer::singleShot(0, this, &WindowPanels::growBack);
 }
 
 void WindowPanels::growBack()
 {
-    QList<QDockWidget*> small;
-    QList<int> widths;
+    // One panel of each column that has become too narrow.
+    QHash<int, QDockWidget*> narrow;
+    int missing = 0;
     for (QDockWidget* dock : std::as_const(m_docks)) {
         const Qt::DockWidgetArea area = m_window->dockWidgetArea(dock);
-        const int width = m_widths.value(dock, 0);
-        if ((area == Qt::LeftDockWidgetArea || area == Qt::RightDockWidgetArea) && isSeen(dock)
-            && dock->width() < width) {
-            small.append(dock);
-            widths.append(width);
+        const int lost = m_widths.value(dock, 0) - dock->width();
+        if ((area == Qt::LeftDockWidgetArea || area == Qt::RightDockWidgetArea) && isSeen(dock) && lost > 0
+            && !narrow.contains(dock->x())) {
+            narrow.insert(dock->x(), dock);
+            missing += lost;
         }
     }
-    if (!small.isEmpty())
-        m_window->resizeDocks(small, widths, Qt::Horizontal);
-    m_arrangedSize = m_window->size();
+    const QWidget* center = m_window->centralWidget();
+    const int room = center->width() - qMax(center->minimumSizeHint().width(), SmallestCenter);
+    if (missing > 0 && room > 0) {
+        QList<QDockWidget*> docks;
+        QList<int> widths;
+        for (QDockWidget* dock : std::as_const(narrow)) {
+            const int lost = m_widths.value(dock) - dock->width();
+            docks.append(dock);
+            widths.append(dock->width() + int(qint64(lost) * qMin(missing, room) / missing));
+        }
+        m_window->resizeDocks(docks, widths, Qt::Horizontal);
+    }
     for (QDockWidget* dock : std::as_const(m_docks)) {
-        if (!dock->isFloating() && isSeen(dock) && dock->width() > m_widths.value(dock, 0))
+        if (!m_widths.contains(dock) && !dock->isFloating() && isSeen(dock))
             m_widths.insert(dock, dock->width());
     }
 }

@@ -4,7 +4,6 @@
 #include <QList>
 #include <QObject>
 #include <QPointer>
-#include <QSize>
 
 class QDockWidget;
 class QMainWindow;
@@ -54,16 +53,17 @@ protected:
 private:
     void arrangeAsTheProgramComes();
     void growBack();
+    void rememberMovedEdges();
     [[nodiscard]] QList<QWidget*> focusRing(QWidget* center) const;
     void followFocus(QWidget* old, QWidget* now);
 
     QMainWindow* m_window;
     QList<QDockWidget*> m_docks;
-    QHash<QDockWidget*, int> m_widths; // pixels, as they were given with room enough
+    QHash<QDockWidget*, int> m_widths; // pixels, as the user or the program gave them
+    QHash<QDockWidget*, int> m_widthsAtPress; // of the mouse, on an edge
     QHash<QDockWidget*, QPointer<QWidget>> m_lastFocus; // within each panel
     QByteArray m_initialState;
     QByteArray m_stateBeforeHiding;
-    QSize m_arrangedSize; // of the window, when the sizes of the panels were last in order
 };
 
 } // namespace Korvex::Meridane::Designer

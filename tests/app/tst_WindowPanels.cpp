@@ -7,7 +7,6 @@
 #include "host/core/sheet/PropertySheet.h"
 
 #include <QDockWidget>
-#include <QStandardPaths>
 
 using namespace Korvex::Meridane::Designer;
 using Test::TestWindow;
@@ -20,7 +19,7 @@ class tst_WindowPanels : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        QStandardPaths::setTestModeEnabled(true);
+        QVERIFY(TestWindow::isolate());
         (void)DesignerFactory::instance()->loadInstalledPlugins();
     }
 
@@ -58,17 +57,19 @@ private Q_SLOTS:
 
     void theWidthThatTheUserGivesIsKept()
     {
-        m_test->window->resizeDocks({dock("SheetDock")}, {430}, Qt::Horizontal);
-        QTRY_COMPARE(dock("SheetDock")->width(), 430);
+        dragEdge(-110);
+        const int wide = dock("SheetDock")->width();
+        QVERIFY2(qAbs(wide - 430) < 8, qPrintable(QString::number(wide)));
         resize({500, 300});
         resize({1400, 800});
-        QTRY_COMPARE(dock("SheetDock")->width(), 430);
+        QTRY_COMPARE(dock("SheetDock")->width(), wide);
         // Narrower by choice stays narrower.
-        m_test->window->resizeDocks({dock("SheetDock")}, {350}, Qt::Horizontal);
-        QTRY_COMPARE(dock("SheetDock")->width(), 350);
+        dragEdge(80);
+        const int narrow = dock("SheetDock")->width();
+        QVERIFY(narrow < wide);
         resize({1500, 800});
         QTest::qWait(50);
-        QCOMPARE(dock("SheetDock")->width(), 350);
+        QCOMPARE(dock("SheetDock")->width(), narrow);
     }
 
     void theLayoutIsReset()
@@ -147,6 +148,21 @@ private:
         m_test->window->resize(size);
         QCoreApplication::processEvents();
         QTest::qWait(1);
+    }
+
+    /// Moves the edge between canvas and property sheet by \a distance pixels.
+    void dragEdge(int distance) const
+    {
+        QMainWindow* window = m_test->window.get();
+        const QPoint edge(dock("SheetDock")->x() - 2, dock("SheetDock")->geometry().center().y());
+        QTest::mouseMove(window, edge);
+        QTest::mousePress(window, Qt::LeftButton, {}, edge);
+        QTest::mouseMove(window, edge + QPoint(distance / 2, 0));
+        QTest::qWait(20);
+        QTest::mouseMove(window, edge + QPoint(distance, 0));
+        QTest::qWait(20);
+        QTest::mouseRelease(window, Qt::LeftButton, {}, edge + QPoint(distance, 0));
+        QTest::qWait(20);
     }
 
     /// The name of the panel that has the focus.
