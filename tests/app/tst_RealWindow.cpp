@@ -189,8 +189,8 @@ private Q_SLOTS:
     }
 
 private:
-    /// Rows of the sheet that take the focus before the width: id, x, y, slider and number of the angle, its fixed point.
-    static constexpr int WidthRow = 6;
+    /// What takes the focus in the sheet before the width: id, heading, x, y, slider and number of the angle, its fixed point.
+    static constexpr int WidthRow = 7;
     const QColor m_screenColor{0x20, 0x40, 0x60};
     const QColor m_fillColor{248, 151, 29};
 

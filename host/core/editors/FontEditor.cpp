@@ -62,12 +62,8 @@ bool FontEditor::createEditorWidget()
         connect(m_widget->styleButtons().at(i), &FontStyleButton::userModified, this,
                 save(StyleComponents.at(static_cast<std::size_t>(i))));
     }
-    // Wide enough for what fonts have in practice; the limits of the fields would ask for twice the width of a sheet.
-    const int fieldWidth = fontMetrics().horizontalAdvance(QStringLiteral("0.00 px")) + fontMetrics().height() * 3 / 2;
-    for (SpinBox* field : {m_widget->sizeField(), m_widget->letterSpacingField(), m_widget->wordSpacingField()}) {
-        field->setMinimumWidth(fieldWidth);
+    for (SpinBox* field : {m_widget->sizeField(), m_widget->letterSpacingField(), m_widget->wordSpacingField()})
         joinSteps(field);
-    }
     connect(m_widget->importButton(), &QToolButton::clicked, this, &FontEditor::chooseFile);
     setEditorWidget(m_widget);
     propertyReplaced();

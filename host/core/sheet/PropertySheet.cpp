@@ -207,6 +207,39 @@ QSize PropertySheet::sizeHint() const
     return {280, 480};
 }
 
+bool PropertySheet::focusNextPrevChild(bool next)
+{
+    const QList<QWidget*> stops = tabStops();
+    const qsizetype at = stops.indexOf(QApplication::focusWidget());
+    const qsizetype wanted = next ? at + 1 : at - 1;
+    if (at < 0 || wanted < 0 || wanted >= stops.size())
+        return QScrollArea::focusNextPrevChild(next);
+    stops.at(wanted)->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
+}
+
+/// What the Tab key goes through in the sheet, in the order of the rows: within each of the three parts that is the order
+/// in which its widgets were made.
+QList<QWidget*> PropertySheet::tabStops() const
+{
+    QList<QWidget*> stops;
+    const auto add = [&stops](QWidget* part) {
+        QWidget* widget = part;
+        do {
+            const bool takesTab = (widget->focusPolicy() & Qt::TabFocus) && !widget->focusProxy();
+            if (takesTab && widget->isVisible() && widget->isEnabled()
+                && (widget == part || part->isAncestorOf(widget)))
+                stops.append(widget);
+            widget = widget->nextInFocusChain();
+        } while (widget != part);
+    };
+    add(m_search);
+    add(m_heading);
+    if (m_panel)
+        add(m_panel);
+    return stops;
+}
+
 void PropertySheet::resizeEvent(QResizeEvent* event)
 {
     QScrollArea::resizeEvent(event);

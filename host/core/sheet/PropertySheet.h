@@ -76,6 +76,8 @@ Q_SIGNALS:
     void canResetCurrentChanged();
 
 protected:
+    /// Goes through search line, heading and rows in the order in which one sees them, whatever the window has made since.
+    bool focusNextPrevChild(bool next) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
 
@@ -91,6 +93,7 @@ private:
     void onModificationRefused(const QString& message);
     void keepDirectChanges(const QVector<PropertyChange>& changes);
     void rebuildIfNeeded();
+    [[nodiscard]] QList<QWidget*> tabStops() const;
     void applyFilter();
     void leaveSearch();
     void focusFirstResult();

@@ -118,6 +118,8 @@ void SheetHeading::rename()
 void SheetHeading::showId()
 {
     m_id->setText(m_object ? m_object->getIdName() : QString());
+    if (!m_id->hasFocus())
+        m_id->setCursorPosition(0);
     m_message->setMessage({});
 }
 
