@@ -20,6 +20,14 @@ namespace Korvex::Meridane::Designer::Test {
 class TestWindow
 {
 public:
+    /// Gives the program a folder of its own for settings and caches, which other tests that run meanwhile do not touch.
+    static bool isolate()
+    {
+        static const QTemporaryDir home;
+        return qputenv("XDG_CONFIG_HOME", home.filePath(QStringLiteral("config")).toUtf8())
+               && qputenv("XDG_CACHE_HOME", home.filePath(QStringLiteral("cache")).toUtf8()) && home.isValid();
+    }
+
     /// \a fresh: with the settings that the program comes with; else with those of the window before.
     explicit TestWindow(bool fresh = true)
     {

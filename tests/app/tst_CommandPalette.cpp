@@ -12,7 +12,6 @@
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QListView>
-#include <QStandardPaths>
 
 using namespace Korvex::Meridane::Designer;
 using Test::TestWindow;
@@ -25,7 +24,7 @@ class tst_CommandPalette : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        QStandardPaths::setTestModeEnabled(true);
+        QVERIFY(TestWindow::isolate());
         (void)DesignerFactory::instance()->loadInstalledPlugins();
     }
 

@@ -29,7 +29,7 @@ class tst_StartPage : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        QStandardPaths::setTestModeEnabled(true);
+        QVERIFY(TestWindow::isolate());
         (void)DesignerFactory::instance()->loadInstalledPlugins();
     }
 
