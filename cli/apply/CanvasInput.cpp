@@ -35,6 +35,8 @@ CanvasInput::CanvasInput(EditSession* session)
     });
     // A scripted drag has no unsteady hand: every way counts.
     QApplication::setStartDragDistance(1);
+    // Nothing is seen of handles here: every element keeps its own, however many are selected.
+    m_view.setSelectionFrame(false);
     m_view.setFrameShape(QFrame::NoFrame);
     m_view.resize(ViewSide, ViewSide);
     m_view.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

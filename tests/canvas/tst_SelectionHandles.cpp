@@ -253,6 +253,8 @@ private Q_SLOTS:
                             {QStringLiteral("pointList"), QStringLiteral("0,0 0,80 40,90 ") + QLatin1String(far)}});
             DesignerObject* rectangle = canvas.addRectangle(QRectF(500, 300, 60, 40));
             canvas.select({points, rectangle});
+            QVERIFY(!canvas.view->grab().toImage().isNull());
+            canvas.select({points});
             const QImage image = canvas.view->grab().toImage();
             QVERIFY(!image.isNull());
             QCOMPARE(image.pixelColor(canvas.view->viewportTransform().map(QPointF(240, 240)).toPoint()),

@@ -133,6 +133,12 @@ void CanvasView::zoomToSelection()
     centerOn(selected.center());
 }
 
+void CanvasView::setSelectionFrame(bool on)
+{
+    m_selectionFrame = on;
+    updateHandles();
+}
+
 void CanvasView::setAids(const CanvasAids& aids)
 {
     if (aids == m_aids)

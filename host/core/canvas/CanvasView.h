@@ -59,6 +59,11 @@ public:
     /// Begins to drag a new guide out of its ruler; \a viewPos: where the mouse button went down.
     void beginGuide(Qt::Orientation orientation, const QPointF& viewPos);
 
+    /// Whether several selected elements have one frame with handles around all of them, and none of their own. They have
+    /// in a new view.
+    [[nodiscard]] bool hasSelectionFrame() const { return m_selectionFrame; }
+    void setSelectionFrame(bool on);
+
     /// Draws an outline around \a element, as around the one under the mouse, until the mouse moves on; null: none.
     void setOutlined(DesignerObject* element);
     [[nodiscard]] DesignerObject* outlined() const;
@@ -137,6 +142,7 @@ private:
     std::unique_ptr<CanvasKeys> m_keys;
     std::unique_ptr<CanvasGuides> m_guides;
     CanvasAids m_aids;
+    bool m_selectionFrame = true;
     CanvasRuler* m_topRuler;
     CanvasRuler* m_leftRuler;
     QPointer<DesignerObject> m_hovered; // whose handle is under the mouse

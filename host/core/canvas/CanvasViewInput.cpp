@@ -18,6 +18,7 @@
 #include "host/core/canvas/RotateGesture.h"
 #include "host/core/canvas/RubberBandGesture.h"
 #include "host/core/canvas/SelectionHandles.h"
+#include "host/core/canvas/SelectionResizeGesture.h"
 #include "host/core/objects/DesignerObject.h"
 #include "host/core/plugins/DesignerFactory.h"
 
@@ -307,6 +308,8 @@ std::unique_ptr<Gesture> CanvasView::gestureForPress(const CanvasPointer& pointe
         return std::make_unique<ResizeGesture>(this, pointer, hit.object, hit.number);
     case HandleHit::Kind::Rotation:
         return std::make_unique<RotateGesture>(this, pointer, hit.object);
+    case HandleHit::Kind::Selection:
+        return std::make_unique<SelectionResizeGesture>(this, pointer, hit.objects, hit.number);
     case HandleHit::Kind::None:
         break;
     }

@@ -1,5 +1,6 @@
 #include "host/core/canvas/SelectionHandles.h"
 
+#include "host/core/arrange/ElementPlaces.h"
 #include "host/core/canvas/CanvasScene.h"
 #include "host/core/canvas/CanvasView.h"
 #include "host/core/canvas/GraphicsItem.h"
@@ -25,6 +26,7 @@ namespace {
 
 // All in screen pixels.
 constexpr double SquareSide = 7;
+constexpr double SquareHitDistance = 6; // from the middle of a square of the selection's frame
 constexpr double DotDiameter = 8;
 constexpr double KnobDiameter = 9;
 constexpr double KnobDistance = 22; // from the frame's upper side
@@ -103,6 +105,14 @@ QPointF onPixel(const QPointF& point)
     return {std::floor(point.x()) + 0.5, std::floor(point.y()) + 0.5};
 }
 
+/// A square handle, sharp at every zoom.
+void paintSquare(const QPointF& center, QPainter* painter)
+{
+    painter->fillRect(around(center, SquareSide + 4), Light);
+    painter->fillRect(around(center, SquareSide + 2), Dark);
+    painter->fillRect(around(center, SquareSide), Light);
+}
+
 } // namespace
 
 SelectionHandles::SelectionHandles(const CanvasView* view)
@@ -114,6 +124,16 @@ HandleHit SelectionHandles::hit(const QPointF& scenePos) const
     const CanvasScene* scene = m_view->canvasScene();
     if (!scene)
         return {};
+    const Together all = together();
+    if (all.objects.size() > 1) {
+        const QPointF mouse = m_view->viewportTransform().map(scenePos);
+        const QList<std::pair<int, QPointF>> handles = handlesOf(all);
+        for (const auto& [number, center] : handles) {
+            if (around(center, 2 * SquareHitDistance).contains(mouse))
+                return {HandleHit::Kind::Selection, nullptr, number, all.objects};
+        }
+        return {};
+    }
     // Only what lies about the mouse is asked. Bounding rectangles, because handles stand at a frame's empty corners.
     const double reach = 3 * 5 / scene->viewScale();
     const QRectF about(scenePos.x() - reach, scenePos.y() - reach, 2 * reach, 2 * reach);
@@ -128,13 +148,13 @@ HandleHit SelectionHandles::hit(const QPointF& scenePos) const
         bool handled = false;
         const int point = item->getResizePointHandle(scenePos, &handled);
         if (point >= 0)
-            return {HandleHit::Kind::Point, item->dataObject(), point};
+            return {HandleHit::Kind::Point, item->dataObject(), point, {}};
     }
     for (GraphicsItem* item : std::as_const(candidates)) {
         bool handled = false;
         const int handle = item->getResizeHandle(scenePos, &handled);
         if (isFrameHandle(handle))
-            return {HandleHit::Kind::Frame, item->dataObject(), handle};
+            return {HandleHit::Kind::Frame, item->dataObject(), handle, {}};
     }
     const QList<GraphicsItem*> shown = shownItems();
     if (shown.size() == 1) {
@@ -143,7 +163,7 @@ HandleHit SelectionHandles::hit(const QPointF& scenePos) const
             && distance(m_view->viewportTransform().map(scenePos), shownMarks.knob) <= KnobHitRadius) {
             shown.first()->setHandleToolTip(
                 LocalizationHelper::coreString(QStringLiteral("Drag this point to rotate")));
-            return {HandleHit::Kind::Rotation, shown.first()->dataObject(), -1};
+            return {HandleHit::Kind::Rotation, shown.first()->dataObject(), -1, {}};
         }
     }
     return {};
@@ -159,6 +179,7 @@ QCursor SelectionHandles::cursor(const HandleHit& hit)
     case HandleHit::Kind::Rotation:
         return Qt::PointingHandCursor;
     case HandleHit::Kind::Frame:
+    case HandleHit::Kind::Selection:
         break;
     }
     switch (hit.number) {
@@ -176,8 +197,64 @@ QCursor SelectionHandles::cursor(const HandleHit& hit)
     }
 }
 
+/// The selected elements that one frame is drawn around, and where.
+SelectionHandles::Together SelectionHandles::together() const
+{
+    Together together;
+    const CanvasScene* scene = m_view->canvasScene();
+    const QList<QGraphicsItem*> selected =
+        scene && m_view->hasSelectionFrame() ? scene->selectedItems() : QList<QGraphicsItem*>();
+    if (selected.size() < 2)
+        return together;
+    together.objects = scene->movableRoots();
+    if (together.objects.size() < 2)
+        return together;
+    for (const DesignerObject* object : std::as_const(together.objects))
+        together.frame |= ElementPlaces::outerBounds(object, object->graphicsItem()->graphic()->sceneTransform());
+    return together;
+}
+
+/// The handles of a frame around several elements, with their numbers, in viewport pixels. A side that is too short has
+/// none at its ends.
+QList<std::pair<int, QPointF>> SelectionHandles::handlesOf(const Together& together) const
+{
+    constexpr double ShortestSide = 10; // screen pixels
+    const QRectF frame = m_view->viewportTransform().mapRect(together.frame);
+    QList<std::pair<int, QPointF>> handles;
+    for (const TransformOrigin handle : {TopLeft, Top, TopRight, Left, Right, BottomLeft, Bottom, BottomRight}) {
+        const bool isWide = !handleChangesWidth(handle) || frame.width() > ShortestSide;
+        const bool isHigh = !handleChangesHeight(handle) || frame.height() > ShortestSide;
+        if (isWide && isHigh)
+            handles.append({int(handle), onPixel(fixedPointPosition(handle, frame))});
+    }
+    return handles;
+}
+
+void SelectionHandles::paintTogether(const Together& together, QPainter* painter) const
+{
+    const QRectF frame = m_view->viewportTransform().mapRect(together.frame);
+    painter->setRenderHint(QPainter::Antialiasing, false);
+    painter->setBrush(Qt::NoBrush);
+    // What lies far outside would only cost time.
+    const QRectF seen = frame & area().adjusted(-2, -2, 2, 2);
+    painter->setPen(QPen(Light, 1));
+    painter->drawRect(seen);
+    painter->setPen(QPen(Dark, 1, Qt::DashLine));
+    painter->drawRect(seen);
+    const QList<std::pair<int, QPointF>> handles = handlesOf(together);
+    for (const auto& [number, center] : handles) {
+        if (isWithin(area(), center))
+            paintSquare(center, painter);
+    }
+}
+
 void SelectionHandles::paint(QPainter* painter) const
 {
+    const Together all = together();
+    if (all.objects.size() > 1) {
+        paintTogether(all, painter);
+        return;
+    }
     const QList<GraphicsItem*> shown = shownItems();
     const QColor accent = m_view->palette().color(QPalette::Highlight);
     for (const GraphicsItem* item : shown) {
@@ -204,11 +281,8 @@ void SelectionHandles::paint(QPainter* painter) const
             drawDot(shownMarks.knob, KnobDiameter, Light);
         // Whole pixels without antialiasing: sharp at every zoom.
         painter->setRenderHint(QPainter::Antialiasing, false);
-        for (const QPointF& center : shownMarks.squares) {
-            painter->fillRect(around(center, SquareSide + 4), Light);
-            painter->fillRect(around(center, SquareSide + 2), Dark);
-            painter->fillRect(around(center, SquareSide), Light);
-        }
+        for (const QPointF& center : shownMarks.squares)
+            paintSquare(center, painter);
         painter->setRenderHint(QPainter::Antialiasing);
         const QList<QPointF> centers = dots(item);
         for (const QPointF& center : centers)
@@ -222,6 +296,19 @@ QRegion SelectionHandles::region() const
     const QRectF viewport = m_view->viewport()->rect();
     // What lies outside may lie further away than whole numbers reach.
     const auto add = [&](const QRectF& rect) { region += (rect & viewport).toAlignedRect(); };
+    const Together all = together();
+    if (all.objects.size() > 1) {
+        const QRectF frame = m_view->viewportTransform().mapRect(all.frame);
+        constexpr double Width = 2;
+        add(QRectF(frame.left() - Width, frame.top() - Width, frame.width() + 2 * Width, 2 * Width));
+        add(QRectF(frame.left() - Width, frame.bottom() - Width, frame.width() + 2 * Width, 2 * Width));
+        add(QRectF(frame.left() - Width, frame.top() - Width, 2 * Width, frame.height() + 2 * Width));
+        add(QRectF(frame.right() - Width, frame.top() - Width, 2 * Width, frame.height() + 2 * Width));
+        const QList<std::pair<int, QPointF>> handles = handlesOf(all);
+        for (const auto& [number, center] : handles)
+            add(around(center, SquareSide + 6));
+        return region;
+    }
     const QList<GraphicsItem*> shown = shownItems();
     for (const GraphicsItem* item : shown) {
         const Marks shownMarks = marks(item, shown.size() == 1);

@@ -1,8 +1,12 @@
 #pragma once
 
 #include <QCursor>
+#include <QList>
 #include <QPointer>
+#include <QRectF>
 #include <QRegion>
+
+#include <utility>
 
 class QPainter;
 
@@ -20,12 +24,14 @@ struct HandleHit
         None,
         Point,
         Frame,
-        Rotation
+        Rotation,
+        Selection ///< of the frame around several selected elements
     };
 
     Kind kind = Kind::None;
     QPointer<DesignerObject> object;
     int number = -1; ///< the point's own number, or the frame handle's
+    QList<DesignerObject*> objects; ///< of a selection's frame: what it is around
 };
 
 /**
@@ -34,6 +40,9 @@ struct HandleHit
  * They have the same size on the screen at every zoom: squares at the frame's corners and sides, dots on the points
  * that can be dragged, and, for a single selected element that can be rotated, a knob above its frame. A dark line in a
  * light one keeps them visible on any ground.
+ *
+ * Several selected elements that can be moved have one frame around all of them instead, and none of their own, where the
+ * view says so (CanvasView::setSelectionFrame()).
  *
  * Only what can be seen is drawn. Where an element has more points in view than can be told apart, some of them stand
  * for all, further apart; every point can be dragged all the same.
@@ -62,6 +71,15 @@ private:
         QPointF knob;
         bool hasKnob = false;
     };
+    /// The frame around several selected elements, in scene coordinates.
+    struct Together
+    {
+        QList<DesignerObject*> objects; ///< fewer than two: there is none
+        QRectF frame;
+    };
+    [[nodiscard]] Together together() const;
+    [[nodiscard]] QList<std::pair<int, QPointF>> handlesOf(const Together& together) const;
+    void paintTogether(const Together& together, QPainter* painter) const;
     [[nodiscard]] QList<GraphicsItem*> shownItems() const;
     [[nodiscard]] Marks marks(const GraphicsItem* item, bool alone) const;
     [[nodiscard]] QList<QPointF> dots(const GraphicsItem* item) const;
