@@ -32,19 +32,22 @@ const QString CorrectionKey = QStringLiteral("panel/screenCorrection");
 constexpr double UnknownDensity = 20; // below any panel's; the field shows a text for it
 constexpr double LargestDensity = 1000;
 
-struct FormatChoice
+QString formatText(PanelFormat format)
 {
-    PanelFormat format;
-    const char* name; // in the settings
-    const char* text;
-};
-constexpr FormatChoice Formats[] = {
-    {PanelFormat::Full, "full", QT_TRANSLATE_NOOP("Core", "All colors")},
-    {PanelFormat::Rgb565, "rgb565", QT_TRANSLATE_NOOP("Core", "RGB565")},
-    {PanelFormat::Rgb565Dithered, "rgb565-dithered", QT_TRANSLATE_NOOP("Core", "RGB565, dithered")},
-    {PanelFormat::Rgb332, "rgb332", QT_TRANSLATE_NOOP("Core", "RGB332")},
-    {PanelFormat::Grey, "grey", QT_TRANSLATE_NOOP("Core", "Gray")},
-};
+    switch (format) {
+    case PanelFormat::Full:
+        break;
+    case PanelFormat::Rgb565:
+        return coreText("RGB565");
+    case PanelFormat::Rgb565Dithered:
+        return coreText("RGB565, dithered");
+    case PanelFormat::Rgb332:
+        return coreText("RGB332");
+    case PanelFormat::Grey:
+        return coreText("Gray");
+    }
+    return coreText("All colors");
+}
 
 } // namespace
 
@@ -72,8 +75,9 @@ DevicePanel::DevicePanel(EditSession* session, CanvasView* canvas, QWidget* pare
 QWidget* DevicePanel::makeChoices()
 {
     m_format = new QComboBox;
-    for (const FormatChoice& choice : Formats)
-        m_format->addItem(coreText(choice.text), QLatin1String(choice.name));
+    const QList<PanelFormat> formats = PanelColors::formats();
+    for (const PanelFormat format : formats)
+        m_format->addItem(formatText(format), PanelColors::name(format));
     m_format->setAccessibleName(coreText("Colors of the panel"));
     m_format->setToolTip(m_format->accessibleName());
     m_rotation = new QComboBox;
@@ -158,10 +162,7 @@ void DevicePanel::takeChoices()
 
 void DevicePanel::setFormat(PanelFormat format)
 {
-    for (int i = 0; i < m_format->count(); ++i) {
-        if (Formats[i].format == format)
-            m_format->setCurrentIndex(i);
-    }
+    m_format->setCurrentIndex(m_format->findData(PanelColors::name(format)));
     takeChoices();
 }
 
@@ -207,7 +208,8 @@ void DevicePanel::refresh()
     m_changes->forget();
     Screen* current = m_session->currentScreen();
     const QImage rendered = current ? ScreenRenderer::render(m_session->scene(current)) : QImage();
-    const QImage shown = PanelColors::shown(rendered, Formats[std::max(m_format->currentIndex(), 0)].format);
+    const auto format = PanelColors::named(m_format->currentData().toString());
+    const QImage shown = PanelColors::shown(rendered, format.value_or(PanelFormat::Full));
     const bool isPhysical = m_physical->isChecked() && m_panelDensity->value() > UnknownDensity;
     m_picture->setScale(isPhysical ? physicalScale(m_panelDensity->value(), screen()->physicalDotsPerInch(),
                                                    m_correction->value() / 100)

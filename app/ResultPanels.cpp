@@ -23,18 +23,18 @@ ResultPanels::ResultPanels(WindowPanels* panels, QObject* parent)
     , m_deviceDock(panels->add(QStringLiteral("DeviceDock"), coreText("As on the Panel"), Qt::RightDockWidgetArea))
 {
     m_actions = {
-        makeAction("view.showLivePreview", "preview-live", "&Live Preview", QKeySequence(Qt::SHIFT | Qt::Key_F5),
-                   m_previewDock),
-        makeAction("view.showAsOnPanel", "panel", "As on the Pan&el", QKeySequence(Qt::CTRL | Qt::Key_F5),
+        makeAction("view.showLivePreview", "preview-live", coreText("&Live Preview"),
+                   QKeySequence(Qt::SHIFT | Qt::Key_F5), m_previewDock),
+        makeAction("view.showAsOnPanel", "panel", coreText("As on the Pan&el"), QKeySequence(Qt::CTRL | Qt::Key_F5),
                    m_deviceDock),
-        makeAction("view.showQml", "qml", "&QML", QKeySequence(Qt::CTRL | Qt::Key_U), m_qmlDock),
+        makeAction("view.showQml", "qml", coreText("&QML"), QKeySequence(Qt::CTRL | Qt::Key_U), m_qmlDock),
     };
 }
 
-QAction* ResultPanels::makeAction(const char* name, const char* icon, const char* text, const QKeySequence& shortcut,
+QAction* ResultPanels::makeAction(const char* name, const char* icon, const QString& text, const QKeySequence& shortcut,
                                   QDockWidget* dock)
 {
-    auto* action = new WindowAction(QLatin1String(icon), coreText(text), {shortcut}, this);
+    auto* action = new WindowAction(QLatin1String(icon), text, {shortcut}, this);
     action->setObjectName(QLatin1String(name));
     action->setCheckable(true);
     connect(action, &QAction::triggered, dock, [dock](bool checked) {

@@ -40,7 +40,7 @@ public:
     [[nodiscard]] DevicePanel* device() const { return m_device; }
 
 private:
-    [[nodiscard]] QAction* makeAction(const char* name, const char* icon, const char* text,
+    [[nodiscard]] QAction* makeAction(const char* name, const char* icon, const QString& text,
                                       const QKeySequence& shortcut, QDockWidget* dock);
 
     QDockWidget* m_qmlDock;

@@ -31,9 +31,6 @@ PictureFiles::~PictureFiles()
 
 bool PictureFiles::add(const QString& fileName, const QImage& picture, QString* message)
 {
-    FileOperations& operations = FileOperations::current();
-    if (!operations.makePath(m_folder, &m_madeFolders, message))
-        return false;
     const QDir folder(m_folder);
     QByteArray bytes;
     QBuffer buffer(&bytes);
@@ -43,9 +40,18 @@ bool PictureFiles::add(const QString& fileName, const QImage& picture, QString* 
                        .arg(folder.filePath(fileName));
         return false;
     }
+    return add(fileName, bytes, message);
+}
+
+bool PictureFiles::add(const QString& fileName, const QByteArray& content, QString* message)
+{
+    FileOperations& operations = FileOperations::current();
+    if (!operations.makePath(m_folder, &m_madeFolders, message))
+        return false;
+    const QDir folder(m_folder);
     const QString beside =
         folder.filePath(QStringLiteral(".%1.%2").arg(fileName).arg(QCoreApplication::applicationPid()));
-    if (!operations.createFile(beside, bytes, message))
+    if (!operations.createFile(beside, content, message))
         return false;
     m_files.append({beside, folder.filePath(fileName)});
     return true;

@@ -23,6 +23,8 @@ public:
 
     /// Writes \a picture as PNG for the name \a fileName; false with a message that names the file.
     [[nodiscard]] bool add(const QString& fileName, const QImage& picture, QString* message);
+    /// The same for the \a content of a file.
+    [[nodiscard]] bool add(const QString& fileName, const QByteArray& content, QString* message);
     /// The file of that name goes when the others come. None is fine.
     void remove(const QString& fileName);
     /// The pictures take their names; false with a message that names the file.

@@ -11,6 +11,7 @@
 #include "host/core/canvas/EditSession.h"
 #include "host/core/canvas/ScreenRenderer.h"
 #include "host/core/objects/Screen.h"
+#include "host/core/output/ScreenSvg.h"
 #include "host/core/project/Project.h"
 #include "host/core/values/ValueConversion.h"
 
@@ -45,7 +46,8 @@ QString RenderCommand::name() const
 
 QString RenderCommand::synopsis() const
 {
-    return QStringLiteral("PROJECT --output FOLDER [--screen ID] [--scale F] [--compare FOLDER [--tolerance F]]");
+    return QStringLiteral("PROJECT --output FOLDER [--screen ID [--elements IDS]] [--scale F] [--format png|svg] "
+                          "[--transparent] [--panel COLORS] [--compare FOLDER [--tolerance F]]");
 }
 
 QString RenderCommand::summary() const
@@ -60,6 +62,15 @@ QList<QCommandLineOption> RenderCommand::options() const
             {QStringLiteral("screen"), QStringLiteral("Draws this screen alone."), QStringLiteral("ID")},
             {QStringLiteral("scale"), QStringLiteral("Picture pixels for one pixel of the display, 0.01 to 100; 1."),
              QStringLiteral("F")},
+            {QStringLiteral("elements"),
+             QStringLiteral("Draws these elements of the screen alone, as large as they are; ids separated by commas."),
+             QStringLiteral("IDS")},
+            {QStringLiteral("format"), QStringLiteral("png or svg: a picture SCREEN.png or a drawing SCREEN.svg; png."),
+             QStringLiteral("FORMAT")},
+            {QStringLiteral("transparent"), QStringLiteral("Leaves the colour of the screen out.")},
+            {QStringLiteral("panel"),
+             QStringLiteral("As a panel shows it: rgb565, rgb565-dithered, rgb332 or grey; full."),
+             QStringLiteral("COLORS")},
             {QStringLiteral("compare"),
              QStringLiteral("Compares with the pictures in this folder and writes SCREEN.diff.png where they differ."),
              QStringLiteral("FOLDER")},
@@ -81,7 +92,7 @@ bool RenderCommand::readArguments(const QCommandLineParser& parser, QString* mes
         || !reader.optional(QStringLiteral("screen"), &m_screen)
         || !reader.real(QStringLiteral("scale"), SmallestScale, LargestScale, &m_scale)
         || !reader.optional(QStringLiteral("compare"), &m_reference)
-        || !reader.real(QStringLiteral("tolerance"), 0, 255, &m_tolerance))
+        || !reader.real(QStringLiteral("tolerance"), 0, 255, &m_tolerance) || !readFormat(parser, message))
         return false;
     if (m_reference.isEmpty() && parser.isSet(QStringLiteral("tolerance"))) {
         *message = LocalizationHelper::coreString(QStringLiteral("The option --tolerance is for --compare."));
@@ -93,6 +104,36 @@ bool RenderCommand::readArguments(const QCommandLineParser& parser, QString* mes
         return false;
     }
     return true;
+}
+
+bool RenderCommand::readFormat(const QCommandLineParser& parser, QString* message)
+{
+    ArgumentReader reader(parser, message);
+    QString format = QStringLiteral("png");
+    QString panel;
+    QString elements;
+    if (!reader.optional(QStringLiteral("format"), &format) || !reader.optional(QStringLiteral("panel"), &panel)
+        || !reader.optional(QStringLiteral("elements"), &elements))
+        return false;
+    m_isDrawing = format == QLatin1String("svg");
+    m_ground = !parser.isSet(QStringLiteral("transparent"));
+    m_elements = elements.split(QLatin1Char(','), Qt::SkipEmptyParts);
+    m_panel = PanelColors::named(panel);
+    if (!m_isDrawing && format != QLatin1String("png"))
+        *message = LocalizationHelper::coreString(QStringLiteral("The format is png or svg, not \"%1\".")).arg(format);
+    else if (!panel.isEmpty() && !m_panel)
+        *message =
+            LocalizationHelper::coreString(
+                QStringLiteral("The colours of --panel are full, rgb565, rgb565-dithered, rgb332 or grey, not \"%1\"."))
+                .arg(panel);
+    else if (m_isDrawing && (m_panel || !m_reference.isEmpty()))
+        *message =
+            LocalizationHelper::coreString(QStringLiteral("The options --panel and --compare are for --format png."));
+    else if (m_panel && !m_ground)
+        *message = LocalizationHelper::coreString(QStringLiteral("A panel shows nothing that is transparent."));
+    else if (!m_elements.isEmpty() && m_screen.isEmpty())
+        *message = LocalizationHelper::coreString(QStringLiteral("The option --elements is for --screen."));
+    return message->isEmpty();
 }
 
 ExitStatus RenderCommand::run(StandardOutput& output)
@@ -135,8 +176,24 @@ bool RenderCommand::drawScreen(EditSession& session, Screen* screen, PictureFile
         Messages::print(QStringLiteral("screens/%1.json: %2").arg(id, screen->contentError()));
         return false;
     }
-    const QImage picture = ScreenRenderer::render(session.scene(screen), m_scale);
+    RenderOptions options;
+    options.scale = m_scale;
+    options.ground = m_ground;
     QString message;
+    CanvasScene* scene = session.scene(screen); // makes the items of the elements, too
+    if (!findElements(screen, &options.only))
+        return false;
+    if (m_isDrawing) {
+        const QByteArray svg = ScreenSvg::draw(scene, options);
+        if (!pictures.add(id + QLatin1String(".svg"), svg, &message)) {
+            Messages::print(message);
+            return false;
+        }
+        return true;
+    }
+    QImage picture = ScreenRenderer::render(scene, options);
+    if (m_panel)
+        picture = PanelColors::shown(picture, *m_panel);
     if (picture.isNull()) {
         Messages::print(LocalizationHelper::coreString(
                             QStringLiteral("%1: there is not enough memory for a picture of %2 pixels at scale %3"))
@@ -149,6 +206,20 @@ bool RenderCommand::drawScreen(EditSession& session, Screen* screen, PictureFile
     }
     if (!m_reference.isEmpty() && !compareScreen(id, picture, pictures, output))
         m_agrees = false;
+    return true;
+}
+
+bool RenderCommand::findElements(Screen* screen, QList<DesignerObject*>* elements) const
+{
+    for (const QString& id : m_elements) {
+        DesignerObject* element = screen->element(id);
+        if (!element || !element->graphicsItem()) {
+            Messages::print(LocalizationHelper::coreString(QStringLiteral("The screen \"%1\" has no element \"%2\"."))
+                                .arg(screen->getIdName(), id));
+            return false;
+        }
+        elements->append(element);
+    }
     return true;
 }
 

@@ -2,10 +2,16 @@
 
 #include "cli/Command.h"
 
+#include "host/core/output/PanelColors.h"
+
 #include <QImage>
+#include <QStringList>
+
+#include <optional>
 
 namespace Korvex::Meridane::Designer {
 
+class DesignerObject;
 class EditSession;
 class PictureFiles;
 class Screen;
@@ -23,6 +29,8 @@ public:
     ExitStatus run(StandardOutput& output) override;
 
 private:
+    [[nodiscard]] bool readFormat(const QCommandLineParser& parser, QString* message);
+    [[nodiscard]] bool findElements(Screen* screen, QList<DesignerObject*>* elements) const;
     [[nodiscard]] bool drawScreen(EditSession& session, Screen* screen, PictureFiles& pictures, StandardOutput& output);
     /// True when \a picture agrees with the reference picture of that screen.
     [[nodiscard]] bool compareScreen(const QString& screenId, const QImage& picture, PictureFiles& pictures,
@@ -34,6 +42,10 @@ private:
     QString m_reference; // empty: nothing is compared
     double m_scale = 1; // picture pixels for one pixel of the display
     double m_tolerance = 0; // greatest accepted channel difference, 0 … 255
+    QStringList m_elements; // ids; empty: all
+    std::optional<PanelFormat> m_panel; // none: as they are
+    bool m_isDrawing = false;
+    bool m_ground = true;
     bool m_agrees = true;
 };
 

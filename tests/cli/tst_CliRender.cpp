@@ -26,6 +26,13 @@ private Q_SLOTS:
     void whatCannotBeWrittenLeavesNothing();
     void aPictureBeyondAllMemoryIsRefused();
 
+    void aDrawingIsWrittenInstead();
+    void elementsCanBeDrawnAlone();
+    void theGroundCanBeLeftOut();
+    void aPanelsColorsAreThoseOfThePanel();
+    void optionsThatContradictEachOtherAreRefused_data();
+    void optionsThatContradictEachOtherAreRefused();
+
     void equalPicturesAgree();
     void differentPicturesDoNot();
     void theToleranceIsTheGreatestChannelDifference();
@@ -162,6 +169,88 @@ void tst_CliRender::aPictureBeyondAllMemoryIsRefused()
     const auto result = render("p", {QStringLiteral("--scale"), QStringLiteral("100")});
     QCOMPARE(result.status, 1);
     QVERIFY2(result.saysError("main"), result.errors.constData());
+    QVERIFY(!QFileInfo::exists(m_project->path("p")));
+}
+
+void tst_CliRender::aDrawingIsWrittenInstead()
+{
+    const auto result = render(
+        "p", {QStringLiteral("--format"), QStringLiteral("svg"), QStringLiteral("--scale"), QStringLiteral("2")});
+    QVERIFY2(result.status == 0, result.errors.constData());
+    QCOMPARE(result.errors, QByteArray());
+    QCOMPARE(ProjectFixture::content(m_project->path("p")).size(), 1);
+    QFile file(m_project->path("p/main.svg"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray svg = file.readAll();
+    QVERIFY(svg.contains("<svg width=\"400\" height=\"200\""));
+    QVERIFY(svg.contains("#f8971d"));
+}
+
+void tst_CliRender::elementsCanBeDrawnAlone()
+{
+    QCOMPARE(render("p", {QStringLiteral("--screen"), QStringLiteral("main"), QStringLiteral("--elements"),
+                          QStringLiteral("box")})
+                 .status,
+             0);
+    const QImage picture(m_project->path("p/main.png"));
+    QCOMPARE(picture.size(), QSize(50, 40));
+    QCOMPARE(picture.pixelColor(0, 0), QColor(248, 151, 29));
+    const auto unknown = render("q", {QStringLiteral("--screen"), QStringLiteral("main"), QStringLiteral("--elements"),
+                                      QStringLiteral("box,nobody")});
+    QCOMPARE(unknown.status, 1);
+    QVERIFY2(unknown.errors.contains("\"nobody\""), unknown.errors.constData());
+    QVERIFY(!QFileInfo::exists(m_project->path("q")));
+}
+
+void tst_CliRender::theGroundCanBeLeftOut()
+{
+    QCOMPARE(render("p", {QStringLiteral("--transparent")}).status, 0);
+    const QImage picture(m_project->path("p/main.png"));
+    QCOMPARE(picture.pixelColor(0, 0).alpha(), 0);
+    QCOMPARE(picture.pixelColor(30, 20), QColor(248, 151, 29));
+}
+
+void tst_CliRender::aPanelsColorsAreThoseOfThePanel()
+{
+    QCOMPARE(render("p", {QStringLiteral("--panel"), QStringLiteral("rgb565")}).status, 0);
+    const QImage picture(m_project->path("p/main.png"));
+    // 248 is level 30 of 31, 151 level 37 of 63, 29 level 4 of 31 (33) or 3 (24): 33 is nearer.
+    QCOMPARE(picture.pixelColor(30, 20), QColor(247, 150, 33));
+    QCOMPARE(picture.pixelColor(0, 0), QColor(Qt::white));
+    QCOMPARE(render("q", {QStringLiteral("--panel"), QStringLiteral("rgb565-dithered")}).status, 0);
+    const QImage dithered(m_project->path("q/main.png"));
+    bool isEven = true;
+    for (int x = 20; x < 70; ++x)
+        isEven &= dithered.pixel(x, 20) == dithered.pixel(20, 20);
+    QVERIFY(!isEven);
+}
+
+void tst_CliRender::optionsThatContradictEachOtherAreRefused_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QByteArray>("named");
+    QTest::newRow("format") << QStringList{QStringLiteral("--format"), QStringLiteral("gif")} << QByteArray("gif");
+    QTest::newRow("panel") << QStringList{QStringLiteral("--panel"), QStringLiteral("rgb111")} << QByteArray("rgb111");
+    QTest::newRow("drawing on a panel") << QStringList{QStringLiteral("--format"), QStringLiteral("svg"),
+                                                       QStringLiteral("--panel"), QStringLiteral("grey")}
+                                        << QByteArray("--panel");
+    QTest::newRow("drawing compared") << QStringList{QStringLiteral("--format"), QStringLiteral("svg"),
+                                                     QStringLiteral("--compare"), QStringLiteral("x")}
+                                      << QByteArray("--compare");
+    QTest::newRow("transparent panel") << QStringList{QStringLiteral("--transparent"), QStringLiteral("--panel"),
+                                                      QStringLiteral("grey")}
+                                       << QByteArray("transparent");
+    QTest::newRow("elements of all screens")
+        << QStringList{QStringLiteral("--elements"), QStringLiteral("box")} << QByteArray("--screen");
+}
+
+void tst_CliRender::optionsThatContradictEachOtherAreRefused()
+{
+    QFETCH(QStringList, options);
+    QFETCH(QByteArray, named);
+    const auto result = render("p", options);
+    QCOMPARE(result.status, 2);
+    QVERIFY2(result.errors.contains(named), result.errors.constData());
     QVERIFY(!QFileInfo::exists(m_project->path("p")));
 }
 

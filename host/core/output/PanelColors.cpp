@@ -110,6 +110,39 @@ QImage onBlack(const QImage& picture)
 
 } // namespace
 
+QString PanelColors::name(PanelFormat format)
+{
+    switch (format) {
+    case PanelFormat::Full:
+        break;
+    case PanelFormat::Rgb565:
+        return QStringLiteral("rgb565");
+    case PanelFormat::Rgb565Dithered:
+        return QStringLiteral("rgb565-dithered");
+    case PanelFormat::Rgb332:
+        return QStringLiteral("rgb332");
+    case PanelFormat::Grey:
+        return QStringLiteral("grey");
+    }
+    return QStringLiteral("full");
+}
+
+QList<PanelFormat> PanelColors::formats()
+{
+    return {PanelFormat::Full, PanelFormat::Rgb565, PanelFormat::Rgb565Dithered, PanelFormat::Rgb332,
+            PanelFormat::Grey};
+}
+
+std::optional<PanelFormat> PanelColors::named(const QString& name)
+{
+    const QList<PanelFormat> all = formats();
+    for (const PanelFormat format : all) {
+        if (PanelColors::name(format) == name)
+            return format;
+    }
+    return std::nullopt;
+}
+
 QImage PanelColors::shown(const QImage& picture, PanelFormat format)
 {
     if (picture.isNull())

@@ -3,6 +3,10 @@
 #include "host/core/CoreExport.h"
 
 #include <QImage>
+#include <QList>
+#include <QString>
+
+#include <optional>
 
 namespace Korvex::Meridane::Designer {
 
@@ -28,6 +32,13 @@ class MERIDANE_CORE_EXPORT PanelColors
 {
 public:
     PanelColors() = delete;
+
+    /// The name of a format in settings and on command lines: "full", "rgb565", "rgb565-dithered", "rgb332", "grey".
+    [[nodiscard]] static QString name(PanelFormat format);
+    /// The format of that name; none for other names.
+    [[nodiscard]] static std::optional<PanelFormat> named(const QString& name);
+    /// All formats, in the order in which they are offered.
+    [[nodiscard]] static QList<PanelFormat> formats();
 
     /// \a picture, opaque and on black, as a panel of \a format shows it: of the format RGB32, of the same size.
     [[nodiscard]] static QImage shown(const QImage& picture, PanelFormat format);
