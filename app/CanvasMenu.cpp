@@ -32,7 +32,7 @@ QMenu* CanvasMenu::make(const QPoint& viewPos)
 {
     auto* menu = new QMenu(m_view);
     menu->setObjectName(QStringLiteral("CanvasMenu"));
-    addElements(menu->addMenu(coreText("Select Und&er the Pointer")), viewPos);
+    addElements(menu->addMenu(coreText("Selec&t Under the Pointer")), viewPos);
     for (QAction* action : std::as_const(m_actions)) {
         if (action)
             menu->addAction(action);

@@ -2,6 +2,7 @@
 
 #include "host/core/canvas/CanvasGuides.h"
 #include "host/core/canvas/CanvasRuler.h"
+#include "host/core/project/ProjectChecker.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -222,6 +223,20 @@ private Q_SLOTS:
         QCOMPARE(canvas.stack()->text(1), QStringLiteral("Clear Guides"));
         canvas.view->guides()->clear();
         QCOMPARE(canvas.steps(), 2);
+    }
+
+    void whatCannotBeReadIsAProblem()
+    {
+        RuledCanvas canvas;
+        canvas.setGuides(QStringLiteral("x 1, slanted, y 2"));
+        const QList<Problem> problems = ProjectChecker::check(canvas.project);
+        QCOMPARE(problems.size(), 1);
+        QCOMPARE(problems.first().severity, Problem::Severity::Warning);
+        QCOMPARE(problems.first().object, QStringLiteral("main"));
+        QVERIFY2(problems.first().message.contains(QStringLiteral("\"slanted\"")),
+                 qPrintable(problems.first().message));
+        canvas.setGuides(QStringLiteral("x 1, y 2"));
+        QVERIFY(ProjectChecker::check(canvas.project).isEmpty());
     }
 
     void theCursorTellsWhereAGuideGoes()

@@ -43,9 +43,11 @@ void CanvasGrid::paint(QPainter* painter, const QRectF& exposed) const
         const double at = std::floor(toView.map(QPointF(0, y)).y()) + 0.5;
         lines.append({onView.left(), at, onView.right(), at});
     }
-    // Between light and dark: it shows on both, and on neither much.
+    // Between light and dark: it shows on both, and on neither much; the less, the closer its lines are.
+    const double cell = std::min(spacing.width(), spacing.height()) * m_view->zoom();
+    const int alpha = int(std::clamp(20 + 4 * cell, 36.0, 80.0));
     painter->setRenderHint(QPainter::Antialiasing, false);
-    painter->setPen(QPen(QColor(112, 128, 152, 84), 1));
+    painter->setPen(QPen(QColor(112, 128, 152, alpha), 1));
     painter->drawLines(lines);
 }
 

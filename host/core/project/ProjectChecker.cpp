@@ -1,5 +1,6 @@
 #include "host/core/project/ProjectChecker.h"
 
+#include "host/core/objects/EditorMarks.h"
 #include "host/core/objects/Screen.h"
 #include "host/core/objects/VisualElement.h"
 #include "host/core/project/EditorRange.h"
@@ -11,6 +12,7 @@
 #include "host/core/project/UnknownContent.h"
 #include "host/core/properties/FontProperty.h"
 #include "host/core/properties/LinkProperty.h"
+#include "host/core/snapping/Guides.h"
 
 #include "host/common/LocalizationHelper.h"
 #include "host/common/PictureCache.h"
@@ -117,6 +119,14 @@ void ProjectChecker::beginScreen(const Screen* screen)
     m_screen = screen;
     m_file = ProjectFolder::screenFile(screen->getIdName());
     m_problems = UnknownContent::find(screen);
+    const QList<QString> noGuides = Guides::fromText(screen->editorMark(EditorMarks::guides())).unreadable();
+    for (const QString& text : noGuides) {
+        m_problems.append(Problem::warning(
+            m_file, screen->getIdName(), {},
+            LocalizationHelper::coreString(
+                QStringLiteral("\"%1\" is no guide. Guides are written as in \"x 100, y 50.5\"."))
+                .arg(text)));
+    }
     m_waiting.clear();
     if (screen->contentError().isEmpty())
         m_waiting.append({screen, false});
