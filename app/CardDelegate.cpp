@@ -11,6 +11,7 @@ namespace {
 constexpr int Gap = 12; // between the cards, pixels
 constexpr int Padding = 8; // around picture and text
 constexpr int TextGap = 8; // between them
+constexpr int SymbolSide = 44; // pixels
 constexpr double Radius = 6; // of the corners
 
 } // namespace
@@ -38,7 +39,10 @@ void CardDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
     const QRectF place(inner.topLeft(), QSizeF(inner.width(), option.decorationSize.height()));
     if (dimmed)
         painter->setOpacity(0.45);
-    item.icon.paint(painter, place.toRect(), Qt::AlignCenter);
+    QRect picture = place.toRect();
+    if (index.data(CardGrid::SymbolRole).toBool())
+        picture = QRect(picture.center() - QPoint(SymbolSide, SymbolSide) / 2, QSize(SymbolSide, SymbolSide));
+    item.icon.paint(painter, picture, Qt::AlignCenter);
     painter->setOpacity(1);
 
     const QFontMetrics metrics(item.font);

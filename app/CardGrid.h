@@ -19,6 +19,7 @@ public:
     {
         DetailRole = Qt::UserRole, ///< the line about it
         DimmedRole, ///< true: it cannot be opened
+        SymbolRole, ///< true: the picture is a symbol, which does not fill the place of a picture
         ValueRole ///< what it stands for
     };
 

@@ -18,11 +18,9 @@
 #include "app/HistoryPanel.h"
 #include "app/ImageActions.h"
 #include "app/ImagePanel.h"
-#include "app/MenuText.h"
 #include "app/MessageBar.h"
 #include "app/NavigationActions.h"
 #include "app/OutputActions.h"
-#include "app/ProblemIndicator.h"
 #include "app/ProblemsPanel.h"
 #include "app/ProjectDocument.h"
 #include "app/ProjectPanels.h"
@@ -50,12 +48,10 @@
 
 #include <QCloseEvent>
 #include <QDockWidget>
-#include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
-#include <QToolBar>
 #include <QVBoxLayout>
 
 namespace Korvex::Meridane::Designer {
@@ -221,74 +217,6 @@ void MainWindow::makePanels(UserPrompts* prompts)
     m_problemsDock->hide();
 }
 
-void MainWindow::makeMenus()
-{
-    const auto addMenu = [this](const char* title) {
-        return menuBar()->addMenu(MenuText::withoutReservedMnemonic(coreText(title)));
-    };
-    QMenu* file = addMenu("&File");
-    m_file->addTo(file);
-    file->addSeparator();
-    m_images->addTo(file);
-    m_output->addTo(file);
-    file->addSeparator();
-    m_file->addEndTo(file);
-    QMenu* edit = addMenu("&Edit");
-    m_edit->addTo(edit);
-    edit->addSeparator();
-    m_projectPanels->addTo(edit);
-    edit->addSeparator();
-    m_sheetActions->addTo(edit);
-    m_arrange->addTo(addMenu("&Arrange"), m_edit->orderActions());
-
-    QMenu* view = addMenu("&View");
-    m_view->addTo(view);
-    view->addSeparator();
-    m_canvas->addTo(view);
-    view->addSeparator();
-    m_results->addTo(view);
-    m_panels->addTo(view->addMenu(coreText("&Panels")));
-    view->addSeparator();
-    m_navigation->addTo(view);
-
-    m_help->addTo(addMenu("&Help"));
-    const QList<QAction*> menus = menuBar()->actions();
-    for (const QAction* menu : menus)
-        MenuText::makeMnemonicsUnique(menu->menu());
-}
-
-void MainWindow::makeToolBar()
-{
-    QToolBar* bar = addToolBar(coreText("Tool Bar"));
-    bar->setObjectName(QStringLiteral("ToolBar"));
-    bar->setMovable(false);
-    bar->setIconSize(QSize(20, 20));
-    bar->addActions({m_file->newAction(), m_file->openAction(), m_file->saveAction()});
-    bar->addSeparator();
-    bar->addActions({m_edit->undoAction(), m_edit->redoAction()});
-    bar->addSeparator();
-    bar->addActions({m_edit->duplicateAction(), m_edit->deleteAction()});
-    bar->addSeparator();
-    bar->addActions(m_edit->orderActions());
-    bar->addSeparator();
-    bar->addActions({m_arrange->groupAction(), m_arrange->ungroupAction()});
-    bar->addActions(m_arrange->alignActions());
-    bar->addSeparator();
-    bar->addActions({m_canvas->snapAction(), m_canvas->gridAction()});
-    bar->addSeparator();
-    bar->addActions({m_view->zoomOutAction(), m_view->zoomInAction(), m_view->fitAction()});
-    bar->addSeparator();
-    bar->addActions({m_output->checkAction(), m_output->previewAction(), m_output->exportAction()});
-}
-
-void MainWindow::makeStatusBar()
-{
-    statusBar()->setSizeGripEnabled(false);
-    statusBar()->addPermanentWidget(m_projectPanels->indicator());
-    statusBar()->addPermanentWidget(m_readout);
-    statusBar()->addPermanentWidget(m_zoomBox);
-}
-
 void MainWindow::attach(EditSession* session)
 {
     m_workspace = std::make_unique<Workspace>(session, m_palette);
@@ -371,7 +299,7 @@ void MainWindow::showWholeScreen()
 {
     // Only a window that is laid out has room to fit a screen into.
     const auto show = [this] {
-        if (isVisible() && !std::exchange(m_fitted, true))
+        if (isVisible() && !startPage() && !std::exchange(m_fitted, true))
             m_view->showWhole();
     };
     QMetaObject::invokeMethod(this, show, Qt::QueuedConnection);

@@ -262,8 +262,9 @@ void ShortcutsDialog::refresh()
         if (!(*item)->data(0, ActionRole).isValid())
             continue;
         const QAction* action = actions.value((*item)->data(0, ActionRole).toInt());
-        (*item)->setText(1, QKeySequence::listToString(action->shortcuts(), QKeySequence::NativeText)
-                                .replace(QLatin1String("; "), QLatin1String(", ")));
+        // The first is the one that people use; others are for old or rare keyboards.
+        (*item)->setText(1, action->shortcut().toString(QKeySequence::NativeText));
+        (*item)->setToolTip(1, QKeySequence::listToString(action->shortcuts(), QKeySequence::NativeText));
         QFont font = this->font();
         font.setBold(m_settings->isChanged(action)); // what the user has changed stands out
         (*item)->setFont(1, font);

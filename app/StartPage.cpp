@@ -47,9 +47,12 @@ QString nameOf(const QString& folder)
     return name.isEmpty() ? QDir(folder).dirName() : name;
 }
 
-QIcon pictureIcon(const QImage& picture)
+/// Shows \a picture on the card \a item, or a symbol where there is none.
+void setPicture(QListWidgetItem* item, const QImage& picture)
 {
-    return picture.isNull() ? ThemedIcon::named(QStringLiteral("project")) : QIcon(QPixmap::fromImage(picture));
+    item->setIcon(picture.isNull() ? ThemedIcon::named(QStringLiteral("project"), QPalette::PlaceholderText)
+                                   : QIcon(QPixmap::fromImage(picture)));
+    item->setData(CardGrid::SymbolRole, picture.isNull());
 }
 
 bool isProject(const QString& folder)
@@ -198,8 +201,8 @@ void StartPage::fillExamples(const QString& folder)
         if (!isProject(path))
             continue;
         const QImage picture = ProjectThumbnails::stored(path);
-        QListWidgetItem* item =
-            m_examples->addCard(pictureIcon(picture), nameOf(path), coreText("opens as a copy"), path);
+        QListWidgetItem* item = m_examples->addCard({}, nameOf(path), coreText("opens as a copy"), path);
+        setPicture(item, picture);
         if (picture.isNull())
             m_withoutPicture.append(item);
     }
@@ -213,10 +216,11 @@ void StartPage::fillRecent()
     for (const QString& folder : folders) {
         const bool missing = !isProject(folder);
         const QString place = QDir::toNativeSeparators(folder);
-        QListWidgetItem* item = m_recentGrid->addCard(
-            pictureIcon(ProjectThumbnails::stored(folder)), missing ? QDir(folder).dirName() : nameOf(folder),
-            missing ? coreText("Missing: remove from list") : QDir::toNativeSeparators(QFileInfo(folder).path()),
-            folder);
+        QListWidgetItem* item = m_recentGrid->addCard({}, missing ? QDir(folder).dirName() : nameOf(folder),
+                                                      missing ? coreText("Missing: remove from list")
+                                                              : QDir::toNativeSeparators(QFileInfo(folder).path()),
+                                                      folder);
+        setPicture(item, ProjectThumbnails::stored(folder));
         item->setData(CardGrid::DimmedRole, missing);
         item->setToolTip(missing ? coreText("There is no project in \"%1\" any more.").arg(place)
                                  : coreText("%1 (Del takes it off the list)").arg(place));
@@ -233,7 +237,7 @@ void StartPage::drawMissingPictures()
     QListWidgetItem* item = m_withoutPicture.takeFirst();
     const QImage picture = ProjectThumbnails::draw(item->data(CardGrid::ValueRole).toString());
     if (!picture.isNull())
-        item->setIcon(pictureIcon(picture));
+        setPicture(item, picture);
     // One after the other, so that the page answers in between.
     QTimer::singleShot(0, this, &StartPage::drawMissingPictures);
 }

@@ -54,6 +54,15 @@ private Q_SLOTS:
         QVERIFY(!dock("HistoryDock")->isVisible()); // as it was before
     }
 
+    void aWindowThatStartsWithItHasTheKeyboardThere()
+    {
+        m_test = std::make_unique<TestWindow>();
+        m_test->window->showStartPage();
+        QVERIFY(m_test->show());
+        QTest::qWait(20); // what fits the screen into the window is late
+        QVERIFY(page()->panels()->hasFocus());
+    }
+
     void aCommonPanelIsOneEnterAway()
     {
         open();
