@@ -1,5 +1,6 @@
 #include "host/core/canvas/CanvasView.h"
 
+#include "host/core/accessibility/CanvasAnnouncer.h"
 #include "host/core/canvas/CanvasBackground.h"
 #include "host/core/canvas/CanvasGrid.h"
 #include "host/core/canvas/CanvasGuides.h"
@@ -42,6 +43,7 @@ CanvasView::CanvasView(EditSession* session, QWidget* parent)
     , m_topRuler(new CanvasRuler(Qt::Horizontal, this))
     , m_leftRuler(new CanvasRuler(Qt::Vertical, this))
 {
+    CanvasAnnouncer::attach(this); // before anybody asks what this is
     // The scene gets neither mouse nor keyboard: what they mean is decided here.
     setInteractive(false);
     setDragMode(NoDrag);
