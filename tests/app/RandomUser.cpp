@@ -347,6 +347,7 @@ void RandomUser::pressKey()
     for (int i = 0; i < times; ++i) {
         if (QWidget* now = QApplication::focusWidget())
             QTest::keyClick(now, key, modifiers);
+        QCoreApplication::processEvents(); // as between the keys of a person
     }
 }
 

@@ -10,6 +10,7 @@
 #include "host/core/plugins/DesignerFactory.h"
 #include "host/core/project/ElementJson.h"
 #include "host/core/project/Project.h"
+#include "host/core/widgets/MessageBox.h"
 
 #include <QClipboard>
 #include <QDirIterator>
@@ -177,6 +178,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         QStandardPaths::setTestModeEnabled(true);
+        MessageBox::setPresenter([](QWidget*, const QString&, const QString&) {});
         QVERIFY(DesignerFactory::instance()->loadInstalledPlugins().isEmpty());
     }
 
