@@ -99,6 +99,28 @@ private Q_SLOTS:
         QVERIFY(shownRows().size() > 10);
     }
 
+    void escapeInARowThatWasFoundEndsTheSearch()
+    {
+        search("numb");
+        QTest::keyClick(line(), Qt::Key_Down);
+        QWidget* field = QApplication::focusWidget();
+        QTest::keyClicks(field, QStringLiteral("7"));
+        QTest::keyClick(field, Qt::Key_Escape); // takes back what was typed
+        QCOMPARE(line()->text(), QStringLiteral("numb"));
+        QTest::keyClick(field, Qt::Key_Escape);
+        QCOMPARE(line()->text(), QString());
+        QVERIFY(field->hasFocus());
+    }
+
+    void headingsDoNotFoldDuringASearch()
+    {
+        search("color");
+        QTest::mouseClick(section("appearance"), Qt::LeftButton);
+        QVERIFY(shownRows().contains(QLatin1String("color")));
+        QVERIFY(section("appearance")->isChecked());
+        QVERIFY(!SectionFolds::shared().isFolded(QStringLiteral("appearance")));
+    }
+
     void enterGoesToTheFirstRowThatWasFound()
     {
         search("numb");

@@ -113,8 +113,13 @@ SectionHeader* PropertyPanel::addSection(const RowDescription& description)
 {
     auto* header = new SectionHeader(description.section, description.sectionTitle, this);
     layout()->addWidget(header);
-    connect(header, &QAbstractButton::clicked, this,
-            [header](bool open) { SectionFolds::shared().setFolded(header->key(), !open); });
+    connect(header, &QAbstractButton::clicked, this, [this, header](bool open) {
+        // While a filter decides what is shown, there is nothing to fold.
+        if (m_filter.isEmpty())
+            SectionFolds::shared().setFolded(header->key(), !open);
+        else
+            showRows();
+    });
     connect(header, &SectionHeader::resetRequested, this, [this, header] { resetSection(header->key()); });
     return header;
 }
@@ -164,7 +169,6 @@ void PropertyPanel::showRows()
             row->setVisible(matching);
         }
         section.header->setChecked(open || !m_filter.isEmpty());
-        section.header->setEnabled(m_filter.isEmpty());
         section.header->setVisible(!section.rows.isEmpty() && (m_filter.isEmpty() || found));
     }
 }

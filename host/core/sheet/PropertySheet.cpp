@@ -20,6 +20,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QScrollBar>
 #include <QTimer>
@@ -238,6 +239,16 @@ QList<QWidget*> PropertySheet::tabStops() const
     if (m_panel)
         add(m_panel);
     return stops;
+}
+
+void PropertySheet::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape && !m_search->text().isEmpty()) {
+        m_search->clear();
+        event->accept();
+        return;
+    }
+    QScrollArea::keyPressEvent(event);
 }
 
 void PropertySheet::resizeEvent(QResizeEvent* event)

@@ -78,6 +78,8 @@ Q_SIGNALS:
 protected:
     /// Goes through search line, heading and rows in the order in which one sees them, whatever the window has made since.
     bool focusNextPrevChild(bool next) override;
+    /// Escape that no field needed ends a search.
+    void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
 
