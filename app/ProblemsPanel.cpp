@@ -19,7 +19,8 @@ namespace Korvex::Meridane::Designer {
 
 namespace {
 
-constexpr int FixColumn = 3;
+constexpr int FixColumn = 1;
+constexpr int NarrowestMessage = 110; // pixels
 
 } // namespace
 
@@ -32,13 +33,16 @@ ProblemsPanel::ProblemsPanel(QWidget* parent)
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setSelectionMode(QAbstractItemView::ExtendedSelection);
-    setHeaderLabels({coreText("Problem"), coreText("Object"), coreText("File"), coreText("Way to Mend")});
+    setHeaderLabels({coreText("Problem"), coreText("Way to Mend"), coreText("Object"), coreText("File")});
     header()->setStretchLastSection(false);
-    header()->setSectionResizeMode(0, QHeaderView::Stretch);
     header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
     header()->setSectionResizeMode(2, QHeaderView::ResizeToContents);
-    header()->setSectionResizeMode(FixColumn, QHeaderView::ResizeToContents);
+    header()->setSectionResizeMode(3, QHeaderView::ResizeToContents);
     setMouseTracking(true);
+    connect(header(), &QHeaderView::sectionResized, this, [this](int column) {
+        if (column > 0)
+            fitColumns();
+    });
     connect(this, &QTreeWidget::itemActivated, this, &ProblemsPanel::lead);
     connect(this, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item, int column) {
         const bool fixes = column == FixColumn && !item->text(FixColumn).isEmpty();
@@ -91,7 +95,7 @@ void ProblemsPanel::refill()
         if (!problem.property.isEmpty())
             place += place.isEmpty() ? problem.property : QStringLiteral(" · ") + problem.property;
         const QString mend = m_project ? ProblemFix::text(m_project, problem) : QString();
-        auto* row = new QTreeWidgetItem({problem.message, place, problem.file, mend});
+        auto* row = new QTreeWidgetItem({problem.message, mend, place, problem.file});
         const bool error = problem.severity == Problem::Severity::Error;
         row->setIcon(0, ThemedIcon::named(error ? QStringLiteral("error") : QStringLiteral("warning")));
         row->setToolTip(0, problem.text());
@@ -107,6 +111,22 @@ void ProblemsPanel::refill()
     addTopLevelItems(rows);
     if (kept)
         setCurrentItem(kept);
+    fitColumns();
+}
+
+/// The messages take what the other columns leave.
+void ProblemsPanel::fitColumns()
+{
+    int others = 0;
+    for (int column = 1; column < columnCount(); ++column)
+        others += header()->sectionSize(column);
+    header()->resizeSection(0, qMax(NarrowestMessage, viewport()->width() - others));
+}
+
+void ProblemsPanel::resizeEvent(QResizeEvent* event)
+{
+    QTreeWidget::resizeEvent(event);
+    fitColumns();
 }
 
 void ProblemsPanel::lead(QTreeWidgetItem* item)

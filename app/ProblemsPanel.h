@@ -44,11 +44,13 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     [[nodiscard]] QSize sizeHint() const override;
 
 private:
     void copySelected() const;
     void refill();
+    void fitColumns();
     void lead(QTreeWidgetItem* item);
     void fix(QTreeWidgetItem* item);
 

@@ -92,7 +92,8 @@ void ScreenActions::fillMenu(QMenu* menu, Screen* screen)
     const QPointer<Screen> about = screen;
     const auto with = [about](auto run) {
         return [about, run] {
-            if (about)
+            // The history keeps screens that have been removed.
+            if (about && about->parentObject())
                 run(about.data());
         };
     };

@@ -4,6 +4,7 @@
 #include "cli/CheckCommand.h"
 #include "cli/DescribeCommand.h"
 #include "cli/ExportCommand.h"
+#include "cli/FindCommand.h"
 #include "cli/NewCommand.h"
 #include "cli/PreviewCommand.h"
 #include "cli/RenderCommand.h"
@@ -17,6 +18,7 @@ std::vector<std::unique_ptr<Command>> CommandTable::all()
     commands.push_back(std::make_unique<ExportCommand>());
     commands.push_back(std::make_unique<RenderCommand>());
     commands.push_back(std::make_unique<CheckCommand>());
+    commands.push_back(std::make_unique<FindCommand>());
     commands.push_back(std::make_unique<DescribeCommand>());
     commands.push_back(std::make_unique<ApplyCommand>());
     commands.push_back(std::make_unique<PreviewCommand>());

@@ -18,4 +18,12 @@ ApplyResult applyImportFont(ApplySession& session, EditArguments& arguments)
         edit, {{QStringLiteral("id"), font}, {QStringLiteral("families"), QJsonArray::fromStringList(families)}});
 }
 
+ApplyResult applyRemoveFont(ApplySession& session, EditArguments& arguments)
+{
+    const QString font = arguments.text(QLatin1String("id"));
+    if (!arguments.isComplete())
+        return ApplyResult::refused(arguments.error());
+    return ApplySession::result(session.edits().removeFont(font));
+}
+
 } // namespace Korvex::Meridane::Designer

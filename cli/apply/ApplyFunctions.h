@@ -12,6 +12,8 @@ class EditArguments;
 // ApplyScreens.cpp
 [[nodiscard]] ApplyResult applyAddScreen(ApplySession& session, EditArguments& arguments);
 [[nodiscard]] ApplyResult applyRemoveScreen(ApplySession& session, EditArguments& arguments);
+[[nodiscard]] ApplyResult applyDuplicateScreen(ApplySession& session, EditArguments& arguments);
+[[nodiscard]] ApplyResult applyResizeScreen(ApplySession& session, EditArguments& arguments);
 
 // ApplyElements.cpp
 [[nodiscard]] ApplyResult applyAdd(ApplySession& session, EditArguments& arguments);
@@ -41,6 +43,7 @@ class EditArguments;
 
 // ApplyFonts.cpp
 [[nodiscard]] ApplyResult applyImportFont(ApplySession& session, EditArguments& arguments);
+[[nodiscard]] ApplyResult applyRemoveFont(ApplySession& session, EditArguments& arguments);
 
 // ApplyValues.cpp
 [[nodiscard]] ApplyResult applySet(ApplySession& session, EditArguments& arguments);

@@ -22,6 +22,8 @@ struct Operation
 constexpr Operation operations[] = {
     {"add-screen", applyAddScreen},
     {"remove-screen", applyRemoveScreen},
+    {"duplicate-screen", applyDuplicateScreen},
+    {"resize-screen", applyResizeScreen},
     {"add", applyAdd},
     {"remove", applyRemove},
     {"select", applySelect},
@@ -50,6 +52,7 @@ constexpr Operation operations[] = {
     {"replace-image", applyReplaceImage},
     {"remove-image", applyRemoveImage},
     {"import-font", applyImportFont},
+    {"remove-font", applyRemoveFont},
     {"undo", applyUndo},
     {"redo", applyRedo},
     {"undo-count", applyUndoCount},

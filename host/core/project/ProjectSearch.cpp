@@ -155,8 +155,8 @@ bool ProjectSearch::proceed(int milliseconds)
         if (!object || Project::parentProject(object.data()) != m_project)
             continue;
         m_visit(object, m_matches);
-        if (m_matches.size() > MostMatches) {
-            m_matches.resize(MostMatches);
+        if (m_limit >= 0 && m_matches.size() > m_limit) {
+            m_matches.resize(m_limit);
             m_cut = true;
             m_waiting.clear();
             break;

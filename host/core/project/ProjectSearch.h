@@ -53,6 +53,8 @@ public:
     /// Whether there were more matches than anybody looks at; the others have been left out.
     [[nodiscard]] bool isCut() const { return m_cut; }
 
+    /// The number of matches after which a search ends; MostMatches unless set, negative: none.
+    void setLimit(qsizetype matches) { m_limit = matches; }
     static constexpr qsizetype MostMatches = 5000;
 
 private:
@@ -64,6 +66,7 @@ private:
     Visitor m_visit;
     QList<QPointer<const DesignerObject>> m_waiting; // the next one stands last
     QList<SearchMatch> m_matches;
+    qsizetype m_limit = MostMatches;
     bool m_begun = false;
     bool m_cut = false;
 };
