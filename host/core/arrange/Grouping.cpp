@@ -6,7 +6,7 @@
 #include "host/core/commands/AddObject.h"
 #include "host/core/commands/ChangeEditorMark.h"
 #include "host/core/commands/RemoveObject.h"
-#include "host/core/commands/ReparentObject.h"
+#include "host/core/commands/ReparentObjects.h"
 #include "host/core/objects/EditorMarks.h"
 #include "host/core/objects/Group.h"
 #include "host/core/objects/QmlIdentifier.h"
@@ -103,15 +103,7 @@ EditResult Grouping::group(EditSession* session, const QList<DesignerObject*>& o
     command->setText(LocalizationHelper::coreString(QStringLiteral("Group")));
     command->setAllOrNothing(true);
     new AddObject(owner, std::move(made), indexOf(front) + 1, command.get());
-    for (DesignerObject* member : members)
-        new ReparentObject(member, result, -1, ReparentObject::Select::AtTheOldPlace, command.get());
-    auto* places = new PlaceElements(command.get());
-    places->put(result, {QTransform::fromTranslate(corner.x(), corner.y()) * place.toScene, place.angle});
-    places->keep(owner);
-    for (DesignerObject* member : members) {
-        places->put(member, ElementPlaces::placeOf(member));
-        places->keep(member->parentObject());
-    }
+    new ReparentObjects(members, result, -1, ReparentObjects::Select::AtTheOldPlace, command.get());
     const EditResult edit = session->project()->execute(std::move(command));
     if (edit.changed) {
         session->setSelection({result});
@@ -132,25 +124,19 @@ EditResult Grouping::ungroup(EditSession* session, const QList<DesignerObject*>&
     QList<DesignerObject*> members;
     // From the front on: what is done to one group does not move the places of those behind it.
     for (auto group = groups.crbegin(); group != groups.crend(); ++group) {
-        const int place = indexOf(*group);
         const auto& children = (*group)->childList()->items();
-        for (int i = 0; i < children.size(); ++i) {
-            DesignerObject* child = children.at(i);
-            members.append(child);
-            new ReparentObject(child, (*group)->parentObject(), place + i, ReparentObject::Select::AtTheNewPlace,
-                               command.get());
-            if ((*group)->editorMark(EditorMarks::hidden()) == EditorMarks::setValue())
+        const QList<DesignerObject*> moved(children.cbegin(), children.cend());
+        if (!moved.isEmpty()) {
+            new ReparentObjects(moved, (*group)->parentObject(), indexOf(*group),
+                                ReparentObjects::Select::AtTheNewPlace, command.get());
+        }
+        if ((*group)->editorMark(EditorMarks::hidden()) == EditorMarks::setValue()) {
+            for (DesignerObject* child : moved)
                 new ChangeEditorMark(child, EditorMarks::hidden(), EditorMarks::setValue(), command.get());
         }
+        members += moved;
         new RemoveObject(*group, command.get());
     }
-    auto* places = new PlaceElements(command.get());
-    for (DesignerObject* member : std::as_const(members)) {
-        if (member->graphicsItem())
-            places->put(member, ElementPlaces::placeOf(member));
-    }
-    for (const DesignerObject* group : groups)
-        places->keep(group->parentObject());
     const EditResult edit = session->project()->execute(std::move(command));
     if (edit.changed)
         session->setSelection(ElementPlaces::roots(members));

@@ -76,10 +76,13 @@ bool move(DesignerObject* object, DesignerObject* owner, int index, const QHash<
 
 } // namespace
 
-ReparentObjects::ReparentObjects(const QList<DesignerObject*>& objects, DesignerObject* owner, int index)
-    : m_objects(objects)
+ReparentObjects::ReparentObjects(const QList<DesignerObject*>& objects, DesignerObject* owner, int index, Select select,
+                                 UndoCommand* parent)
+    : UndoCommand(parent)
+    , m_objects(objects)
     , m_owner(owner)
     , m_index(index)
+    , m_select(select)
 {
     setAllOrNothing(true);
     setText(objects.size() == 1
@@ -91,7 +94,13 @@ ReparentObjects::~ReparentObjects() = default;
 
 QList<DesignerObject*> ReparentObjects::selectedItems() const
 {
-    return m_objects;
+    if (m_select == Select::Always)
+        return m_objects;
+    QList<DesignerObject*> objects = m_objects;
+    objects.removeIf([this](const DesignerObject* object) {
+        return (object->parentObject() == m_owner) != (m_select == Select::AtTheNewPlace);
+    });
+    return objects;
 }
 
 DesignerObject* ReparentObjects::activeItem() const

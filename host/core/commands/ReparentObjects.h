@@ -18,9 +18,18 @@ namespace Korvex::Meridane::Designer {
 class MERIDANE_CORE_EXPORT ReparentObjects : public UndoCommand
 {
 public:
+    /// When the objects are selected again after undo and redo.
+    enum class Select
+    {
+        Always,
+        AtTheNewPlace,
+        AtTheOldPlace
+    };
+
     /// \a objects: elements, none inside another, in their future order. \a index: the place of the first one among those
     /// children of \a owner that are not moved; -1 for the front.
-    ReparentObjects(const QList<DesignerObject*>& objects, DesignerObject* owner, int index);
+    ReparentObjects(const QList<DesignerObject*>& objects, DesignerObject* owner, int index,
+                    Select select = Select::Always, UndoCommand* parent = nullptr);
     ~ReparentObjects() override;
 
     [[nodiscard]] QList<DesignerObject*> selectedItems() const override;
@@ -57,6 +66,7 @@ private:
     QList<DesignerObject*> m_objects;
     QPointer<DesignerObject> m_owner;
     int m_index;
+    Select m_select;
     QList<Move> m_moves;
 };
 
