@@ -132,8 +132,11 @@ private Q_SLOTS:
         QCOMPARE(m_canvas->view->viewport()->cursor().shape(), Qt::SizeHorCursor);
         m_canvas->move({150, 78});
         QCOMPARE(m_canvas->view->viewport()->cursor().shape(), Qt::PointingHandCursor);
-        m_canvas->move({150, 140});
+        m_canvas->move({150, 140}); // it can be moved there
+        QCOMPARE(m_canvas->view->viewport()->cursor().shape(), Qt::SizeAllCursor);
+        m_canvas->move({250, 250});
         QCOMPARE(m_canvas->view->viewport()->cursor().shape(), Qt::ArrowCursor);
+        m_canvas->move({150, 140});
         QCOMPARE(toolTipAt({150, 140}), QStringLiteral("Rectangle: rectangle1"));
         QCOMPARE(m_canvas->graphic(rectangle)->toolTip(), QStringLiteral("Rectangle: rectangle1"));
     }

@@ -128,6 +128,7 @@ void CanvasView::mousePressEvent(QMouseEvent* event)
     m_lastViewPos = event->position();
     if (event->button() == Qt::MiddleButton || (event->button() == Qt::LeftButton && m_spaceHeld)) {
         startGesture(std::make_unique<PanGesture>(this, pointer), event->button());
+        viewport()->setCursor(Qt::ClosedHandCursor);
     } else if (event->button() == Qt::LeftButton) {
         startGesture(gestureForPress(pointer), event->button());
     } else if (event->button() == Qt::RightButton) {
@@ -171,7 +172,8 @@ void CanvasView::mouseReleaseEvent(QMouseEvent* event)
 
 void CanvasView::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    const bool isOnHandle = canvasScene() && SelectionHandles(this).hit(mapToScene(event->pos())).object;
+    const bool isOnHandle =
+        canvasScene() && SelectionHandles(this).hit(mapToScene(event->pos())).kind != HandleHit::Kind::None;
     const int guide = m_gesture || isOnHandle || !m_placementClass.isEmpty() ? -1 : guideAt(event->position());
     if (event->button() == Qt::LeftButton && guide >= 0) {
         event->accept();
@@ -393,12 +395,17 @@ void CanvasView::hover(const QPointF& scenePos, const QPointF& viewPos)
     if (m_hovered != hit.object)
         leaveHandle();
     m_hovered = hit.object;
-    updateCursor(&hit);
-    const int guide = hit.object ? -1 : guideAt(viewPos);
+    const bool onHandle = hit.kind != HandleHit::Kind::None;
+    const int guide = onHandle ? -1 : guideAt(viewPos);
+    DesignerObject* element = onHandle || guide >= 0 ? nullptr : canvasScene()->elementAt(scenePos);
+    const QGraphicsItem* graphic = element ? element->graphicsItem()->graphic() : nullptr;
+    setOutlined(graphic && !graphic->isSelected() ? element : nullptr);
     if (guide >= 0)
         viewport()->setCursor(CanvasGuides::cursor(m_guides->list().at(guide).orientation));
-    DesignerObject* element = hit.object || guide >= 0 ? nullptr : canvasScene()->elementAt(scenePos);
-    setOutlined(element && !element->graphicsItem()->graphic()->isSelected() ? element : nullptr);
+    else if (graphic && graphic->isSelected() && graphic->flags().testFlag(QGraphicsItem::ItemIsMovable))
+        viewport()->setCursor(Qt::SizeAllCursor);
+    else
+        updateCursor(&hit);
 }
 
 /// The guide that a press at \a viewPos takes hold of, or -1.
