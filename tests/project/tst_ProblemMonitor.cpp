@@ -1,4 +1,5 @@
 #include "host/core/canvas/EditSession.h"
+#include "host/core/objects/EditorMarks.h"
 #include "host/core/objects/Screen.h"
 #include "host/core/project/ProblemFix.h"
 #include "host/core/project/ProblemMonitor.h"
@@ -93,6 +94,15 @@ private Q_SLOTS:
         m_session->setProperty(project(), QStringLiteral("name"), QStringLiteral("Other"));
         QTRY_VERIFY(m_monitor->isCurrent());
         QCOMPARE(m_monitor->checkedScreens(), before + 1);
+    }
+
+    void guidesAreChecked()
+    {
+        Screen* main = project()->screen(QStringLiteral("main"));
+        QVERIFY(main->setEditorMark(EditorMarks::guides(), QStringLiteral("sideways")));
+        QVERIFY(!m_monitor->isCurrent());
+        QCOMPARE(linesOf(m_monitor->finish()), checkedAnew(project()));
+        QCOMPARE(m_monitor->problems().size(), 1);
     }
 
     void nothingIsCheckedDuringAGesture()

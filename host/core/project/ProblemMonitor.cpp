@@ -74,6 +74,10 @@ ProblemMonitor::ProblemMonitor(Project* project, QObject* parent)
         else
             objectChanged(object);
     });
+    connect(project, &Project::objectMarked, this, [this](DesignerObject* object) {
+        if (qobject_cast<Screen*>(object)) // its guides; what is hidden or locked on the canvas is no fault
+            objectChanged(object);
+    });
     connect(project, &Project::resourcesChanged, this, &ProblemMonitor::everythingChanged);
     connect(project, &Project::imageFileChanged, this, &ProblemMonitor::everythingChanged);
     connect(project, &Project::folderChanged, this, &ProblemMonitor::everythingChanged);

@@ -121,11 +121,11 @@ void ProjectChecker::beginScreen(const Screen* screen)
     m_problems = UnknownContent::find(screen);
     const QList<QString> noGuides = Guides::fromText(screen->editorMark(EditorMarks::guides())).unreadable();
     for (const QString& text : noGuides) {
-        m_problems.append(Problem::warning(
-            m_file, screen->getIdName(), {},
-            LocalizationHelper::coreString(
-                QStringLiteral("\"%1\" is no guide. Guides are written as in \"x 100, y 50.5\"."))
-                .arg(text)));
+        m_problems.append(
+            Problem::warning(m_file, screen->getIdName(), {},
+                             LocalizationHelper::coreString(
+                                 QStringLiteral("\"%1\" is no guide. Guides are written as in \"x 100, y 50.5\"."))
+                                 .arg(text)));
     }
     m_waiting.clear();
     if (screen->contentError().isEmpty())
