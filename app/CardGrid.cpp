@@ -68,6 +68,11 @@ void CardGrid::keyPressEvent(QKeyEvent* event)
     default:
         QListWidget::keyPressEvent(event);
     }
+    // Beyond the last row the way goes on, as it does with Tab.
+    if (currentItem() == item && event->key() == Qt::Key_Down)
+        focusNextChild();
+    else if (currentItem() == item && event->key() == Qt::Key_Up)
+        focusPreviousChild();
 }
 
 void CardGrid::focusInEvent(QFocusEvent* event)

@@ -5,7 +5,8 @@
 namespace Korvex::Meridane::Designer {
 
 /**
- * Cards side by side: a picture, a name, and a line about it. A click or Enter opens a card; Tab goes on to what follows.
+ * Cards side by side: a picture, a name, and a line about it. A click or Enter opens a card; Tab, and Down in the last row, go on
+ * to what follows.
  *
  * The grid is as high as its cards need, so that the page around it scrolls, not the grid.
  */

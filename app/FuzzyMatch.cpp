@@ -11,6 +11,7 @@ constexpr int Letter = 2; // points for a letter that fits
 constexpr int WordStart = 10; // more for one at the start of a word
 constexpr int Side = 8; // more for one that follows its predecessor at once
 constexpr int TextStart = 6; // more for the first letter of the text
+constexpr int Run = 4; // more for each letter where all stand side by side from the start of a word
 constexpr int Whole = 30; // more where the text is the pattern
 constexpr int NoFit = -1;
 
@@ -24,6 +25,19 @@ bool startsWord(QStringView text, qsizetype at)
         return false;
     return !before.isLetterOrNumber() || (letter.isUpper() && !before.isUpper())
            || (letter.isDigit() && !before.isDigit());
+}
+
+/// The points for \a pattern where it stands as it is in \a text, at the start of a word; NoFit where it does not.
+int runPoints(QStringView pattern, QStringView text)
+{
+    int best = NoFit;
+    for (qsizetype at = 0; at + pattern.size() <= text.size(); ++at) {
+        if (startsWord(text, at) && text.mid(at, pattern.size()).compare(pattern, Qt::CaseInsensitive) == 0) {
+            const int letters = int(pattern.size());
+            best = qMax(best, WordStart + (at == 0 ? TextStart : 0) + (Letter + Run) * letters + Side * (letters - 1));
+        }
+    }
+    return best;
 }
 
 /// The best that can be had up to a letter, and how many of the letters stand well in it.
@@ -85,7 +99,8 @@ int FuzzyMatch::score(QStringView pattern, QStringView text)
         for (qsizetype at = 0; at < length; ++at)
             best[at] = at == 0 ? ending[at] : better(best[at - 1], ending[at]);
     }
-    const Fit found = best[length - 1];
+    Fit found = best[length - 1];
+    found = better({runPoints(pattern, text), int(pattern.size())}, found);
     if (found.points == NoFit || found.well * 2 < pattern.size())
         return 0;
     const int whole = pattern.compare(text, Qt::CaseInsensitive) == 0 ? Whole : 0;

@@ -37,8 +37,8 @@ NavigationActions::NavigationActions(WindowPanels* panels, QObject* parent)
         [this] { stepPanel(-1); });
     add("view.nextScreen", "screen-next", coreText("&Next Screen"), QKeySequence(Qt::CTRL | Qt::Key_Tab),
         [this] { stepScreen(1); });
-    add("view.previousScreen", "screen-previous", coreText("Pre&vious Screen"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab),
-        [this] { stepScreen(-1); });
+    add("view.previousScreen", "screen-previous", coreText("Pre&vious Screen"),
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab), [this] { stepScreen(-1); });
 }
 
 void NavigationActions::addTo(QMenu* menu)

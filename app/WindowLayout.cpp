@@ -10,7 +10,7 @@ namespace {
 
 const QString GeometryKey = QStringLiteral("window/geometry");
 const QString StateKey = QStringLiteral("window/state");
-constexpr int StateVersion = 2; // of the set of panels and tool bars
+constexpr int StateVersion = 3; // of the set of panels and tool bars
 
 } // namespace
 

@@ -62,7 +62,7 @@ private Q_SLOTS:
                                    << "Duplicate";
         QTest::newRow("initials") << "zi"
                                   << "Zoom In";
-        QTest::newRow("initials in capitals") << "SA"
+        QTest::newRow("initials in capitals") << "SAs"
                                               << "Save As";
         QTest::newRow("whole name") << "save"
                                     << "Save";
@@ -88,6 +88,13 @@ private Q_SLOTS:
         const QList<int> found = search.find(query);
         QVERIFY(!found.isEmpty());
         QTEST(search.commands().at(found.first()).text, "first");
+    }
+
+    void wholeWordsWinOverLettersFromSeveral()
+    {
+        CommandSearch search;
+        search.setCommands({command("Select ecoTrack"), command("Select All")}, {});
+        QCOMPARE(search.find(QStringLiteral("select")), (QList<int>{1, 0}));
     }
 
     void lettersThatAreStrewnAboutFindNothing()

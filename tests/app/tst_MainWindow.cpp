@@ -2,6 +2,7 @@
 #include "app/CanvasPanel.h"
 #include "app/EditActions.h"
 #include "app/FileActions.h"
+#include "app/HelpActions.h"
 #include "app/MainWindow.h"
 #include "app/MenuText.h"
 #include "app/MessageBar.h"
@@ -20,6 +21,7 @@
 #include "host/core/project/Project.h"
 
 #include <QAbstractButton>
+#include <QDesktopServices>
 #include <QDockWidget>
 #include <QLabel>
 #include <QMenuBar>
@@ -206,6 +208,21 @@ private Q_SLOTS:
         QVERIFY(m_window->messageBar()->text().contains(path("qml")));
     }
 
+    void theGuideIsOpenedAsALocalFileAndItsAbsenceIsSaid()
+    {
+        m_opened.clear();
+        QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "open");
+        m_window->findChild<QAction*>(QStringLiteral("help.showGuide"))->trigger();
+        QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+        if (HelpActions::guideFile().isEmpty()) {
+            QVERIFY(m_opened.isEmpty());
+            QCOMPARE(m_window->messageBar()->text(), QStringLiteral("The user guide is not installed."));
+        } else {
+            QCOMPARE(m_opened, QList<QUrl>{QUrl::fromLocalFile(HelpActions::guideFile())});
+            QVERIFY(m_window->messageBar()->isHidden());
+        }
+    }
+
     void aMissingViewerIsReported()
     {
         PreviewRunner runner(path("no-viewer"));
@@ -292,6 +309,9 @@ private Q_SLOTS:
         QVERIFY(users.contains(QStringLiteral("Ctrl+S")));
     }
 
+public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): no test
+    void open(const QUrl& url) { m_opened.append(url); }
+
 private:
     EditSession* session() const { return m_window->document()->session(); }
 
@@ -330,6 +350,7 @@ private:
         }
     }
 
+    QList<QUrl> m_opened;
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<FakePrompts> m_prompts;
     std::unique_ptr<MainWindow> m_window;

@@ -218,6 +218,19 @@ private Q_SLOTS:
             QVERIFY(reached.contains(button));
     }
 
+    void theArrowsLeadFromOnePartToTheNext()
+    {
+        saveAndRemember();
+        open();
+        page()->panels()->setFocus();
+        QTest::keyClick(page()->panels(), Qt::Key_Down);
+        QVERIFY(page()->recentProjects()->hasFocus());
+        QTest::keyClick(page()->recentProjects(), Qt::Key_Down);
+        QVERIFY(page()->examples()->hasFocus());
+        QTest::keyClick(page()->examples(), Qt::Key_Up);
+        QVERIFY(page()->recentProjects()->hasFocus());
+    }
+
     void theWindowComesBackWithItsPanelsAfterQuittingFromIt()
     {
         open();
