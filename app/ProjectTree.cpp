@@ -94,6 +94,7 @@ ProjectTree::ProjectTree(EditSession* session, QWidget* parent)
     }
     viewport()->setMouseTracking(true);
     setDragDropOverwriteMode(false);
+    setAllColumnsShowFocus(true);
     setDefaultDropAction(Qt::MoveAction);
     setAutoExpandDelay(600);
     setIconSize(QSize(18, 18));

@@ -8,6 +8,7 @@
 #include "host/core/arrange/SiblingOrder.h"
 #include "host/core/canvas/EditSession.h"
 #include "host/core/objects/EditorMarks.h"
+#include "host/core/objects/Group.h"
 #include "host/core/objects/Screen.h"
 #include "host/core/objects/UnknownElement.h"
 #include "host/core/objects/VisualElement.h"
@@ -168,6 +169,8 @@ QVariant ProjectTreeModel::data(const QModelIndex& index, int role) const
             return ThemedIcon::named(QStringLiteral("project"));
         if (screen)
             return ThemedIcon::named(QStringLiteral("screen"));
+        if (qobject_cast<const Group*>(shown))
+            return ThemedIcon::named(QStringLiteral("group"));
         if (!m_icons.contains(shown->className()))
             m_icons.insert(shown->className(), ElementPicture::icon(shown->className()));
         return m_icons.value(shown->className());
