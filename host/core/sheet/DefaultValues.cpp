@@ -11,8 +11,7 @@ namespace Korvex::Meridane::Designer {
 namespace {
 
 /// The types of the properties that the size of an element may follow from.
-constexpr std::array SizingTypes{"SizeProperty", "PointListProperty", "RealProperty", "IntegerProperty",
-                                 "BorderProperty"};
+constexpr std::array SizingTypes{"SizeProperty", "PointListProperty", "RealProperty", "IntegerProperty"};
 
 bool ownValueDiffers(const DesignerProperty& property)
 {
@@ -30,11 +29,16 @@ bool isSizing(const DesignerProperty& property)
 
 } // namespace
 
+bool isDerivedSize(const DesignerProperty& property)
+{
+    return !property.hasFlag(Stored) && property.className() == QLatin1String("SizeProperty");
+}
+
 bool hasDefaultValue(const DesignerProperty& property)
 {
     if (!ownValueDiffers(property))
         return true;
-    if (property.hasFlag(Stored) || property.className() != QLatin1String("SizeProperty") || !property.parentObject())
+    if (!isDerivedSize(property) || !property.parentObject())
         return false;
     const auto& all = property.parentObject()->properties();
     return std::none_of(all.begin(), all.end(),

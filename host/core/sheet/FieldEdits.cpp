@@ -20,12 +20,6 @@ using Common::LocalizationHelper;
 
 namespace {
 
-/// A size that follows from other properties; see hasDefaultValue().
-bool isDerivedSize(const DesignerProperty& property)
-{
-    return !property.hasFlag(Stored) && property.className() == QLatin1String("SizeProperty");
-}
-
 bool isNumber(const DesignerProperty& property)
 {
     const QString type = property.className();

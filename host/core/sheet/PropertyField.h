@@ -45,6 +45,8 @@ public:
     void refresh();
     /// Shows the values whatever the user may have typed, after they were set by something else than the editor.
     void reload();
+    /// Finds out again whether the values differ from their defaults; that of a size can depend on other properties.
+    void compareWithDefaults();
     /// The keyboard focus has moved.
     void focusMoved();
 
@@ -59,7 +61,6 @@ private:
     void loadPending();
     void reportInvalid();
     void applyToAll();
-    void compareWithDefaults();
     [[nodiscard]] QStringList mixedComponents() const;
     [[nodiscard]] QString editedValue(const DesignerProperty& property, const QStringList& components) const;
     void setMixed(bool mixed);

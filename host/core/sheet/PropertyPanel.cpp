@@ -3,6 +3,7 @@
 #include "host/core/editors/PropertyEditor.h"
 #include "host/core/objects/DesignerObject.h"
 #include "host/core/properties/DesignerProperty.h"
+#include "host/core/sheet/DefaultValues.h"
 #include "host/core/sheet/EditorMatcher.h"
 #include "host/core/sheet/FieldEdits.h"
 #include "host/core/sheet/PropertyField.h"
@@ -65,6 +66,15 @@ void PropertyPanel::arrange(int labelWidth, int rowWidth)
 {
     for (PropertyRow* row : std::as_const(m_rows))
         row->arrange(labelWidth, rowWidth);
+}
+
+void PropertyPanel::compareSizesWithDefaults()
+{
+    for (PropertyField* field : std::as_const(m_fields)) {
+        const auto property = field->properties().value(0);
+        if (property && isDerivedSize(*property))
+            field->compareWithDefaults();
+    }
 }
 
 void PropertyPanel::focusMoved()

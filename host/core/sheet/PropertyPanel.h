@@ -45,6 +45,8 @@ public:
     /// The first row that is shown, or null.
     [[nodiscard]] PropertyRow* firstShownRow() const;
 
+    /// Values have changed: brings the marks of sizes that follow from other properties up to date.
+    void compareSizesWithDefaults();
     /// The keyboard focus has moved.
     void focusMoved();
 

@@ -438,8 +438,11 @@ void PropertySheet::refreshStaleFields()
         if (PropertyField* field = m_panel ? m_panel->field(id) : nullptr)
             field->refresh();
     }
-    if (sender() == m_refreshTimer)
-        rebuildIfNeeded();
+    if (sender() != m_refreshTimer)
+        return;
+    if (m_panel)
+        m_panel->compareSizesWithDefaults();
+    rebuildIfNeeded();
 }
 
 void PropertySheet::onFocusChanged(QWidget* old, QWidget* now)
