@@ -24,6 +24,7 @@
 #include <QStandardPaths>
 #include <QToolButton>
 #include <QToolTip>
+#include <QXmlStreamReader>
 #include <QtTest>
 
 using namespace Korvex::Meridane::Designer;
@@ -224,6 +225,27 @@ private Q_SLOTS:
             QVERIFY2(drawn > 40, qPrintable(file.baseName()));
         }
         QVERIFY(count > 20);
+    }
+
+    void theIconsAreOneFamily()
+    {
+        // The same grid, stroke and ends of strokes: none looks heavier or larger than its neighbours.
+        QDirIterator icons(QStringLiteral(":/meridane/designer/icons"));
+        while (icons.hasNext()) {
+            QFile file(icons.next());
+            if (file.fileName().endsWith(QLatin1String("application.svg")))
+                continue;
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            QXmlStreamReader drawing(&file);
+            QVERIFY2(drawing.readNextStartElement(), qPrintable(file.fileName()));
+            const QXmlStreamAttributes root = drawing.attributes();
+            const auto value = [&root](const char* name) { return root.value(QLatin1String(name)).toString(); };
+            QVERIFY2(value("viewBox") == QLatin1String("0 0 24 24") && value("fill") == QLatin1String("none")
+                         && value("stroke") == QLatin1String("#000") && value("stroke-width") == QLatin1String("1.6")
+                         && value("stroke-linecap") == QLatin1String("round")
+                         && value("stroke-linejoin") == QLatin1String("round"),
+                     qPrintable(file.fileName()));
+        }
     }
 
     void tintingKeepsTheShapeAndTheScale()

@@ -153,6 +153,17 @@ private Q_SLOTS:
         QCOMPARE(elements().size(), 1);
     }
 
+    void aCommandIsFoundByItsNameAndUsed()
+    {
+        QVERIFY2(command(QStringLiteral("rectangle1")), qPrintable(m_window->error()));
+        QVERIFY2(command(QStringLiteral("clone")), qPrintable(m_window->error()));
+        QVERIFY2(save(), qPrintable(m_window->error()));
+        QCOMPARE(elements().size(), 2);
+        QVERIFY2(m_window->key(QStringLiteral("ctrl+z")), qPrintable(m_window->error()));
+        QVERIFY2(save(), qPrintable(m_window->error()));
+        QCOMPARE(elements().size(), 1);
+    }
+
     void theCanvasShowsWhatTheFileSays()
     {
         QVERIFY2(m_window->key(QStringLiteral("ctrl+F6")) && m_window->key(QStringLiteral("Escape")),
@@ -209,6 +220,19 @@ private:
     {
         return m_window->waitForModified(true) && m_window->key(QStringLiteral("ctrl+s"))
                && m_window->waitForModified(false);
+    }
+
+    /// Finds a command by \a words and does the first that is found.
+    bool command(const QString& words)
+    {
+        if (!m_window->key(QStringLiteral("ctrl+k")) || !m_window->type(words))
+            return false;
+        const QImage picture =
+            m_window->waitForPicture(QStringLiteral("the command that is chosen"), [](const QImage& now) {
+                // Over the upper middle of the window, in the style's colour of selections.
+                return DesignerWindow::find(now, QColor(48, 140, 198), QRect(300, 90, 700, 60), 200).isValid();
+            });
+        return !picture.isNull() && m_window->key(QStringLiteral("Return"));
     }
 
     bool typeIntoRow(int row, const QString& text)

@@ -1,4 +1,6 @@
+#include "app/Appearance.h"
 #include "app/CanvasPanel.h"
+#include "app/DesignerStyle.h"
 #include "app/WindowPanels.h"
 #include "tests/app/TestWindow.h"
 
@@ -7,6 +9,7 @@
 #include "host/core/sheet/PropertySheet.h"
 
 #include <QDockWidget>
+#include <QToolBar>
 
 using namespace Korvex::Meridane::Designer;
 using Test::TestWindow;
@@ -20,6 +23,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         QVERIFY(TestWindow::isolate());
+        QApplication::setStyle(new DesignerStyle);
         (void)DesignerFactory::instance()->loadInstalledPlugins();
     }
 
@@ -130,6 +134,40 @@ private Q_SLOTS:
         }
     }
 
+    void theWindowFollowsTheColoursOfTheDesktopWhileItRuns()
+    {
+        const QToolBar* bar = m_test->window->findChild<QToolBar*>();
+        const QWidget* button = bar->widgetForAction(m_test->action("file.open"));
+        const auto grab = [this, button] {
+            QCoreApplication::processEvents();
+            return m_test->window->grab(QRect(button->mapTo(m_test->window.get(), QPoint(0, 0)), button->size()))
+                .toImage();
+        };
+        QApplication::setPalette(Appearance::darkPalette());
+        const QImage dark = grab();
+        QApplication::setPalette(Appearance::lightPalette());
+        const QImage light = grab();
+        QApplication::setPalette(QPalette());
+        QVERIFY(lightnessOf(dark, false) < 80 && lightnessOf(dark, true) > 200); // a light icon on dark ground
+        QVERIFY(lightnessOf(light, true) > 200 && lightnessOf(light, false) < 80);
+        QVERIFY(dark.pixelColor(1, 1).lightness() < 80 && light.pixelColor(1, 1).lightness() > 200);
+    }
+
+    void thePanelWithTheKeyboardSaysSo()
+    {
+        const auto mark = [this](const char* name) {
+            QCoreApplication::processEvents();
+            return dock(name)->grab(QRect(0, 0, 3, 8)).toImage().pixelColor(1, 4);
+        };
+        m_test->window->workspace()->canvas()->setFocus();
+        const QColor none = mark("HistoryDock");
+        dock("HistoryDock")->widget()->setFocus();
+        QVERIFY(mark("HistoryDock") != none);
+        QCOMPARE(mark("HistoryDock"), QApplication::palette().color(QPalette::Highlight));
+        m_test->window->workspace()->canvas()->setFocus();
+        QCOMPARE(mark("HistoryDock"), none);
+    }
+
     void theirEntriesShowAndHideThem()
     {
         QAction* entry = m_test->action("panels.showHistoryDock");
@@ -142,6 +180,19 @@ private Q_SLOTS:
 
 private:
     QDockWidget* dock(const char* name) const { return m_test->window->findChild<QDockWidget*>(QLatin1String(name)); }
+
+    /// The lightness (0 to 255) of the lightest or darkest pixel.
+    static int lightnessOf(const QImage& image, bool lightest)
+    {
+        int found = image.pixelColor(0, 0).lightness();
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                const int here = image.pixelColor(x, y).lightness();
+                found = lightest ? qMax(found, here) : qMin(found, here);
+            }
+        }
+        return found;
+    }
 
     void resize(const QSize& size) const
     {
