@@ -14,6 +14,7 @@
 #include <QJsonObject>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -119,6 +120,8 @@ StartPage::StartPage(RecentFiles* recent, const QString& examplesFolder, QWidget
     connect(m_recentGrid, &CardGrid::opened, this, &StartPage::openRecent);
     connect(m_recentGrid, &CardGrid::removalRequested, this,
             [this](const QListWidgetItem* item) { m_recent->remove(item->data(CardGrid::ValueRole).toString()); });
+    m_recentGrid->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_recentGrid, &QWidget::customContextMenuRequested, this, &StartPage::showRecentMenu);
     connect(m_recent, &RecentFiles::changed, this, &StartPage::fillRecent, Qt::QueuedConnection);
 }
 
@@ -240,6 +243,22 @@ void StartPage::drawMissingPictures()
         setPicture(item, picture);
     // One after the other, so that the page answers in between.
     QTimer::singleShot(0, this, &StartPage::drawMissingPictures);
+}
+
+void StartPage::showRecentMenu(const QPoint& place)
+{
+    const QListWidgetItem* item = m_recentGrid->itemAt(place);
+    if (!item)
+        return;
+    const QString folder = item->data(CardGrid::ValueRole).toString();
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    QAction* open = menu->addAction(coreText("O&pen"));
+    open->setEnabled(!item->data(CardGrid::DimmedRole).toBool());
+    connect(open, &QAction::triggered, this, [this, folder] { Q_EMIT projectRequested(folder); });
+    connect(menu->addAction(coreText("&Remove from List")), &QAction::triggered, this,
+            [this, folder] { m_recent->remove(folder); });
+    menu->popup(m_recentGrid->viewport()->mapToGlobal(place));
 }
 
 void StartPage::openRecent(const QListWidgetItem* item)

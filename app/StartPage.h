@@ -48,6 +48,7 @@ private:
     void fillExamples(const QString& folder);
     void fillRecent();
     void drawMissingPictures();
+    void showRecentMenu(const QPoint& place);
     void openRecent(const QListWidgetItem* item);
 
     RecentFiles* m_recent;

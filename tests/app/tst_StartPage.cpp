@@ -15,6 +15,7 @@
 
 #include <QDirIterator>
 #include <QDockWidget>
+#include <QMenu>
 #include <QPushButton>
 #include <QStandardPaths>
 
@@ -151,6 +152,21 @@ private Q_SLOTS:
         open();
         QTest::keyClick(page()->recentProjects(), Qt::Key_Delete);
         QTRY_COMPARE(page()->recentProjects()->count(), 0);
+        QVERIFY(QFile::exists(m_test->path("kettle/project.json")));
+    }
+
+    void theMenuOfAProjectTakesItOffTheList()
+    {
+        saveAndRemember();
+        open();
+        CardGrid* recent = page()->recentProjects();
+        Q_EMIT recent->customContextMenuRequested(recent->visualItemRect(recent->item(0)).center());
+        auto* menu = page()->findChild<QMenu*>();
+        QVERIFY(menu && menu->isVisible());
+        QCOMPARE(menu->actions().size(), 2);
+        menu->actions().last()->trigger();
+        menu->close();
+        QTRY_COMPARE(recent->count(), 0);
         QVERIFY(QFile::exists(m_test->path("kettle/project.json")));
     }
 
