@@ -144,7 +144,9 @@ void PaintHelper::paintTextBox(QSizeF size, const QFont& font, const QPen& pen, 
     const auto draw = [&](QPainter* target) {
         drawLetters(*layout, box, styleOffsets(textStyle), stylePen.color(), pen.color(), target);
     };
-    if (layout->needsLayer()) {
+    // A device that takes letters as outlines has no blending of glyphs to be kept from.
+    const bool takesOutlines = painter->paintEngine()->type() == QPaintEngine::User;
+    if (layout->needsLayer() && !takesOutlines) {
         drawOnLayer(box, 1, painter, draw);
     } else {
         draw(painter);
