@@ -1,5 +1,7 @@
 #include "tests/canvas/CanvasFixture.h"
 
+#include <QDragEnterEvent>
+#include <QMimeData>
 #include <QtTest>
 
 #include <rapidcheck.h>
@@ -239,6 +241,29 @@ private Q_SLOTS:
         canvas.view->setPlacementClass(QStringLiteral("Rectangle"));
         canvas.click({99, 400});
         QCOMPARE(canvas.outerRect(canvas.selected().first()).topLeft().x() + 0.0, 103.0);
+    }
+
+    void whatIsDraggedInFromThePaletteSnaps()
+    {
+        SnappingCanvas canvas;
+        canvas.setGuides(QStringLiteral("x 103, y 52"));
+        QMimeData data;
+        data.setData(CanvasView::elementMimeType(), "Rectangle");
+        const QPointF place = canvas.view->viewportTransform().map(QPointF(100, 200));
+        QDragEnterEvent enter(place.toPoint(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(canvas.view->viewport(), &enter);
+        QDragMoveEvent move(place.toPoint(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(canvas.view->viewport(), &move);
+        QVERIFY(canvas.showsLineAt(103, 300));
+        QDragLeaveEvent leave;
+        QCoreApplication::sendEvent(canvas.view->viewport(), &leave);
+        QVERIFY(!canvas.showsLineAt(103, 300));
+        QCoreApplication::sendEvent(canvas.view->viewport(), &enter);
+        QDropEvent drop(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(canvas.view->viewport(), &drop);
+        QCOMPARE(canvas.selected().size(), 1);
+        QCOMPARE(canvas.outerRect(canvas.selected().first()).left(), 103.0);
+        QVERIFY(!canvas.showsLineAt(103, 300));
     }
 
     void theGridIsATargetOnlyWhereItIsDrawn()

@@ -11,6 +11,7 @@
 #include "host/core/canvas/EditSession.h"
 #include "host/core/canvas/ElementOutline.h"
 #include "host/core/canvas/Gesture.h"
+#include "host/core/canvas/GestureSnapping.h"
 #include "host/core/canvas/GraphicsItem.h"
 #include "host/core/canvas/GuideGesture.h"
 #include "host/core/canvas/SelectionHandles.h"
@@ -234,6 +235,8 @@ void CanvasView::drawForeground(QPainter* painter, const QRectF& rect)
     SelectionHandles(this).paint(painter);
     if (m_gesture)
         m_gesture->paint(painter);
+    if (m_dropSnapping)
+        m_dropSnapping->paint(painter);
     CanvasReadout(this, readoutBesideMouse(), m_lastViewPos).paint(painter);
     painter->restore();
 }
@@ -309,6 +312,8 @@ void CanvasView::repaintHandles()
     QRegion now = SelectionHandles(this).region() + ElementOutline(this, m_outlined).region();
     if (m_gesture)
         now += m_gesture->paintedRegion();
+    if (m_dropSnapping)
+        now += m_dropSnapping->region();
     const QString text = readoutBesideMouse();
     const QRect readout = CanvasReadout(this, text, m_lastViewPos).rect().toAlignedRect();
     // It may say something else in the same place.

@@ -17,6 +17,7 @@ class CanvasScene;
 class DesignerObject;
 class EditSession;
 class Gesture;
+class GestureSnapping;
 struct CanvasPointer;
 struct HandleHit;
 
@@ -108,6 +109,7 @@ protected:
     void changeEvent(QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -135,12 +137,14 @@ private:
     void updateHandles();
     void repaintHandles();
     [[nodiscard]] bool acceptsDrop(const QDropEvent* event) const;
+    [[nodiscard]] QPointF dropPlace(const QDropEvent* event);
 
     EditSession* m_session;
     QString m_placementClass;
     std::unique_ptr<Gesture> m_gesture;
     std::unique_ptr<CanvasKeys> m_keys;
     std::unique_ptr<CanvasGuides> m_guides;
+    std::unique_ptr<GestureSnapping> m_dropSnapping; // while an element is dragged in from the palette
     CanvasAids m_aids;
     bool m_selectionFrame = true;
     CanvasRuler* m_topRuler;

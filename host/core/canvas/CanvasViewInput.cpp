@@ -274,18 +274,40 @@ void CanvasView::dragEnterEvent(QDragEnterEvent* event)
 
 void CanvasView::dragMoveEvent(QDragMoveEvent* event)
 {
-    if (acceptsDrop(event))
-        event->acceptProposedAction();
+    if (!acceptsDrop(event))
+        return;
+    event->acceptProposedAction();
+    (void)dropPlace(event); // shows what it would snap to
+}
+
+void CanvasView::dragLeaveEvent(QDragLeaveEvent*)
+{
+    m_dropSnapping.reset();
+    updateHandles();
 }
 
 void CanvasView::dropEvent(QDropEvent* event)
 {
     if (!acceptsDrop(event))
         return;
-    const QPointF place = PlaceGesture::placeFor(this, pointerAt(event->position(), event->modifiers()));
+    const QPointF place = dropPlace(event);
+    m_dropSnapping.reset();
+    updateHandles();
     event->acceptProposedAction();
     setFocus(Qt::MouseFocusReason);
     PlaceGesture::place(this, QString::fromUtf8(event->mimeData()->data(elementMimeType())), place, {});
+}
+
+/// Where the top left corner of what is dragged in comes to stand: whole pixels, snapped where the view snaps.
+QPointF CanvasView::dropPlace(const QDropEvent* event)
+{
+    const CanvasPointer pointer = pointerAt(event->position(), event->modifiers());
+    const QPointF there(std::round(pointer.scenePos.x()), std::round(pointer.scenePos.y()));
+    if (!m_dropSnapping)
+        m_dropSnapping = std::make_unique<GestureSnapping>(this);
+    m_dropSnapping->hide();
+    updateHandles();
+    return m_dropSnapping->isActive(pointer) ? m_dropSnapping->snapPoint(there, true) : there;
 }
 
 bool CanvasView::acceptsDrop(const QDropEvent* event) const

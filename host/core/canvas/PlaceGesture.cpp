@@ -124,13 +124,6 @@ QRectF PlaceGesture::sceneRect() const
     return isClick() ? QRectF() : QRectF(m_from, m_to).normalized();
 }
 
-QPointF PlaceGesture::placeFor(const CanvasView* view, const CanvasPointer& pointer)
-{
-    const QPointF there = wholePixels(pointer.scenePos);
-    GestureSnapping snapping(view);
-    return snapping.isActive(pointer) ? snapping.snapPoint(there, true) : there;
-}
-
 void PlaceGesture::place(CanvasView* view, const QString& className, const QPointF& position, const QSizeF& size)
 {
     const CanvasScene* scene = view->canvasScene();

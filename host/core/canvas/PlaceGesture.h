@@ -25,8 +25,6 @@ public:
     void paint(QPainter* painter) const override;
     [[nodiscard]] QRegion paintedRegion() const override;
 
-    /// Where a drop at \a pointer puts the top left corner: whole pixels, snapped where the view snaps.
-    [[nodiscard]] static QPointF placeFor(const CanvasView* view, const CanvasPointer& pointer);
     /// Adds an element of \a className with its top left corner at \a position and, where that is not empty and the
     /// class has a "boundingSize", of the outer size \a size, to the view's screen.
     static void place(CanvasView* view, const QString& className, const QPointF& position, const QSizeF& size);
