@@ -316,6 +316,19 @@ private Q_SLOTS:
         QVERIFY(!lock->isLocked());
     }
 
+    void undoSelectsAllThatWereEdited()
+    {
+        fill("number", {"5", "20", "5"});
+        selectAll();
+        SheetFixture::enter(m_fixture->editor<IntegerEditor>("number")->numberWidget()->spinBox(), "5");
+        QCOMPARE(values("number").at(1), QStringLiteral("5"));
+        m_fixture->session->undo();
+        QCOMPARE(m_fixture->session->selection().size(), 3);
+        QCOMPARE(m_fixture->sheet->objects().size(), 3);
+        m_fixture->session->redo();
+        QCOMPARE(m_fixture->session->selection().size(), 3);
+    }
+
     void aValueThatOneRefusesChangesNone()
     {
         fill("number", {"1", "20", "33"});

@@ -8,6 +8,7 @@
 #include "host/core/properties/DesignerProperty.h"
 #include "host/core/sheet/DefaultValues.h"
 #include "host/core/sheet/PropertyField.h"
+#include "host/core/sheet/SelectAgain.h"
 
 #include "host/common/LocalizationHelper.h"
 
@@ -77,6 +78,8 @@ EditResult FieldEdits::reset(const QList<PropertyField*>& fields, const QString&
     }
     if (reset.isEmpty())
         return {true, false, {}};
+    if (const QList<DesignerObject*> objects = order.constFirst()->objects(); objects.size() > 1)
+        new SelectAgain(objects, step.get());
     EditResult result = execute(std::move(step), reset.constFirst());
     for (PropertyField* field : order)
         field->reload();
@@ -114,6 +117,8 @@ EditResult FieldEdits::paste(const PropertyField& field, const QString& value)
         if (!property->equalsValue(value))
             field.editor()->createUpdateCommand(property, value, step.get());
     }
+    if (step->childCommandCount() > 0 && field.properties().size() > 1)
+        new SelectAgain(field.objects(), step.get());
     return step->childCommandCount() > 0 ? execute(std::move(step), first) : EditResult{true, false, {}};
 }
 

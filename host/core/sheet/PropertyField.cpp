@@ -8,6 +8,7 @@
 #include "host/core/properties/DesignerProperty.h"
 #include "host/core/sheet/DefaultValues.h"
 #include "host/core/sheet/DirectChangeRecorder.h"
+#include "host/core/sheet/SelectAgain.h"
 #include "host/core/values/NumberExpression.h"
 
 #include "host/common/LocalizationHelper.h"
@@ -44,6 +45,14 @@ void PropertyField::bind(const QList<QSharedPointer<DesignerProperty>>& properti
         return;
     load();
     reportInvalid();
+}
+
+QList<DesignerObject*> PropertyField::objects() const
+{
+    QList<DesignerObject*> objects;
+    for (const auto& property : m_properties)
+        objects.append(property->parentObject());
+    return objects;
 }
 
 bool PropertyField::holdsText(const QString& part) const
@@ -161,6 +170,8 @@ void PropertyField::applyToAll()
                       ? child->text()
                       : LocalizationHelper::coreString(QStringLiteral("Change %1")).arg(m_properties.first()->name()));
     step->adopt(m_recorder->take());
+    if (step->childCommandCount() > 0 && step->childCommandCount() < m_properties.size())
+        new SelectAgain(objects(), step.get());
 
     EditResult result{true, false, {}};
     if (step->childCommandCount() > 0 || step->hasEffect()) {

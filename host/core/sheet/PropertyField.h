@@ -9,6 +9,7 @@
 
 namespace Korvex::Meridane::Designer {
 
+class DesignerObject;
 class DesignerProperty;
 class DirectChangeRecorder;
 class PropertyEditor;
@@ -35,6 +36,8 @@ public:
     [[nodiscard]] bool isMixed() const { return m_mixed; }
     /// At least one value is another than its object's default.
     [[nodiscard]] bool differsFromDefault() const { return m_differs; }
+    /// The objects of properties().
+    [[nodiscard]] QList<DesignerObject*> objects() const;
     /// Whether \a part stands in a value, upper or lower case.
     [[nodiscard]] bool holdsText(const QString& part) const;
 
