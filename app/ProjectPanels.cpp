@@ -9,7 +9,9 @@
 #include "app/MessageBar.h"
 #include "app/ProblemIndicator.h"
 #include "app/ProblemsPanel.h"
+#include "app/ProjectTree.h"
 #include "app/ScreenActions.h"
+#include "app/ScreenListPanel.h"
 #include "app/ScreenTabs.h"
 #include "app/ScreensPanel.h"
 #include "app/UserPrompts.h"
@@ -103,9 +105,10 @@ void ProjectPanels::addTo(QMenu* menu)
 void ProjectPanels::setWorkspace(Workspace* workspace)
 {
     m_monitor.reset();
-    delete m_screens;
+    delete m_screenList;
     delete m_fonts;
     delete m_find;
+    m_screenList = nullptr;
     m_screens = nullptr;
     m_fonts = nullptr;
     m_find = nullptr;
@@ -122,14 +125,16 @@ void ProjectPanels::makePanels(Workspace* workspace)
 {
     EditSession* session = workspace->session();
     m_screens = new ScreensPanel(session);
+    m_screenList = new ScreenListPanel(m_screens, m_screenActions);
     m_fonts = new FontPanel(session);
     m_find = new FindPanel(session);
-    m_screensDock->setWidget(m_screens);
+    m_screensDock->setWidget(m_screenList);
     m_fontsDock->setWidget(m_fonts);
     m_findDock->setWidget(m_find);
     for (QWidget* panel :
-         {static_cast<QWidget*>(m_screens), static_cast<QWidget*>(m_fonts), static_cast<QWidget*>(m_find)})
+         {static_cast<QWidget*>(m_screenList), static_cast<QWidget*>(m_fonts), static_cast<QWidget*>(m_find)})
         panel->show();
+    workspace->tree()->addAction(m_referencesAction);
     connect(m_screens, &ScreensPanel::menuRequested, m_screenActions, &ScreenActions::showMenu);
     connect(m_screens, &ScreensPanel::removalRequested, m_screenActions, &ScreenActions::remove);
     connect(m_screens, &ScreensPanel::refused, this, &ProjectPanels::refuse);

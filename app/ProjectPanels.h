@@ -21,6 +21,7 @@ class ProblemIndicator;
 class ProblemMonitor;
 class ProblemsPanel;
 class ScreenActions;
+class ScreenListPanel;
 class ScreensPanel;
 class UserPrompts;
 class WindowPanels;
@@ -87,7 +88,8 @@ private:
     QAction* m_findAction;
     QAction* m_referencesAction;
     std::unique_ptr<ProblemMonitor> m_monitor;
-    ScreensPanel* m_screens = nullptr;
+    ScreenListPanel* m_screenList = nullptr;
+    ScreensPanel* m_screens = nullptr; // in m_screenList
     FontPanel* m_fonts = nullptr;
     FindPanel* m_find = nullptr;
 };

@@ -17,11 +17,13 @@
 #include "host/core/sheet/PropertySheet.h"
 
 #include <QAbstractItemModelTester>
+#include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QMimeData>
 #include <QStandardPaths>
+#include <QToolButton>
 #include <QTreeWidget>
 
 using namespace Korvex::Meridane::Designer;
@@ -140,6 +142,37 @@ private Q_SLOTS:
         QCOMPARE(rows(), (QStringList{QStringLiteral("main1"), QStringLiteral("second")}));
         choose(menu, "Duplicate"); // of a screen that is gone
         QCOMPARE(rows().size(), 2);
+    }
+
+    void theButtonsAboveTheListActOnTheCurrentRow()
+    {
+        show("ScreensDock");
+        press("Add a Screen");
+        QCOMPARE(rows(), (QStringList{QStringLiteral("main"), QStringLiteral("screen1")}));
+        screens()->setCurrentIndex(screens()->screenModel()->index(0));
+        press("Duplicate");
+        QCOMPARE(rows(), (QStringList{QStringLiteral("main"), QStringLiteral("main1"), QStringLiteral("screen1")}));
+        screens()->setCurrentIndex(screens()->screenModel()->index(2));
+        press("Remove");
+        press("Remove");
+        press("Remove");
+        QVERIFY(rows().isEmpty());
+        QVERIFY(!button("Duplicate")->isEnabled() && button("Add a Screen")->isEnabled());
+    }
+
+    void aTabAsksForTheMenuOfItsScreen()
+    {
+        m_window->session()->addScreen(QStringLiteral("second"));
+        ScreenTabs* tabs = m_window->window->workspace()->canvasPanel()->tabs();
+        QTRY_COMPARE(tabs->count(), 2);
+        tabs->disconnect(panels()->screenActions()); // a menu would wait for somebody
+        QList<Screen*> asked;
+        connect(tabs, &ScreenTabs::menuRequested, this, [&asked](Screen* about) { asked.append(about); });
+        const QPoint at = tabs->tabRect(0).center();
+        QContextMenuEvent event(QContextMenuEvent::Mouse, at, tabs->mapToGlobal(at));
+        QApplication::sendEvent(tabs, &event);
+        QCOMPARE(asked, QList<Screen*>{screen(0)});
+        tabs->disconnect(this);
     }
 
     void theScreenActionsAreEnabledWhenTheyCanAct()
@@ -355,6 +388,16 @@ private:
                                         &added);
         return added;
     }
+    QToolButton* button(const char* name) const
+    {
+        const QList<QToolButton*> buttons = screens()->parentWidget()->findChildren<QToolButton*>();
+        for (QToolButton* found : buttons) {
+            if (found->accessibleName() == QString::fromUtf8(name))
+                return found;
+        }
+        return nullptr;
+    }
+    void press(const char* name) const { QTest::mouseClick(button(name), Qt::LeftButton); }
     static void choose(const QMenu& menu, const char* text)
     {
         for (QAction* entry : menu.actions()) {

@@ -1,7 +1,9 @@
 #include "host/common/PaintHelper.h"
 #include "host/common/TextBoxLayout.h"
+#include "host/core/commands/RemoveFont.h"
 #include "host/core/objects/Screen.h"
 #include "host/core/project/FontImporter.h"
+#include "host/core/project/FontReferences.h"
 #include "host/core/project/Project.h"
 #include "host/core/project/ProjectChecker.h"
 #include "host/core/project/ProjectStore.h"
@@ -45,6 +47,10 @@ private Q_SLOTS:
     void aVersionOfTheProjectGoesBeforeTheInstalledOne();
     void aMissingFontIsReportedUntilItIsImported();
     void aWeightThatNoDisplayShowsIsReported();
+    void aFontIsRemovedAsAStepAndItsFileWhenTheSavedProjectIsClosed();
+    void aRemovedFontComesBackWithUndoAlsoAfterASave();
+    void aRemovalThatIsNotSavedLeavesTheFile();
+    void aFontInUseIsNotRemoved();
 
 private:
     QString import(const QString& file)
@@ -55,6 +61,10 @@ private:
     static bool isKnown() { return QFontDatabase::hasFamily(QStringLiteral("Panel Segments")); }
     QStringList fonts() const { return QDir(m_fixture->folder() + QStringLiteral("/fonts")).entryList(QDir::Files); }
     bool save(const QString& folder) { return ProjectStore::save(m_project.get(), folder, &m_message); }
+    EditResult remove(const QString& font)
+    {
+        return m_project->execute(std::make_unique<RemoveFont>(m_project.get(), font));
+    }
     QString problems() const { return textOf(ProjectChecker::check(m_project.get())); }
 
     AllTypesFactory m_factory;
@@ -306,6 +316,58 @@ void tst_ProjectFonts::aWeightThatNoDisplayShowsIsReported()
     QVERIFY(problemsOf(" weight: 600;").contains(QLatin1String("the weight 600 is shown as bold")));
     QVERIFY(problemsOf(" weight: 500;").contains(QLatin1String("the weight 500 is shown as normal")));
     QCOMPARE(problemsOf(""), QString());
+}
+
+void tst_ProjectFonts::aFontIsRemovedAsAStepAndItsFileWhenTheSavedProjectIsClosed()
+{
+    const QString font = importSegments();
+    QVERIFY(save(m_fixture->folder()));
+    QVERIFY(remove(font).changed);
+    QCOMPARE(m_project->undoStack()->count(), 1);
+    QVERIFY(m_project->fontResources().isEmpty());
+    QVERIFY(!isKnown());
+    QVERIFY(save(m_fixture->folder()));
+    QCOMPARE(fonts(), QStringList{font}); // the history may ask for it
+    m_project.reset();
+    QVERIFY(fonts().isEmpty());
+}
+
+void tst_ProjectFonts::aRemovedFontComesBackWithUndoAlsoAfterASave()
+{
+    const QString font = importSegments();
+    QVERIFY(remove(font).changed);
+    QVERIFY(save(m_fixture->folder()));
+    m_project->undoStack()->undo();
+    QCOMPARE(m_project->fontResources(), QStringList{font});
+    QVERIFY(isKnown());
+    QVERIFY(save(m_fixture->folder()));
+    m_project.reset();
+    QCOMPARE(fonts(), QStringList{font});
+}
+
+void tst_ProjectFonts::aRemovalThatIsNotSavedLeavesTheFile()
+{
+    const QString font = importSegments();
+    QVERIFY(save(m_fixture->folder()));
+    QVERIFY(remove(font).changed);
+    m_project.reset();
+    QCOMPARE(fonts(), QStringList{font});
+    m_project = load(m_fixture->folder());
+    QCOMPARE(m_project->fontResources(), QStringList{font});
+}
+
+void tst_ProjectFonts::aFontInUseIsNotRemoved()
+{
+    const QString font = importSegments();
+    const QString refusal = FontReferences::removalRefusal(m_project.get(), font);
+    QVERIFY2(refusal.contains(QLatin1String("main/lamp")), qUtf8Printable(refusal));
+    DesignerObject* lamp = m_project->screens().constFirst()->element(QStringLiteral("lamp"));
+    QCOMPARE(FontReferences::users(m_project.get(), font), QList<DesignerObject*>{lamp});
+    setValue(lamp, "font", QStringLiteral("family: Another; pixelSize: 20;"));
+    QVERIFY(FontReferences::removalRefusal(m_project.get(), font).isEmpty());
+    setValue(lamp, "font", QStringLiteral("family: panel segments; pixelSize: 20;")); // capitals make no difference
+    QVERIFY(!FontReferences::removalRefusal(m_project.get(), font).isEmpty());
+    QVERIFY(!FontReferences::removalRefusal(m_project.get(), QStringLiteral("other.ttf")).isEmpty());
 }
 
 QTEST_MAIN(tst_ProjectFonts)
