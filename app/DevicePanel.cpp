@@ -62,6 +62,7 @@ DevicePanel::DevicePanel(EditSession* session, CanvasView* canvas, QWidget* pare
     area->setFrameShape(QFrame::NoFrame);
     area->setAlignment(Qt::AlignCenter);
     area->setWidget(m_picture);
+    area->setAccessibleName(coreText("The screen as the panel shows it"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);

@@ -1,6 +1,7 @@
 #include "host/core/widgets/HueSaturationField.h"
 
 #include "host/common/LocalizationHelper.h"
+#include "host/core/accessibility/ControlRoles.h"
 
 #include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
@@ -34,6 +35,7 @@ HueSaturationField::HueSaturationField(QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::CrossCursor);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    ControlRoles::install();
     setAccessibleName(Common::LocalizationHelper::coreString(QStringLiteral("Hue and saturation")));
     describe();
 }

@@ -2,6 +2,7 @@
 
 #include "host/common/LocalizationHelper.h"
 #include "host/common/TransformOrigin.h"
+#include "host/core/accessibility/ControlRoles.h"
 #include "host/core/values/RotationInfo.h"
 
 #include <QtGui/QHelpEvent>
@@ -44,6 +45,7 @@ NineGrid::NineGrid(QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    ControlRoles::install();
     setAccessibleName(LocalizationHelper::coreString(QStringLiteral("Fixed point")));
     describe();
 }
