@@ -430,7 +430,9 @@ void RandomUser::clickInTree()
     QTest::mouseClick(tree->viewport(), Qt::LeftButton, modifiers, tree->visualRect(index).center());
     if (chance(20)) {
         m_description += QStringLiteral(" and rename it");
+        QCoreApplication::processEvents();
         QTest::keyClick(tree, Qt::Key_F2);
+        QCoreApplication::processEvents();
         if (auto* line = qobject_cast<QLineEdit*>(QApplication::focusWidget())) {
             line->setText(chance(50) ? QStringLiteral("renamed%1").arg(below(100)) : randomText());
             QTest::keyClick(line, chance(80) ? Qt::Key_Return : Qt::Key_Escape);
