@@ -39,7 +39,7 @@ private Q_SLOTS:
         row("Line", "geometry appearance");
         row("Polygon", "geometry appearance");
         row("IrregularPolygon", "geometry points appearance");
-        row("TextBox", "geometry text appearance");
+        row("TextBox", "geometry text");
         row("PathElement", "geometry appearance");
         row("LinearGradientElement", "geometry gradient");
         row("RadialGradientElement", "geometry gradient");

@@ -6,6 +6,7 @@
 
 #include "host/common/LocalizationHelper.h"
 
+#include <algorithm>
 #include <array>
 
 namespace Korvex::Meridane::Designer {
@@ -49,6 +50,10 @@ constexpr std::array Rules{
     Rule{Id, "edgeLength", Geometry},
     Rule{Id, "cornerRadius", Appearance},
     Rule{Id, "width", Appearance},
+    Rule{Id, "text", Text},
+    Rule{Id, "alignment", Text},
+    Rule{Id, "textStyle", Text},
+    Rule{Id, "gradientStops", Gradient},
     Rule{Id, "start", Gradient},
     Rule{Id, "finalStop", Gradient},
     Rule{Id, "center", Gradient},
@@ -58,10 +63,6 @@ constexpr std::array Rules{
     Rule{Id, "startAngle", Gradient},
     Rule{Editor, "KeepRatioEditor", Geometry},
     Rule{Editor, "ImageSourceEditor", Image},
-    Rule{Editor, "TextEditPropertyEditor", Text},
-    Rule{Editor, "TextAlignmentEditor", Text},
-    Rule{Editor, "TextStyleEditor", Text},
-    Rule{Editor, "GradientStopsEditor", Gradient},
     Rule{Type, "RotationProperty", Geometry},
     Rule{Type, "SizeProperty", Geometry},
     Rule{Type, "FontProperty", Text},
@@ -84,10 +85,27 @@ bool fits(const Rule& rule, const DesignerProperty& property, const QString& edi
     return false;
 }
 
+bool hasType(const DesignerObject& object, const char* type)
+{
+    const auto& all = object.properties();
+    return std::any_of(all.begin(), all.end(),
+                       [type](const auto& each) { return each->classNames().contains(QLatin1String(type)); });
+}
+
+/// The color of an object that has a font and nothing to fill, such as a frame with a border, is that of its letters.
+bool isTextColor(const DesignerProperty& property)
+{
+    const DesignerObject* object = property.parentObject();
+    return object && property.className() == QLatin1String("ColorProperty") && hasType(*object, "FontProperty")
+           && !hasType(*object, "BorderProperty");
+}
+
 } // namespace
 
 QString SheetSections::keyOf(const DesignerProperty& property)
 {
+    if (isTextColor(property))
+        return QString::fromLatin1(Text);
     const QString editorClass = EditorMatcher::editorClass(property);
     const QStringList types = property.classNames();
     for (const Rule& rule : Rules) {

@@ -13,7 +13,8 @@ class DesignerProperty;
  * The headings that the rows of the property sheet stand under.
  *
  * Which one a property belongs to follows from its type, its editor and its id, by an ordered list of rules of which the
- * first that fits decides. A property that no rule knows stands under the name of its object's type.
+ * first that fits decides. The color of a text stands with the text. A property that no rule knows stands under the name of
+ * its object's type.
  */
 class MERIDANE_CORE_EXPORT SheetSections
 {
