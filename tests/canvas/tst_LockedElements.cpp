@@ -26,6 +26,12 @@ private Q_SLOTS:
         canvas.drag({140, 130}, {150, 135});
         QCOMPARE(canvas.value(below, "position"), QStringLiteral("110,105"));
         QCOMPARE(canvas.value(above, "position"), QStringLiteral("120,110"));
+        canvas.select({});
+        for (int i = 0; i < 3; ++i) {
+            canvas.click({140, 130}, Qt::ControlModifier);
+            QCOMPARE(canvas.selected(), QList<DesignerObject*>{below});
+        }
+        QCOMPARE(canvas.scene()->elementsAt({140, 130}), QList<DesignerObject*>{below});
         canvas.session->setLocked({below}, true);
         canvas.click({140, 130});
         QVERIFY(canvas.selected().isEmpty());

@@ -232,6 +232,9 @@ QList<DesignerObject*> CanvasScene::elementsAt(const QPointF& scenePos) const
     const QList<QGraphicsItem*> near = items(about, Qt::IntersectsItemShape);
     QList<DesignerObject*> elements;
     for (QGraphicsItem* graphic : near) {
+        const GraphicsItem* hit = GraphicsItem::fromGraphic(graphic);
+        if (hit && EditorMarks::isLocked(hit->dataObject()))
+            continue;
         if (!graphic->contains(graphic->mapFromScene(scenePos)) && thickness(graphic) > 2 * reach)
             continue;
         qsizetype place = elements.size();

@@ -47,7 +47,8 @@ public:
     /// Of the group that elementAt() finds: what is hit in it, one level further in. Null where no group is hit.
     [[nodiscard]] DesignerObject* elementInGroupAt(const QPointF& scenePos) const;
     /// All elements at \a scenePos that can be selected, from front to back, thin ones beside it included: of elements in
-    /// groups the groups first, from the outermost inwards. Begins with elementAt() unless something in a group is selected.
+    /// groups the groups first, from the outermost inwards; none that is locked. Begins with elementAt() unless something in
+    /// a group is selected.
     [[nodiscard]] QList<DesignerObject*> elementsAt(const QPointF& scenePos) const;
     /// The elements whose shapes \a sceneRect touches, groups for what is in them, in z-order; none that is locked.
     [[nodiscard]] QList<DesignerObject*> elementsIn(const QRectF& sceneRect) const;
