@@ -14,20 +14,22 @@ public:
     UpdatePace(QObject* owner, const Work& work)
     {
         m_timer.setSingleShot(true);
-        m_timer.setInterval(ShortestInterval);
         QObject::connect(&m_timer, &QTimer::timeout, owner, [this, work] {
             QElapsedTimer time;
             time.start();
             work();
-            m_timer.setInterval(qBound(ShortestInterval, int(time.elapsed()) * ShareOfTime, LongestInterval));
+            m_pause = qMin(int(time.elapsed()) * ShareOfTime, LongestInterval);
+            m_sinceWork.start();
         });
     }
 
     /// Runs the work when it is its time. Asked again before that, it still runs once.
     void request()
     {
-        if (!m_timer.isActive())
-            m_timer.start();
+        if (m_timer.isActive())
+            return;
+        const int rest = m_sinceWork.isValid() ? m_pause - int(qMin<qint64>(m_sinceWork.elapsed(), m_pause)) : 0;
+        m_timer.start(qMax(rest, ShortestInterval));
     }
     void cancel() { m_timer.stop(); }
 
@@ -37,6 +39,8 @@ private:
     static constexpr int ShareOfTime = 4;
 
     QTimer m_timer;
+    QElapsedTimer m_sinceWork;
+    int m_pause = 0; // ms that the work has to rest
 };
 
 } // namespace Korvex::Meridane::Designer

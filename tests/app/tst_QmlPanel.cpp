@@ -23,6 +23,7 @@
 
 #include <rapidcheck.h>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace Korvex::Meridane::Designer;
@@ -274,6 +275,7 @@ private Q_SLOTS:
     void partsOfQmlAreColored()
     {
         QTextDocument document;
+        QVERIFY(document.documentLayout()); // without one nobody hears of changes
         QmlHighlighter highlighter(&document);
         highlighter.setPalette(Appearance::lightPalette());
         document.setPlainText(QStringLiteral("import Meridane.Display\n"
@@ -283,7 +285,6 @@ private Q_SLOTS:
                                              "\ttext: \"a \\\" b: // c\"\n"
                                              "\tclip: true /* one\n"
                                              "two */ x: -4\n"));
-        QApplication::processEvents(); // a new highlighter waits for them
         using Part = QmlHighlighter::Part;
         const auto colorAt = [&document](int line, const char* part) {
             const QTextBlock block = document.findBlockByNumber(line);
@@ -332,12 +333,47 @@ private Q_SLOTS:
         for (int i = 0; i < 2000; ++i)
             elements.append(add("Rectangle", i % 50, i / 50));
         QTRY_COMPARE_WITH_TIMEOUT(text(), ScreenQml(m_screen).text(), 20000);
-        // One change among them, from the edit to the text.
+        // One change among them, from the edit to the text. Before it the panel has had its rest from making all of it.
+        QTest::qWait(1200);
         time.start();
         m_session->setProperty(elements.at(1000), QStringLiteral("position"), QStringLiteral("777,1"));
         QTRY_VERIFY(m_panel->text()->document()->find(QStringLiteral("x: 777")).hasSelection());
         QVERIFY2(time.elapsed() < 1000, qPrintable(QString::number(time.elapsed())));
         QCOMPARE(text(), ScreenQml(m_screen).text());
+    }
+
+    void aDragAmongTwoThousandElementsStaysFluent()
+    {
+        for (int i = 0; i < 2000; ++i)
+            add("Rectangle", (i % 50) * 16, (i / 50) * 12);
+        const auto medianFrame = [this] {
+            const auto at = [this](double x, double y) { return m_canvas->mapFromScene(QPointF(x, y)); };
+            std::vector<double> frames;
+            QTest::mousePress(m_canvas->viewport(), Qt::LeftButton, Qt::NoModifier, at(405, 245));
+            for (int i = 1; i <= 61; ++i) {
+                QElapsedTimer time;
+                time.start();
+                QTest::mouseMove(m_canvas->viewport(), at(405 + i, 245 + i));
+                QApplication::processEvents();
+                frames.push_back(double(time.nsecsElapsed()) / 1e6);
+            }
+            const bool dragged = m_canvas->isGestureRunning() && !m_canvas->pendingChanges().isEmpty();
+            QTest::keyClick(m_canvas.get(), Qt::Key_Escape);
+            QTest::mouseRelease(m_canvas->viewport(), Qt::LeftButton, Qt::NoModifier, at(466, 306));
+            if (!dragged)
+                return -1.0;
+            std::nth_element(frames.begin(), frames.begin() + 30, frames.end());
+            return frames[30];
+        };
+        m_panel->hide();
+        QApplication::processEvents();
+        const double alone = medianFrame();
+        m_panel->show();
+        QTRY_COMPARE_WITH_TIMEOUT(text(), ScreenQml(m_screen).text(), 20000);
+        const double together = medianFrame();
+        qInfo("%.2f ms a frame without the panel, %.2f with it", alone, together);
+        QVERIFY(alone > 0 && together > 0);
+        QVERIFY2(together < 2 * alone + 8, qPrintable(QStringLiteral("%1, %2").arg(alone).arg(together)));
     }
 
 private:
