@@ -66,6 +66,9 @@ class tst_SheetResets : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
+        // Each case goes through all properties of an element of its kind.
+        if (!qEnvironmentVariableIsSet("RC_PARAMS"))
+            qputenv("RC_PARAMS", "max_success=30");
         QString message;
         QVERIFY2(DesignerFactory::instance()->loadPlugin(QStringLiteral(MERIDANE_PLUGIN_FILE), &message),
                  qPrintable(message));
