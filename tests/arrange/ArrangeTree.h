@@ -5,10 +5,13 @@
 #include "host/core/project/ElementJson.h"
 #include "host/core/properties/ObjectListProperty.h"
 #include "host/core/values/RotationInfo.h"
+#include "host/core/values/ValueConversion.h"
 
 #include <QJsonDocument>
 
 #include <rapidcheck.h>
+
+#include <iterator>
 
 namespace Korvex::Meridane::Designer::Test {
 
@@ -28,8 +31,7 @@ public:
     {
         const int count = anyNumber(3, 9);
         for (int i = 0; i < count; ++i) {
-            DesignerObject* element = canvas.addRectangle(
-                QRectF(anyNumber(0, 700), anyNumber(0, 400), anyNumber(10, 120), anyNumber(10, 90)), anyNumber(0, 4));
+            DesignerObject* element = anyElement();
             turn(element);
         }
         const int groups = anyNumber(0, 4);
@@ -110,6 +112,21 @@ public:
     CanvasFixture canvas;
 
 private:
+    /// Mostly a rectangle; else an element of another kind with the size that it comes with.
+    DesignerObject* anyElement()
+    {
+        const QPointF position(anyNumber(0, 700), anyNumber(0, 400));
+        if (anyNumber(0, 3) > 0) {
+            const QSizeF size(anyNumber(10, 120), anyNumber(10, 90));
+            return canvas.addRectangle(QRectF(position, size), anyNumber(0, 4));
+        }
+        static constexpr const char* classes[] = {
+            "Ellipse",     "Polygon",          "TextBox", "Line",
+            "PathElement", "IrregularPolygon", "Image",   "LinearGradientElement"};
+        return canvas.add(classes[anyNumber(0, int(std::size(classes)))],
+                          {{QStringLiteral("position"), ValueConversion::toString(position)}});
+    }
+
     void turn(DesignerObject* object)
     {
         if (!m_turned || anyNumber(0, 3) == 0)
