@@ -17,6 +17,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <ranges>
 
 namespace Korvex::Meridane::Designer {
 
@@ -172,8 +173,8 @@ void ReparentObjects::execute()
 void ReparentObjects::undoStructure()
 {
     letGo(m_objects);
-    for (auto done = m_moves.crbegin(); done != m_moves.crend(); ++done)
-        move(done->object, done->from, done->fromIndex, done->idsBefore);
+    for (const Move& done : m_moves | std::views::reverse)
+        move(done.object, done.from, done.fromIndex, done.idsBefore);
 }
 
 void ReparentObjects::redoStructure()

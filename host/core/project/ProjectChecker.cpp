@@ -21,6 +21,7 @@
 #include <QFontDatabase>
 #include <QGuiApplication>
 
+#include <ranges>
 #include <utility>
 
 namespace Korvex::Meridane::Designer {
@@ -167,8 +168,8 @@ void ProjectChecker::checkElement(const Waiting& waiting)
     }
     if (const ObjectListProperty* list = object->childList()) {
         const auto& children = list->items();
-        for (auto child = children.crbegin(); child != children.crend(); ++child)
-            m_waiting.append({*child, !offScreen});
+        for (const DesignerObject* child : children | std::views::reverse)
+            m_waiting.append({child, !offScreen});
     }
 }
 

@@ -14,6 +14,8 @@
 #include <QElapsedTimer>
 #include <QSet>
 
+#include <ranges>
+
 namespace Korvex::Meridane::Designer {
 
 namespace {
@@ -163,8 +165,8 @@ bool ProjectSearch::proceed(int milliseconds)
         }
         if (const ObjectListProperty* list = object->childList()) {
             const auto& children = list->items();
-            for (auto child = children.crbegin(); child != children.crend(); ++child)
-                m_waiting.append(*child);
+            for (const DesignerObject* child : children | std::views::reverse)
+                m_waiting.append(child);
         }
         if (milliseconds == 0 || (milliseconds > 0 && clock.hasExpired(milliseconds)))
             break;
