@@ -47,7 +47,7 @@ QString HelpActions::guideFile()
 {
     const QString folder = ProgramFiles::folder(ProgramFiles::Kind::Guide);
     for (const char* name : {"index.html", "README.html", "index.md", "README.md"}) {
-        const QString file = QDir(folder).filePath(QLatin1String(name));
+        QString file = QDir(folder).filePath(QLatin1String(name));
         if (!folder.isEmpty() && QFileInfo(file).isFile())
             return file;
     }

@@ -56,7 +56,7 @@ QImage ProjectThumbnails::draw(const QString& folder)
     if (!loaded.project)
         return {};
     EditSession session(std::move(loaded.project));
-    const QImage picture = pictureOf(&session);
+    QImage picture = pictureOf(&session);
     write(picture, folder);
     return picture;
 }

@@ -176,7 +176,7 @@ void ShortcutSettings::resetAll()
     Q_EMIT changed();
 }
 
-void ShortcutSettings::setShortcuts(QAction* action, const QList<QKeySequence>& shortcuts)
+void ShortcutSettings::setShortcuts(QAction* action, const QList<QKeySequence>& shortcuts) const
 {
     action->setShortcuts(shortcuts);
     AppSettings settings;
@@ -187,7 +187,7 @@ void ShortcutSettings::setShortcuts(QAction* action, const QList<QKeySequence>& 
         settings.remove(key);
 }
 
-void ShortcutSettings::take(const QKeySequence& keys, const QAction* except)
+void ShortcutSettings::take(const QKeySequence& keys, const QAction* except) const
 {
     while (QAction* former = user(keys, except)) {
         QList<QKeySequence> rest = former->shortcuts();

@@ -49,8 +49,8 @@ Q_SIGNALS:
     void changed();
 
 private:
-    void setShortcuts(QAction* action, const QList<QKeySequence>& shortcuts);
-    void take(const QKeySequence& keys, const QAction* except);
+    void setShortcuts(QAction* action, const QList<QKeySequence>& shortcuts) const;
+    void take(const QKeySequence& keys, const QAction* except) const;
 
     struct Entry
     {
