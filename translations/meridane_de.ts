@@ -356,7 +356,7 @@
     <message>
         <source>Cu&amp;t</source>
         <extracomment>app/EditActions.cpp</extracomment>
-        <translation>Auss&amp;chneiden</translation>
+        <translation>Aussch&amp;neiden</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
@@ -371,7 +371,7 @@
     <message>
         <source>Dup&amp;licate</source>
         <extracomment>app/EditActions.cpp</extracomment>
-        <translation>Dupli&amp;zieren</translation>
+        <translation>&amp;Duplizieren</translation>
     </message>
     <message>
         <source>D&amp;elete</source>
@@ -396,22 +396,22 @@
     <message>
         <source>Bring to &amp;Front</source>
         <extracomment>app/EditActions.cpp</extracomment>
-        <translation>Ganz nach &amp;vorn</translation>
+        <translation>Ganz &amp;nach vorn</translation>
     </message>
     <message>
         <source>Brin&amp;g Forward</source>
         <extracomment>app/EditActions.cpp</extracomment>
-        <translation>Eine Ebene &amp;nach vorn</translation>
+        <translation>Eine Ebene na&amp;ch vorn</translation>
     </message>
     <message>
         <source>Send Back&amp;ward</source>
         <extracomment>app/EditActions.cpp</extracomment>
-        <translation>Eine Ebene nach hin&amp;ten</translation>
+        <translation>&amp;Eine Ebene nach hinten</translation>
     </message>
     <message>
         <source>Send to Bac&amp;k</source>
         <extracomment>app/EditActions.cpp</extracomment>
-        <translation>&amp;Ganz nach hinten</translation>
+        <translation>Ganz nach &amp;hinten</translation>
     </message>
     <message>
         <source>Paste</source>
@@ -461,27 +461,27 @@
     <message>
         <source>O&amp;pen…</source>
         <extracomment>app/FileActions.cpp</extracomment>
-        <translation>Ö&amp;ffnen…</translation>
+        <translation>&amp;Öffnen…</translation>
     </message>
     <message>
         <source>Sa&amp;ve</source>
         <extracomment>app/FileActions.cpp</extracomment>
-        <translation>S&amp;peichern</translation>
+        <translation>Spei&amp;chern</translation>
     </message>
     <message>
         <source>Save &amp;As…</source>
         <extracomment>app/FileActions.cpp</extracomment>
-        <translation>Speiche&amp;rn unter…</translation>
+        <translation>Speic&amp;hern unter…</translation>
     </message>
     <message>
         <source>&amp;Close</source>
         <extracomment>app/FileActions.cpp</extracomment>
-        <translation>S&amp;chließen</translation>
+        <translation>Sch&amp;ließen</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
         <extracomment>app/FileActions.cpp</extracomment>
-        <translation>B&amp;eenden</translation>
+        <translation>Been&amp;den</translation>
     </message>
     <message>
         <source>Open &amp;Recent</source>
@@ -511,7 +511,7 @@
     <message>
         <source>&amp;Find Command…</source>
         <extracomment>app/HelpActions.cpp</extracomment>
-        <translation>Be&amp;fehl suchen…</translation>
+        <translation>Befehl su&amp;chen…</translation>
     </message>
     <message>
         <source>&amp;Keyboard Shortcuts…</source>
@@ -526,7 +526,7 @@
     <message>
         <source>&amp;About Meridane Designer</source>
         <extracomment>app/HelpActions.cpp</extracomment>
-        <translation>Über &amp;Meridane Designer</translation>
+        <translation>&amp;Über Meridane Designer</translation>
     </message>
     <message>
         <source>The user guide is not installed.</source>
@@ -570,7 +570,7 @@ Läuft mit Qt %1.</translation>
     <message>
         <source>History</source>
         <extracomment>app/HistoryPanel.cpp</extracomment>
-        <translation>Verlauf</translation>
+        <translation>Protokoll</translation>
     </message>
     <message>
         <source>Import I&amp;mages…</source>
@@ -734,32 +734,32 @@ Läuft mit Qt %1.</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <extracomment>app/MainWindow.cpp</extracomment>
+        <extracomment>app/MainWindowMenus.cpp</extracomment>
         <translation>&amp;Datei</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <extracomment>app/MainWindow.cpp</extracomment>
+        <extracomment>app/MainWindowMenus.cpp</extracomment>
         <translation>B&amp;earbeiten</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <extracomment>app/MainWindow.cpp</extracomment>
-        <translation>&amp;Ansicht</translation>
+        <extracomment>app/MainWindowMenus.cpp</extracomment>
+        <translation>Ansi&amp;cht</translation>
     </message>
     <message>
         <source>&amp;Panels</source>
-        <extracomment>app/MainWindow.cpp</extracomment>
-        <translation>Be&amp;reiche</translation>
+        <extracomment>app/MainWindowMenus.cpp</extracomment>
+        <translation>Berei&amp;che</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <extracomment>app/MainWindow.cpp</extracomment>
+        <extracomment>app/MainWindowMenus.cpp</extracomment>
         <translation>&amp;Hilfe</translation>
     </message>
     <message>
         <source>Tool Bar</source>
-        <extracomment>app/MainWindow.cpp</extracomment>
+        <extracomment>app/MainWindowMenus.cpp</extracomment>
         <translation>Werkzeugleiste</translation>
     </message>
     <message>
@@ -795,7 +795,7 @@ Läuft mit Qt %1.</translation>
     <message>
         <source>Edit P&amp;roperties</source>
         <extracomment>app/NavigationActions.cpp</extracomment>
-        <translation>&amp;Eigenschaften bearbeiten</translation>
+        <translation>Eigenschaf&amp;ten bearbeiten</translation>
     </message>
     <message>
         <source>&amp;Go to Canvas</source>
@@ -805,12 +805,12 @@ Läuft mit Qt %1.</translation>
     <message>
         <source>Ne&amp;xt Panel</source>
         <extracomment>app/NavigationActions.cpp</extracomment>
-        <translation>Nä&amp;chster Bereich</translation>
+        <translation>Zum n&amp;ächsten Bereich</translation>
     </message>
     <message>
         <source>Previous Pane&amp;l</source>
         <extracomment>app/NavigationActions.cpp</extracomment>
-        <translation>&amp;Voriger Bereich</translation>
+        <translation>Vori&amp;ger Bereich</translation>
     </message>
     <message>
         <source>&amp;Next Screen</source>
@@ -875,7 +875,7 @@ Läuft mit Qt %1.</translation>
     <message>
         <source>&amp;Export QML…</source>
         <extracomment>app/OutputActions.cpp</extracomment>
-        <translation>QML e&amp;xportieren…</translation>
+        <translation>&amp;QML exportieren…</translation>
     </message>
     <message>
         <source>Pre&amp;view</source>
@@ -885,7 +885,7 @@ Läuft mit Qt %1.</translation>
     <message>
         <source>Chec&amp;k Project</source>
         <extracomment>app/OutputActions.cpp</extracomment>
-        <translation>Pro&amp;jekt prüfen</translation>
+        <translation>&amp;Projekt prüfen</translation>
     </message>
     <message>
         <source>The QML has been exported to &quot;%1&quot;.</source>
@@ -1150,7 +1150,7 @@ Läuft mit Qt %1.</translation>
     <message>
         <source>Zoo&amp;m In</source>
         <extracomment>app/ViewActions.cpp</extracomment>
-        <translation>Ver&amp;größern</translation>
+        <translation>Vergrö&amp;ßern</translation>
     </message>
     <message>
         <source>&amp;Zoom Out</source>
@@ -1160,7 +1160,7 @@ Läuft mit Qt %1.</translation>
     <message>
         <source>&amp;Actual Size</source>
         <extracomment>app/ViewActions.cpp</extracomment>
-        <translation>Origina&amp;lgröße</translation>
+        <translation>Originalgr&amp;öße</translation>
     </message>
     <message>
         <source>&amp;Fit Screen</source>
@@ -1175,7 +1175,7 @@ Läuft mit Qt %1.</translation>
     <message>
         <source>As the &amp;Desktop</source>
         <extracomment>app/ViewActions.cpp</extracomment>
-        <translation>Wie der &amp;Desktop</translation>
+        <translation>&amp;Wie der Desktop</translation>
     </message>
     <message>
         <source>&amp;Light</source>
@@ -1185,12 +1185,12 @@ Läuft mit Qt %1.</translation>
     <message>
         <source>Dar&amp;k</source>
         <extracomment>app/ViewActions.cpp</extracomment>
-        <translation>Dun&amp;kel</translation>
+        <translation>&amp;Dunkel</translation>
     </message>
     <message>
         <source>&amp;Reset Layout</source>
         <extracomment>app/WindowPanels.cpp</extracomment>
-        <translation>Anordnung &amp;zurücksetzen</translation>
+        <translation>&amp;Anordnung zurücksetzen</translation>
     </message>
     <message>
         <source>Zoom</source>
@@ -1454,7 +1454,7 @@ Läuft mit Qt %1.</translation>
     </message>
     <message>
         <source>x %1, y %2, %3 × %4</source>
-        <extracomment>host/core/canvas/EditGesture.cpp</extracomment>
+        <extracomment>host/core/accessibility/AccessibleElement.cpp</extracomment>
         <translation>x %1, y %2, %3 × %4</translation>
     </message>
     <message>
@@ -1612,7 +1612,7 @@ Läuft mit Qt %1.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be moved there.</source>
-        <extracomment>host/core/commands/ReparentObject.cpp</extracomment>
+        <extracomment>host/core/commands/ReparentObjects.cpp</extracomment>
         <translation>„%1“ lässt sich nicht dorthin verschieben.</translation>
     </message>
     <message>
@@ -2733,7 +2733,7 @@ Läuft mit Qt %1.</translation>
     <message>
         <source>Start Pa&amp;ge</source>
         <extracomment>app/FileActions.cpp</extracomment>
-        <translation>S&amp;tartseite</translation>
+        <translation>Sta&amp;rtseite</translation>
     </message>
     <message>
         <source>The display does not answer; what it runs may be without an end.</source>
@@ -3403,681 +3403,732 @@ Läuft mit Qt %1.</translation>
     <message>
         <source>Grou&amp;p</source>
         <extracomment>app/ArrangeActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gruppieren</translation>
     </message>
     <message>
         <source>Ung&amp;roup</source>
         <extracomment>app/ArrangeActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Gruppierung au&amp;fheben</translation>
     </message>
     <message>
         <source>Align &amp;Left</source>
         <extracomment>app/ArrangeActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Links ausrichten</translation>
     </message>
     <message>
         <source>Align &amp;Center</source>
         <extracomment>app/ArrangeActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Waagerecht mittig ausrichten</translation>
     </message>
     <message>
         <source>Align &amp;Right</source>
         <extracomment>app/ArrangeActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rechts ausrichten</translation>
     </message>
     <message>
         <source>Align To&amp;p</source>
         <extracomment>app/ArrangeActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Oben &amp;ausrichten</translation>
     </message>
     <message>
         <source>Align &amp;Middle</source>
         <extracomment>app/ArrangeActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Senkrecht &amp;mittig ausrichten</translation>
     </message>
     <message>
         <source>Align Bo&amp;ttom</source>
         <extracomment>app/ArrangeActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Unten ausri&amp;chten</translation>
     </message>
     <message>
         <source>Distribute &amp;Horizontally</source>
         <extracomment>app/ArrangeActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Waagerecht verteilen</translation>
     </message>
     <message>
         <source>Distribute &amp;Vertically</source>
         <extracomment>app/ArrangeActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Senkrecht &amp;verteilen</translation>
     </message>
     <message>
         <source>Distribute &amp;Centers Horizontally</source>
         <extracomment>app/ArrangeActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Mitten w&amp;aagerecht verteilen</translation>
     </message>
     <message>
         <source>Distribute C&amp;enters Vertically</source>
         <extracomment>app/ArrangeActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mitten senkrecht verteilen</translation>
     </message>
     <message>
         <source>Make Same &amp;Width</source>
         <extracomment>app/ArrangeActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gleiche Breite</translation>
     </message>
     <message>
         <source>Make Same &amp;Height</source>
         <extracomment>app/ArrangeActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Gleiche &amp;Höhe</translation>
     </message>
     <message>
         <source>Make Same Si&amp;ze</source>
         <extracomment>app/ArrangeActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Glei&amp;che Größe</translation>
     </message>
     <message>
         <source>&amp;Center on Screen</source>
         <extracomment>app/ArrangeActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Auf &amp;dem Bildschirm zentrieren</translation>
     </message>
     <message>
         <source>&amp;Lock</source>
         <extracomment>app/ArrangeActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;perren</translation>
     </message>
     <message>
         <source>U&amp;nlock All</source>
         <extracomment>app/ArrangeActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;lle entsperren</translation>
     </message>
     <message>
         <source>&amp;Hide</source>
         <extracomment>app/ArrangeActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ausblenden</translation>
     </message>
     <message>
         <source>Show All Hidd&amp;en</source>
         <extracomment>app/ArrangeActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Alle &amp;wieder einblenden</translation>
     </message>
     <message>
         <source>&amp;Align</source>
         <extracomment>app/ArrangeActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Aus&amp;richten</translation>
     </message>
     <message>
         <source>&amp;Distribute</source>
         <extracomment>app/ArrangeActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verteilen</translation>
     </message>
     <message>
         <source>&amp;Make Same Size</source>
         <extracomment>app/ArrangeActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Gleich groß &amp;machen</translation>
     </message>
     <message>
         <source>S&amp;nap</source>
         <extracomment>app/CanvasActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einrasten</translation>
     </message>
     <message>
         <source>Gri&amp;d</source>
         <extracomment>app/CanvasActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Raster</translation>
     </message>
     <message>
         <source>Ru&amp;lers</source>
         <extracomment>app/CanvasActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lineale</translation>
     </message>
     <message>
         <source>Loc&amp;k Guides</source>
         <extracomment>app/CanvasActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Hilfslinien fi&amp;xieren</translation>
     </message>
     <message>
         <source>&amp;Add Guide…</source>
         <extracomment>app/CanvasActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Hilfslinie hinzuf&amp;ügen…</translation>
     </message>
     <message>
         <source>&amp;Clear Guides</source>
         <extracomment>app/CanvasActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Alle &amp;Hilfslinien entfernen</translation>
     </message>
     <message>
         <source>Zoom &amp;to Selection</source>
         <extracomment>app/CanvasActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Auf Auswahl zoomen</translation>
     </message>
     <message>
         <source>Grid of %1 px</source>
         <extracomment>app/CanvasActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Raster von %1 px</translation>
     </message>
     <message>
         <source>&amp;Other Spacing…</source>
         <extracomment>app/CanvasActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Anderer Abstand…</translation>
     </message>
     <message>
         <source>Grid Spacin&amp;g</source>
         <extracomment>app/CanvasActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Select Und&amp;er the Pointer</source>
-        <extracomment>app/CanvasMenu.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Rasterabstan&amp;d</translation>
     </message>
     <message>
         <source>All colors</source>
         <extracomment>app/DevicePanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Alle Farben</translation>
     </message>
     <message>
         <source>RGB565</source>
         <extracomment>app/DevicePanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>RGB565</translation>
     </message>
     <message>
         <source>RGB565, dithered</source>
         <extracomment>app/DevicePanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>RGB565, gerastert</translation>
     </message>
     <message>
         <source>RGB332</source>
         <extracomment>app/DevicePanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>RGB332</translation>
     </message>
     <message>
         <source>Gray</source>
         <extracomment>app/DevicePanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Graustufen</translation>
     </message>
     <message>
         <source>Colors of the panel</source>
         <extracomment>app/DevicePanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Farben der Anzeige</translation>
     </message>
     <message>
         <source>How the panel is turned</source>
         <extracomment>app/DevicePanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Wie die Anzeige gedreht ist</translation>
     </message>
     <message>
         <source>Physical size</source>
         <extracomment>app/DevicePanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Wirkliche Größe</translation>
     </message>
     <message>
         <source> dpi</source>
         <extracomment>app/DevicePanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation> dpi</translation>
     </message>
     <message>
         <source>not known</source>
         <extracomment>app/DevicePanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>unbekannt</translation>
     </message>
     <message>
         <source> %</source>
         <extracomment>app/DevicePanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation> %</translation>
     </message>
     <message>
         <source>Larger where the picture is smaller than the panel: screens often do not know their own density.</source>
         <extracomment>app/DevicePanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Größer, wo das Bild kleiner als die Anzeige ist: Monitore kennen ihre eigene Auflösung oft nicht.</translation>
     </message>
     <message>
         <source>Density of the panel:</source>
         <extracomment>app/DevicePanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Auflösung der Anzeige:</translation>
     </message>
     <message>
         <source>Correction of this screen:</source>
         <extracomment>app/DevicePanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Korrektur dieses Monitors:</translation>
     </message>
     <message>
         <source>The screen as the panel shows it</source>
-        <extracomment>app/DevicePicture.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <extracomment>app/DevicePanel.cpp</extracomment>
+        <translation>Der Bildschirm, wie ihn die Anzeige zeigt</translation>
     </message>
     <message>
         <source>Import Fonts</source>
         <extracomment>app/DialogPrompts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Schriften importieren</translation>
     </message>
     <message>
         <source>Fonts (*.ttf *.otf *.ttc)</source>
         <extracomment>app/DialogPrompts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Schriften (*.ttf *.otf *.ttc)</translation>
     </message>
     <message>
         <source>Export Picture</source>
         <extracomment>app/DialogPrompts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Bild exportieren</translation>
     </message>
     <message>
         <source>SVG drawings (*.svg)</source>
         <extracomment>app/DialogPrompts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>SVG-Zeichnungen (*.svg)</translation>
     </message>
     <message>
         <source>PNG pictures (*.png)</source>
         <extracomment>app/DialogPrompts.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>PNG-Bilder (*.png)</translation>
     </message>
     <message>
         <source>References to</source>
         <extracomment>app/FindPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Verweise auf</translation>
     </message>
     <message>
         <source>What is looked for</source>
         <extracomment>app/FindPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Wonach gesucht wird</translation>
     </message>
     <message>
         <source>Find in the project</source>
         <extracomment>app/FindPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Im Projekt suchen</translation>
     </message>
     <message>
         <source>Places that were found</source>
         <extracomment>app/FindPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Gefundene Stellen</translation>
     </message>
     <message>
         <source>Type</source>
         <extracomment>app/FindPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Art</translation>
     </message>
     <message>
         <source>Property</source>
         <extracomment>app/FindPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaft</translation>
     </message>
     <message>
         <source>Value</source>
         <extracomment>app/FindPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Wert</translation>
     </message>
     <message>
         <source>id, image, font or colour (#rrggbb)</source>
         <extracomment>app/FindPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>ID, Bild, Schrift oder Farbe (#rrggbb)</translation>
     </message>
     <message>
         <source>id, class, text or value</source>
         <extracomment>app/FindPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>ID, Klasse, Text oder Wert</translation>
     </message>
     <message>
         <source>The search was ended.</source>
         <extracomment>app/FindPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Die Suche wurde beendet.</translation>
     </message>
     <message>
         <source>Searching… (Esc ends it)</source>
         <extracomment>app/FindPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Suche läuft… (Esc beendet sie)</translation>
     </message>
     <message>
         <source>Nothing was found.</source>
         <extracomment>app/FindPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nichts gefunden.</translation>
     </message>
     <message numerus="yes">
         <source>The first %n places</source>
         <extracomment>app/FindPanel.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Die erste Stelle</numerusform>
+            <numerusform>Die ersten %n Stellen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n places</source>
         <extracomment>app/FindPanel.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Stelle</numerusform>
+            <numerusform>%n Stellen</numerusform>
         </translation>
     </message>
     <message>
         <source>Ag 21.5 °C The quick brown fox</source>
         <extracomment>app/FontDelegate.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ag 21,5 °C Zwölf Boxkämpfer jagen</translation>
     </message>
     <message>
         <source>%1 · %2</source>
         <extracomment>app/FontDelegate.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>Copy font files into the project</source>
         <extracomment>app/FontPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Schriftdateien in das Projekt kopieren</translation>
     </message>
     <message>
         <source>List the places that use the font</source>
         <extracomment>app/FontPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Die Stellen auflisten, die die Schrift verwenden</translation>
     </message>
     <message>
         <source>Remove the font from the project (Del)</source>
         <extracomment>app/FontPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Die Schrift aus dem Projekt entfernen (Entf)</translation>
     </message>
     <message>
         <source>Fonts</source>
         <extracomment>app/FontPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Schriften</translation>
     </message>
     <message>
         <source>The file holds no font that can be used.</source>
         <extracomment>app/FontPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei enthält keine verwendbare Schrift.</translation>
     </message>
     <message>
         <source>Grid Spacing</source>
         <extracomment>app/GridDialog.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Rasterabstand</translation>
     </message>
     <message>
         <source>&amp;Horizontal:</source>
         <extracomment>app/GridDialog.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Waagerecht:</translation>
     </message>
     <message>
         <source>&amp;Vertical:</source>
         <extracomment>app/GridDialog.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Senkre&amp;cht:</translation>
     </message>
     <message>
         <source>Position of the Guide</source>
         <extracomment>app/GuidePopup.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Position der Hilfslinie</translation>
     </message>
     <message>
         <source>Vertical, at x</source>
         <extracomment>app/GuidePopup.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Senkrecht, bei x</translation>
     </message>
     <message>
         <source>Horizontal, at y</source>
         <extracomment>app/GuidePopup.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Waagerecht, bei y</translation>
     </message>
     <message>
         <source>Direction of the Guide</source>
         <extracomment>app/GuidePopup.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Richtung der Hilfslinie</translation>
     </message>
     <message>
         <source>Cancel</source>
         <extracomment>app/LongWork.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>&amp;Arrange</source>
-        <extracomment>app/MainWindow.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <extracomment>app/MainWindowMenus.cpp</extracomment>
+        <translation>&amp;Anordnen</translation>
     </message>
     <message>
         <source>Exporting the QML…</source>
         <extracomment>app/OutputActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Das QML wird exportiert…</translation>
     </message>
     <message>
         <source>&amp;Transparent background</source>
         <extracomment>app/PictureDialog.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Durchsichtiger Hintergrund</translation>
     </message>
     <message>
         <source>PNG picture</source>
         <extracomment>app/PictureDialog.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>PNG-Bild</translation>
     </message>
     <message>
         <source>SVG drawing</source>
         <extracomment>app/PictureDialog.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>SVG-Zeichnung</translation>
     </message>
     <message>
         <source> ×</source>
         <extracomment>app/PictureDialog.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation> ×</translation>
     </message>
     <message>
         <source>&amp;Format:</source>
         <extracomment>app/PictureDialog.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Format:</translation>
     </message>
     <message>
         <source>&amp;Scale:</source>
         <extracomment>app/PictureDialog.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Maßstab:</translation>
     </message>
     <message>
         <source>Export…</source>
         <extracomment>app/PictureDialog.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Exportieren…</translation>
     </message>
     <message>
         <source>This is no file that can be replaced.</source>
         <extracomment>app/PictureExport.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Dies ist keine Datei, die sich ersetzen lässt.</translation>
     </message>
     <message>
         <source>Export Screen as &amp;Picture…</source>
         <extracomment>app/PictureExport.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirm als Bild &amp;exportieren…</translation>
     </message>
     <message>
         <source>Export Se&amp;lection as Picture…</source>
         <extracomment>app/PictureExport.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Auswahl als Bild exportieren…</translation>
     </message>
     <message>
         <source>This folder belongs to the project itself. Choose another one.</source>
         <extracomment>app/PictureExport.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Ordner gehört zum Projekt selbst. Einen anderen wählen.</translation>
     </message>
     <message>
         <source>The picture has been saved as &quot;%1&quot;.</source>
         <extracomment>app/PictureExport.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild wurde als „%1“ gespeichert.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has not been written. %2</source>
         <extracomment>app/PictureExport.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wurde nicht geschrieben. %2</translation>
     </message>
     <message>
         <source>Drawing the picture…</source>
         <extracomment>app/PictureExport.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild wird gezeichnet…</translation>
     </message>
     <message>
         <source>There is nothing to be drawn.</source>
         <extracomment>app/PictureExport.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt nichts zu zeichnen.</translation>
     </message>
     <message>
         <source>A picture of this scale is too large.</source>
         <extracomment>app/PictureExport.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Ein Bild in diesem Maßstab ist zu groß.</translation>
     </message>
     <message>
         <source>Show the problems of the project</source>
         <extracomment>app/ProblemIndicator.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Die Probleme des Projekts zeigen</translation>
     </message>
     <message>
         <source>No problems</source>
         <extracomment>app/ProblemIndicator.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Keine Probleme</translation>
     </message>
     <message numerus="yes">
         <source>%n problems</source>
         <extracomment>app/ProblemIndicator.cpp</extracomment>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Problem</numerusform>
+            <numerusform>%n Probleme</numerusform>
         </translation>
     </message>
     <message>
         <source>Way to Mend</source>
         <extracomment>app/ProblemsPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Abhilfe</translation>
     </message>
     <message>
         <source>Show the Place</source>
         <extracomment>app/ProblemsPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Stelle zeigen</translation>
     </message>
     <message>
         <source>Copy</source>
         <extracomment>app/ProblemsPanel.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>&amp;Find in Project…</source>
         <extracomment>app/ProjectPanels.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Im &amp;Projekt suchen…</translation>
     </message>
     <message>
         <source>Find Re&amp;ferences</source>
         <extracomment>app/ProjectPanels.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verweise suchen</translation>
     </message>
     <message>
         <source>Sc&amp;reen</source>
         <extracomment>app/ProjectPanels.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Bilds&amp;chirm</translation>
     </message>
     <message>
         <source>Problems (%1)</source>
         <extracomment>app/ProjectPanels.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Probleme (%1)</translation>
     </message>
     <message>
         <source>Live Preview</source>
         <extracomment>app/ResultPanels.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Live-Vorschau</translation>
     </message>
     <message>
         <source>As on the Panel</source>
         <extracomment>app/ResultPanels.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Wie auf der Anzeige</translation>
     </message>
     <message>
         <source>&amp;Live Preview</source>
         <extracomment>app/ResultPanels.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Live-&amp;Vorschau</translation>
     </message>
     <message>
         <source>As on the Pan&amp;el</source>
         <extracomment>app/ResultPanels.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wie auf der Anzeige</translation>
     </message>
     <message>
         <source>&amp;QML</source>
         <extracomment>app/ResultPanels.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;QML</translation>
     </message>
     <message>
         <source>Du&amp;plicate Screen</source>
         <extracomment>app/ScreenActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirm &amp;duplizieren</translation>
     </message>
     <message>
         <source>Re&amp;name Screen</source>
         <extracomment>app/ScreenActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Bilds&amp;chirm umbenennen</translation>
     </message>
     <message>
         <source>Resi&amp;ze Screen…</source>
         <extracomment>app/ScreenActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Größe des Bildschirms ändern…</translation>
     </message>
     <message>
         <source>Move Screen &amp;Forward</source>
         <extracomment>app/ScreenActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirm &amp;nach vorn</translation>
     </message>
     <message>
         <source>Move Screen Bac&amp;k</source>
         <extracomment>app/ScreenActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirm nach &amp;hinten</translation>
     </message>
     <message>
         <source>Re&amp;move Screen</source>
         <extracomment>app/ScreenActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirm &amp;entfernen</translation>
     </message>
     <message>
         <source>Resize…</source>
         <extracomment>app/ScreenActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Größe ändern…</translation>
     </message>
     <message>
         <source>Move Forward</source>
         <extracomment>app/ScreenActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nach vorn</translation>
     </message>
     <message>
         <source>Move Back</source>
         <extracomment>app/ScreenActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Nach hinten</translation>
     </message>
     <message>
         <source>&amp;Leave the elements as they are</source>
         <extracomment>app/ScreenSizeDialog.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Elemente lassen, wie sie sind</translation>
     </message>
     <message>
         <source>S&amp;cale the elements with the screen</source>
         <extracomment>app/ScreenSizeDialog.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Elemente mit &amp;dem Bildschirm skalieren</translation>
     </message>
     <message>
         <source>Resize &quot;%1&quot;</source>
         <extracomment>app/ScreenSizeDialog.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Größe von „%1“ ändern</translation>
     </message>
     <message>
         <source>Resize</source>
         <extracomment>app/ScreenSizeDialog.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Größe ändern</translation>
     </message>
     <message>
         <source>&amp;Width:</source>
         <extracomment>app/ScreenSizeDialog.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>B&amp;reite:</translation>
     </message>
     <message>
         <source>&amp;Height:</source>
         <extracomment>app/ScreenSizeDialog.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Höhe:</translation>
     </message>
     <message>
         <source>&amp;Find Property</source>
         <extracomment>app/SheetActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Eigenscha&amp;ft suchen</translation>
     </message>
     <message>
         <source>Rese&amp;t Property</source>
         <extracomment>app/SheetActions.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaft &amp;zurücksetzen</translation>
     </message>
     <message>
         <source>General</source>
         <extracomment>host/core/sheet/SheetSections.cpp</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Selec&amp;t Under the Pointer</source>
+        <extracomment>app/CanvasMenu.cpp</extracomment>
+        <translation>Unter dem Mauszeiger &amp;auswählen</translation>
+    </message>
+    <message>
+        <source>O&amp;pen</source>
+        <extracomment>app/StartPage.cpp</extracomment>
+        <translation>&amp;Öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove from List</source>
+        <extracomment>app/StartPage.cpp</extracomment>
+        <translation>&amp;Aus der Liste entfernen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Screen %1 with %n elements</source>
+        <extracomment>host/core/accessibility/AccessibleCanvas.cpp</extracomment>
+        <translation>
+            <numerusform>Bildschirm %1 mit %n Element</numerusform>
+            <numerusform>Bildschirm %1 mit %n Elementen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>host/core/accessibility/AccessibleElement.cpp</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1, %2: %3</source>
+        <extracomment>host/core/accessibility/AccessibleElement.cpp</extracomment>
+        <translation>%1, %2: %3</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <extracomment>host/core/accessibility/AccessibleElement.cpp</extracomment>
+        <translation>Auswählen</translation>
+    </message>
+    <message>
+        <source>Selects the element alone</source>
+        <extracomment>host/core/accessibility/AccessibleElement.cpp</extracomment>
+        <translation>Wählt nur dieses Element aus</translation>
+    </message>
+    <message numerus="yes">
+        <source>Resize %n Elements</source>
+        <extracomment>host/core/canvas/SelectionResizeGesture.cpp</extracomment>
+        <translation>
+            <numerusform>Größe von %n Element ändern</numerusform>
+            <numerusform>Größe von %n Elementen ändern</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no guide. Guides are written as in &quot;x 100, y 50.5&quot;.</source>
+        <extracomment>host/core/project/ProjectChecker.cpp</extracomment>
+        <translation>„%1“ ist keine Hilfslinie. Hilfslinien werden wie in „x 100, y 50.5“ geschrieben.</translation>
     </message>
 </context>
 <context>
