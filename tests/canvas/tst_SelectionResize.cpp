@@ -213,6 +213,49 @@ private Q_SLOTS:
         QVERIFY(held);
     }
 
+    void everyKindOfElementTakesPartAndIsTakenBack_data()
+    {
+        QTest::addColumn<QByteArray>("className");
+        for (const char* name : {"Ellipse", "Polygon", "TextBox", "Line", "IrregularPolygon", "PathElement", "Image",
+                                 "LinearGradientElement", "RadialGradientElement", "ConicalGradientElement"})
+            QTest::newRow(name) << QByteArray(name);
+    }
+
+    void everyKindOfElementTakesPartAndIsTakenBack()
+    {
+        QFETCH(QByteArray, className);
+        for (const char* rotation : {"angle: 0; fixedPoint: Center;", "angle: 25; fixedPoint: TopLeft;"}) {
+            CanvasFixture canvas;
+            DesignerObject* other = canvas.addRectangle({450, 300, 60, 40});
+            DesignerObject* element =
+                canvas.add(className.constData(), {{QStringLiteral("position"), QStringLiteral("300,100")}});
+            canvas.set(element, "rotation", QLatin1String(rotation));
+            canvas.select({element, other});
+            const auto before = canvas.values();
+            const QRectF start = seen(element);
+            const QPointF corner = seen({element, other}).bottomRight();
+            canvas.press(corner);
+            canvas.move(corner + QPointF(90, 60));
+            QVERIFY(seen(element).width() > start.width());
+            canvas.move(corner - QPointF(120, 90));
+            QVERIFY(seen(element).width() < start.width());
+            canvas.key(Qt::Key_Escape);
+            canvas.release(corner);
+            QCOMPARE(canvas.values(), before);
+            QCOMPARE(seen(element), start);
+            canvas.drag(corner, corner + QPointF(90, 60));
+            QCOMPARE(canvas.steps(), 1);
+            const auto after = canvas.values();
+            const QRectF end = seen(element);
+            QVERIFY(end.width() > start.width());
+            canvas.session->undo();
+            QCOMPARE(canvas.values(), before);
+            canvas.session->redo();
+            QCOMPARE(canvas.values(), after);
+            QVERIFY((seen(element).bottomRight() - end.bottomRight()).manhattanLength() < 1e-6);
+        }
+    }
+
     void lockedElementsStayOutOfIt()
     {
         CanvasFixture canvas;

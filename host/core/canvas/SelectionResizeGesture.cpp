@@ -4,6 +4,7 @@
 #include "host/core/canvas/CanvasNumbers.h"
 #include "host/core/canvas/GraphicsItem.h"
 #include "host/core/objects/DesignerObject.h"
+#include "host/core/properties/DesignerProperty.h"
 #include "host/core/values/ValueConversion.h"
 
 #include "host/common/FrameResize.h"
@@ -76,8 +77,9 @@ SelectionResizeGesture::SelectionResizeGesture(CanvasView* view, const CanvasPoi
     for (const DesignerObject* object : objects) {
         const GraphicsItem* item = object->graphicsItem();
         const ElementPlace place = ElementPlaces::placeOf(object);
-        m_starts.append({item->graphic()->pos(), item->outerRect().size(),
-                         ElementPlaces::outerBounds(object, place.toScene), place.angle});
+        const QSizeF size = item->outerRect().size();
+        m_starts.append(
+            {item->graphic()->pos(), size, size, ElementPlaces::outerBounds(object, place.toScene), place.angle});
         m_frame |= m_starts.constLast().bounds;
     }
     m_frameNow = m_frame;
@@ -104,10 +106,13 @@ void SelectionResizeGesture::move(const CanvasPointer& pointer)
     snapping().hide();
     m_frameNow = wantedFrame(pointer, way);
     // Back where it was grabbed everything is exactly as it was, whatever the arithmetic of the way there.
-    if (m_frameNow == m_frame)
+    if (m_frameNow == m_frame) {
         restore();
-    else
+        for (Start& start : m_starts)
+            start.wantedSize = start.outerSize;
+    } else {
         resizeTo(m_frameNow);
+    }
 }
 
 /// The frame with the handle moved by \a way, in place where it snaps, and with its ratio kept where Shift is held down.
@@ -175,7 +180,7 @@ void SelectionResizeGesture::resize(qsizetype index, const QRectF& frame)
             if (wanted.height() == start.bounds.height())
                 size.setHeight(start.outerSize.height());
         }
-        item->resizeGraphicsItem(m_handle, withoutNoise(size), item->graphic()->pos());
+        resizeItem(index, withoutNoise(size));
     }
 
     // Where it has taken on another size than the one wanted it keeps its share of the room beside it.
@@ -197,6 +202,28 @@ void SelectionResizeGesture::resize(qsizetype index, const QRectF& frame)
     const auto isNear = [](double a, double b) { return std::abs(a - b) < Noise; };
     item->setItemPosition({isNear(position.x(), start.position.x()) ? start.position.x() : position.x(),
                            isNear(position.y(), start.position.y()) ? start.position.y() : position.y()});
+}
+
+/// Gives an element's item the outer size \a size, as far as it takes it.
+void SelectionResizeGesture::resizeItem(qsizetype index, const QSizeF& size)
+{
+    Start& start = m_starts[index];
+    if (start.wantedSize == size)
+        return;
+    start.wantedSize = size;
+    GraphicsItem* item = objects().at(index)->graphicsItem();
+    const QSizeF before = item->outerRect().size();
+    item->resizeGraphicsItem(m_handle, size, item->graphic()->pos());
+    const QSizeF after = item->outerRect().size();
+    const bool follows = after.width() != before.width() || after.height() != before.height();
+    const auto ratio = objects().at(index)->getProperty(QStringLiteral("keepRatio"));
+    if (follows || (ratio && ValueConversion::toReal(ratio->valueString()) > 0))
+        return;
+    // What cannot follow along both axes (a line that would be thinner than it is) may along its longer side.
+    if (start.outerSize.width() >= start.outerSize.height())
+        item->resizeGraphicsItem(Common::Right, {size.width(), start.outerSize.height()}, item->graphic()->pos());
+    else
+        item->resizeGraphicsItem(Common::Bottom, {start.outerSize.width(), size.height()}, item->graphic()->pos());
 }
 
 QString SelectionResizeGesture::readout() const

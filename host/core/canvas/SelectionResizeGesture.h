@@ -37,12 +37,14 @@ private:
     {
         QPointF position; ///< of the item, in its parent's coordinates
         QSizeF outerSize; ///< along its own sides
+        QSizeF wantedSize; ///< the outer size that its item was asked for last
         QRectF bounds; ///< as it is seen, in scene coordinates
         double angle = 0; ///< on the scene, in degrees
     };
     [[nodiscard]] QRectF wantedFrame(const CanvasPointer& pointer, const QPointF& way);
     void resizeTo(const QRectF& frame);
     void resize(qsizetype index, const QRectF& frame);
+    void resizeItem(qsizetype index, const QSizeF& size);
     [[nodiscard]] QRectF wantedBounds(const Start& start, const QRectF& frame) const;
 
     QList<DesignerObject*> m_grabbed; // until the gesture has begun
