@@ -8,6 +8,7 @@
 #include "app/ScreenTabs.h"
 #include "app/Workspace.h"
 
+#include "host/core/canvas/CanvasRuler.h"
 #include "host/core/canvas/CanvasView.h"
 #include "host/core/canvas/EditSession.h"
 #include "host/core/canvas/GraphicsItem.h"
@@ -80,7 +81,7 @@ RandomUser::RandomUser(MainWindow* window)
 QVector<RandomStep> RandomUser::steps(quint32 seed, int count)
 {
     // Of a hundred steps.
-    constexpr std::array<int, RandomStep::KindCount> Shares{12, 14, 12, 3, 14, 14, 8, 4, 5, 5, 6, 3};
+    constexpr std::array<int, RandomStep::KindCount> Shares{11, 14, 11, 3, 14, 14, 8, 4, 5, 5, 6, 2, 3};
     std::mt19937 random(seed);
     QVector<RandomStep> steps;
     for (int i = 0; i < count; ++i) {
@@ -135,6 +136,9 @@ void RandomUser::perform(const RandomStep& step)
         break;
     case RandomStep::ChangeTab:
         changeTab();
+        break;
+    case RandomStep::DragFromRuler:
+        dragFromRuler();
         break;
     case RandomStep::KindCount:
         break;
@@ -478,6 +482,27 @@ void RandomUser::changeTab()
     const int index = below(tabs->count());
     m_description = QStringLiteral("tab %1").arg(index);
     QTest::mouseClick(const_cast<ScreenTabs*>(tabs), Qt::LeftButton, {}, tabs->tabRect(index).center());
+}
+
+/// Pulls a guide out of a ruler; where the rulers are hidden it is only a drag along the edge.
+void RandomUser::dragFromRuler()
+{
+    const QList<CanvasRuler*> rulers = canvas()->findChildren<CanvasRuler*>();
+    if (rulers.isEmpty())
+        return;
+    CanvasRuler* ruler = rulers.at(below(int(rulers.size())));
+    const QPoint to = ruler->mapFromGlobal(canvas()->viewport()->mapToGlobal(randomPlace().toPoint()));
+    m_description = QStringLiteral("pull a guide");
+    if (!ruler->isVisible())
+        return;
+    QTest::mousePress(ruler, Qt::LeftButton, {}, ruler->rect().center());
+    for (int i = 1; i <= 3; ++i)
+        QTest::mouseMove(ruler, ruler->rect().center() + (to - ruler->rect().center()) * i / 3);
+    if (chance(15)) {
+        m_description += QStringLiteral(", Escape");
+        QTest::keyClick(canvas(), Qt::Key_Escape);
+    }
+    QTest::mouseRelease(ruler, Qt::LeftButton, {}, to);
 }
 
 /// Lets everything that is due happen, and closes what has opened.

@@ -34,6 +34,7 @@ struct RandomStep
         ChooseTile,
         UndoOrRedo,
         ChangeTab,
+        DragFromRuler,
         KindCount
     };
 
@@ -82,6 +83,7 @@ private:
     void chooseTile();
     void undoOrRedo();
     void changeTab();
+    void dragFromRuler();
     void settle();
 
     MainWindow* m_window;

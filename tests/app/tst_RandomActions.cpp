@@ -100,6 +100,7 @@ QString faultOf(const QVector<RandomStep>& steps, bool list)
     QTemporaryDir folder;
     copyFolder(QStringLiteral(MERIDANE_SOURCE_DIR "/examples/thermostat"), folder.path());
     FakePrompts prompts;
+    prompts.screenSize = ScreenSize{QSizeF(500, 320), true};
     MainWindow window(&prompts);
     window.resize(1280, 800);
     if (!window.openProject(folder.path()))
@@ -126,12 +127,14 @@ QString faultOf(const QVector<RandomStep>& steps, bool list)
     }
     user.finish();
     const QByteArray end = stateOf(session->project());
-    const int steps1 = stack->index();
+    const int last = stack->index();
+    if (steps.size() == StepCount && last < 10)
+        return QStringLiteral("hardly anything has been done");
     stack->goTo(0);
     const QByteArray undone = stateOf(session->project());
     if (undone != start)
         return QStringLiteral("undo-all is not the start: %1").arg(difference(start, undone));
-    stack->goTo(steps1);
+    stack->goTo(last);
     const QByteArray redone = stateOf(session->project());
     if (redone != end)
         return QStringLiteral("redo-all is not the end: %1").arg(difference(end, redone));
