@@ -26,6 +26,7 @@
 #include <QProcess>
 #include <QScreen>
 #include <QScrollArea>
+#include <QTabBar>
 #include <QThread>
 
 #include <algorithm>
@@ -141,6 +142,23 @@ QRect TaskUser::button(const QString& text) const
         }
         return nullptr;
     });
+}
+
+QPoint TaskUser::tab(const QString& text) const
+{
+    QPoint place;
+    waitUntil(QStringLiteral("the tab \"%1\"").arg(text), [&] {
+        const QList<QWidget*> widgets = visibleWidgets();
+        for (const QWidget* widget : widgets) {
+            const auto* bar = qobject_cast<const QTabBar*>(widget);
+            for (int index = 0; bar && index < bar->count(); ++index) {
+                if (plain(bar->tabText(index)) == text)
+                    place = bar->mapToGlobal(bar->tabRect(index).center());
+            }
+        }
+        return !place.isNull();
+    });
+    return place;
 }
 
 QRect TaskUser::named(const QString& objectName) const

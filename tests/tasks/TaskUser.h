@@ -45,6 +45,8 @@ public:
     [[nodiscard]] QRect placeOf(const QString& what, const std::function<QWidget*()>& find) const;
     /// The visible button of that text (mnemonics aside), accessible name or tooltip, in the window that has the focus first.
     [[nodiscard]] QRect button(const QString& text) const;
+    /// The tab of that text: of a panel or a screen.
+    [[nodiscard]] QPoint tab(const QString& text) const;
     /// The visible widget of that object name.
     [[nodiscard]] QRect named(const QString& objectName) const;
     /// The element tile of the palette.

@@ -52,6 +52,9 @@ private Q_SLOTS:
     {
         const QString failure = m_program.carryOut([this](const TaskUser& user) {
             waitForProblems(user, 3);
+            user.click(user.button(QStringLiteral("3 problems")).center());
+            user.waitUntil(QStringLiteral("the list of problems"),
+                           [this] { return m_program.window()->problemsPanel()->isVisible(); });
             user.picture(QStringLiteral("three-problems"));
 
             // The element that nobody sees is moved by what the list offers.
@@ -68,7 +71,7 @@ private Q_SLOTS:
             // The picture is not needed.
             clickRow(user, QStringLiteral("picture"), false);
             user.waitUntil(QStringLiteral("the selected image"), [this] { return isSelected("picture"); });
-            user.key(QStringLiteral("F6"));
+            user.key(QStringLiteral("ctrl+F6"));
             user.command(QStringLiteral("Delete"));
             waitForProblems(user, 0);
             user.key(QStringLiteral("ctrl+s"));
@@ -92,7 +95,7 @@ private:
         user.waitUntil(QStringLiteral("%1 problems").arg(count),
                        [&] { return m_program.window()->problemsPanel()->problems().size() == count; });
     }
-    /// Clicks the row of the object \a id, in its last column when \a fix.
+    /// Clicks the row of the object \a id, in the column of the ways to mend when \a fix.
     void clickRow(const TaskUser& user, const QString& id, bool fix) const
     {
         QPoint place;
@@ -104,7 +107,7 @@ private:
                     if (!item->text(column).contains(id))
                         continue;
                     panel->scrollToItem(item);
-                    const QModelIndex index = panel->model()->index(row, fix ? panel->columnCount() - 1 : 0);
+                    const QModelIndex index = panel->model()->index(row, fix ? 1 : 0);
                     const QRect cell = panel->visualRect(index);
                     place = panel->viewport()->mapToGlobal(QPoint(cell.left() + 30, cell.center().y()));
                     return panel->isVisible();

@@ -43,7 +43,7 @@ private Q_SLOTS:
     {
         const QString failure = m_program.carryOut([this](const TaskUser& user) {
             user.command(QStringLiteral("Fit Screen"));
-            user.command(QStringLiteral("Show Images"));
+            user.click(user.tab(QStringLiteral("Images")));
             const QRect row = user.placeOf(QStringLiteral("the list of images"), [this]() -> QWidget* {
                 return m_program.window()->workspace()->images()->list()->viewport();
             });
@@ -59,7 +59,7 @@ private Q_SLOTS:
                 throw Test::TaskFailure{QStringLiteral("The panel does not list the balloon")};
             user.click(balloon);
             user.picture(QStringLiteral("image-before"));
-            user.click(user.button(QStringLiteral("Replace")).center());
+            user.click(user.button(QStringLiteral("Replace File")).center());
             user.chooseFile(m_program.folder() + QStringLiteral("/sun.png"));
             user.waitUntil(QStringLiteral("the replaced picture"),
                            [this] { return session()->undoStack()->count() == 1; });

@@ -63,7 +63,7 @@ private Q_SLOTS:
             const QJsonArray elements = wanted.value(QLatin1String("elements")).toArray();
             for (const auto& element : elements)
                 drawElement(element.toObject());
-            user.key(QStringLiteral("F6"));
+            user.key(QStringLiteral("ctrl+F6"));
             user.key(QStringLiteral("Escape"));
             user.moveTo(QPoint(4, 4));
             user.picture(QStringLiteral("thermostat-drawn"));
