@@ -34,6 +34,7 @@ const QVector<Layer>& layers()
         {QStringLiteral("cli"), {host}},
         {QStringLiteral("app"), {host}},
         {QStringLiteral("examples"), {host}},
+        {QStringLiteral("translations"), {}, false},
     };
     return table;
 }

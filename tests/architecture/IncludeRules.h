@@ -18,6 +18,7 @@ namespace Korvex::Meridane::Architecture {
  * | runtime                                | itself, host/common; no widgets      |
  * | cli, app                               | itself, host                         |
  * | examples                               | itself, host                         |
+ * | translations                           | itself; no widgets                   |
  * | tests, benchmarks, fuzz                | everything                           |
  *
  * Besides: the host knows no class of the plug-in by name, a header starts with `#pragma once`, our own files are

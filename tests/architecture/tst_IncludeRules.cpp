@@ -20,7 +20,7 @@ QStringList sourceFolders()
 {
     QStringList folders;
     for (const char* folder : {"host", "plugin", "shapes", "lines", "text", "images", "gradients", "runtime", "cli",
-                               "app", "tests", "benchmarks", "fuzz", "examples"})
+                               "app", "translations", "tests", "benchmarks", "fuzz", "examples"})
         folders.append(QLatin1String(folder));
     return folders;
 }
@@ -125,6 +125,8 @@ void tst_IncludeRules::aBrokenRuleIsReported_data()
     row("application uses an element", "app/A.cpp", "#include \"shapes/Ellipse.h\"\n", "app may not use");
     row("application uses the plug-in", "app/A.cpp", "#include \"plugin/VisualElements.h\"\n", "app may not use");
     row("command line uses an element", "cli/A.cpp", "#include \"lines/Line.h\"\n", "cli may not use");
+    row("extractor uses the host", "translations/A.cpp", "#include \"host/common/PaintHelper.h\"\n",
+        "translations may not use");
     row("host names an element", "host/core/A.cpp", "auto n = QStringLiteral(\"Ellipse\");\n", "class \"Ellipse\"");
     row("host names a canvas item", "host/core/A.cpp", "\n\nauto n = \"GraphicsEllipse\";\n",
         "A.cpp:3: the host names");
