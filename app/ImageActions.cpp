@@ -139,7 +139,8 @@ void ImageActions::reportRefused(const QStringList& refused)
 {
     if (refused.isEmpty())
         return;
-    const QString more = refused.size() == 1 ? QString() : coreText(" (And %1 more.)").arg(refused.size() - 1);
+    const QString more =
+        refused.size() == 1 ? QString() : coreText(" (And %n more.)", " (And %n more.)", int(refused.size()) - 1);
     m_messages->showMessage(refused.constFirst() + more, MessageBar::Kind::Error);
 }
 

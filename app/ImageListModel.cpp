@@ -260,7 +260,7 @@ QString ImageListModel::detail(const QString& image) const
         return QFileInfo::exists(path(image)) ? coreText("cannot be shown") : coreText("the file is missing");
     QString kind = QString::fromLatin1(info.format).toUpper();
     if (info.kind == PictureKind::Animation)
-        kind = coreText("%1, %2 frames").arg(kind).arg(info.frames);
+        kind = coreText("%1, %n frame", "%1, %n frames", info.frames).arg(kind);
     return coreText("%1 × %2 · %3").arg(info.size.width()).arg(info.size.height()).arg(kind);
 }
 
@@ -271,7 +271,7 @@ QString ImageListModel::uses(const QString& image) const
         return {};
     if (count == 0)
         return coreText("not used");
-    return count == 1 ? coreText("1 use") : coreText("%1 uses").arg(count);
+    return coreText("%n use", "%n uses", int(count));
 }
 
 QString ImageListModel::toolTip(const QString& image) const

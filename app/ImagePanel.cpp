@@ -186,7 +186,8 @@ void ImagePanel::addUses(QMenu* menu, const QString& image)
                 [this, object] { Q_EMIT objectsRequested({object}); });
     }
     if (objects.size() > MostListedUses)
-        uses->addAction(coreText("and %1 more").arg(objects.size() - MostListedUses))->setEnabled(false);
+        uses->addAction(coreText("and %n more", "and %n more", int(objects.size()) - MostListedUses))
+            ->setEnabled(false);
 }
 
 void ImagePanel::removeSelected()

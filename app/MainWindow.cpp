@@ -332,8 +332,9 @@ void MainWindow::showProblems(const QList<Problem>& problems, const QString& con
     const bool hasError = std::any_of(problems.cbegin(), problems.cend(), [](const Problem& problem) {
         return problem.severity == Problem::Severity::Error;
     });
-    const QString found =
-        problems.size() == 1 ? problems.constFirst().text() : coreText("%1 problems were found.").arg(problems.size());
+    const QString found = problems.size() == 1
+                              ? problems.constFirst().text()
+                              : coreText("%n problem was found.", "%n problems were found.", int(problems.size()));
     const QString text = consequence.isEmpty() ? found : consequence + QLatin1Char(' ') + found;
     m_messages->showMessage(text, hasError ? MessageBar::Kind::Error : MessageBar::Kind::Warning, coreText("Details"),
                             [this] {

@@ -588,11 +588,6 @@ Läuft mit Qt %1.</translation>
         <translation>Verwendungen zeigen</translation>
     </message>
     <message>
-        <source> (And %1 more.)</source>
-        <extracomment>app/ImageActions.cpp</extracomment>
-        <translation> (Und %1 weitere.)</translation>
-    </message>
-    <message>
         <source>pasted</source>
         <extracomment>app/ImageData.cpp</extracomment>
         <translation>zwischenablage</translation>
@@ -618,11 +613,6 @@ Läuft mit Qt %1.</translation>
         <translation>die Datei fehlt</translation>
     </message>
     <message>
-        <source>%1, %2 frames</source>
-        <extracomment>app/ImageListModel.cpp</extracomment>
-        <translation>%1, %2 Einzelbilder</translation>
-    </message>
-    <message>
         <source>%1 × %2 · %3</source>
         <extracomment>app/ImageListModel.cpp</extracomment>
         <translation>%1 × %2 · %3</translation>
@@ -631,16 +621,6 @@ Läuft mit Qt %1.</translation>
         <source>not used</source>
         <extracomment>app/ImageListModel.cpp</extracomment>
         <translation>nicht verwendet</translation>
-    </message>
-    <message>
-        <source>1 use</source>
-        <extracomment>app/ImageListModel.cpp</extracomment>
-        <translation>1 Verwendung</translation>
-    </message>
-    <message>
-        <source>%1 uses</source>
-        <extracomment>app/ImageListModel.cpp</extracomment>
-        <translation>%1 Verwendungen</translation>
     </message>
     <message>
         <source>Nothing shows it any more: it leaves the project with the next save.</source>
@@ -718,11 +698,6 @@ Läuft mit Qt %1.</translation>
         <translation>Verwendet von</translation>
     </message>
     <message>
-        <source>and %1 more</source>
-        <extracomment>app/ImagePanel.cpp</extracomment>
-        <translation>und %1 weitere</translation>
-    </message>
-    <message>
         <source>Properties</source>
         <extracomment>app/MainWindow.cpp</extracomment>
         <translation>Eigenschaften</translation>
@@ -766,11 +741,6 @@ Läuft mit Qt %1.</translation>
         <source>%1: click or drag on the screen to place it; Esc to leave it.</source>
         <extracomment>app/MainWindow.cpp</extracomment>
         <translation>%1: zum Platzieren auf den Bildschirm klicken oder dort aufziehen; mit Esc abbrechen.</translation>
-    </message>
-    <message>
-        <source>%1 problems were found.</source>
-        <extracomment>app/MainWindow.cpp</extracomment>
-        <translation>%1 Probleme wurden gefunden.</translation>
     </message>
     <message>
         <source>Details</source>
@@ -1473,19 +1443,9 @@ Läuft mit Qt %1.</translation>
         <translation>„%1“ hat keine Eigenschaft „%2“.</translation>
     </message>
     <message>
-        <source>Remove %1 Elements</source>
-        <extracomment>host/core/canvas/EditSession.cpp</extracomment>
-        <translation>%1 Elemente entfernen</translation>
-    </message>
-    <message>
         <source>Move %1</source>
         <extracomment>host/core/canvas/EditSession.cpp</extracomment>
         <translation>%1 verschieben</translation>
-    </message>
-    <message>
-        <source>Move %1 Elements</source>
-        <extracomment>host/core/canvas/EditSession.cpp</extracomment>
-        <translation>%1 Elemente verschieben</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be rotated.</source>
@@ -1532,14 +1492,9 @@ Läuft mit Qt %1.</translation>
         <extracomment>host/core/canvas/ImagePlacement.cpp</extracomment>
         <translation>Kein Element kann Bilder zeigen. Das Plug-in mit den visuellen Elementen wurde nicht gefunden.</translation>
     </message>
-    <message>
-        <source>Add %1 Images</source>
-        <extracomment>host/core/canvas/ImagePlacement.cpp</extracomment>
-        <translation>%1 Bilder hinzufügen</translation>
-    </message>
     <message numerus="yes">
         <source>Move %n Elements</source>
-        <extracomment>host/core/canvas/MoveGesture.cpp</extracomment>
+        <extracomment>host/core/canvas/EditSession.cpp</extracomment>
         <translation>
             <numerusform>%n Element verschieben</numerusform>
             <numerusform>%n Elemente verschieben</numerusform>
@@ -1707,7 +1662,7 @@ Läuft mit Qt %1.</translation>
     </message>
     <message>
         <source>Group</source>
-        <extracomment>host/core/arrange/Grouping.cpp</extracomment>
+        <extracomment>host/core/objects/Group.cpp</extracomment>
         <translation>Gruppe</translation>
     </message>
     <message>
@@ -1924,11 +1879,6 @@ Läuft mit Qt %1.</translation>
         <source>There is no image &quot;%1&quot; in this project.</source>
         <extracomment>host/core/project/ImageEdits.cpp</extracomment>
         <translation>In diesem Projekt gibt es kein Bild „%1“.</translation>
-    </message>
-    <message>
-        <source>%1 and %2 more</source>
-        <extracomment>host/core/project/FontReferences.cpp</extracomment>
-        <translation>%1 und %2 weitere</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be removed while it is used: by %2. Choose another image there first.</source>
@@ -2426,11 +2376,6 @@ Läuft mit Qt %1.</translation>
         <translation>Der Name, unter dem Verweise und der exportierte Bildschirm das Objekt kennen</translation>
     </message>
     <message>
-        <source>%1 objects</source>
-        <extracomment>host/core/sheet/SheetHeading.cpp</extracomment>
-        <translation>%1 Objekte</translation>
-    </message>
-    <message>
         <source>Find a property</source>
         <extracomment>host/core/sheet/SheetSearch.cpp</extracomment>
         <translation>Eigenschaft suchen</translation>
@@ -2533,12 +2478,12 @@ Läuft mit Qt %1.</translation>
     <message>
         <source>Pick from screen</source>
         <extracomment>host/core/widgets/ColorPopup.cpp</extracomment>
-        <translation>Vom Bildschirm aufnehmen</translation>
+        <translation>Vom Monitor aufnehmen</translation>
     </message>
     <message>
         <source>Pick a color from the screen</source>
         <extracomment>host/core/widgets/ColorPopup.cpp</extracomment>
-        <translation>Eine Farbe vom Bildschirm aufnehmen</translation>
+        <translation>Eine Farbe vom Monitor aufnehmen</translation>
     </message>
     <message>
         <source>Font family</source>
@@ -4129,6 +4074,83 @@ Läuft mit Qt %1.</translation>
         <source>&quot;%1&quot; is no guide. Guides are written as in &quot;x 100, y 50.5&quot;.</source>
         <extracomment>host/core/project/ProjectChecker.cpp</extracomment>
         <translation>„%1“ ist keine Hilfslinie. Hilfslinien werden wie in „x 100, y 50.5“ geschrieben.</translation>
+    </message>
+    <message numerus="yes">
+        <source> (And %n more.)</source>
+        <extracomment>app/ImageActions.cpp</extracomment>
+        <translation>
+            <numerusform> (Und %n weiteres.)</numerusform>
+            <numerusform> (Und %n weitere.)</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1, %n frames</source>
+        <extracomment>app/ImageListModel.cpp</extracomment>
+        <translation>
+            <numerusform>%1, %n Einzelbild</numerusform>
+            <numerusform>%1, %n Einzelbilder</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n uses</source>
+        <extracomment>app/ImageListModel.cpp</extracomment>
+        <translation>
+            <numerusform>%n Verwendung</numerusform>
+            <numerusform>%n Verwendungen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>and %n more</source>
+        <extracomment>app/ImagePanel.cpp</extracomment>
+        <translation>
+            <numerusform>und %n weiteres</numerusform>
+            <numerusform>und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n problems were found.</source>
+        <extracomment>app/MainWindow.cpp</extracomment>
+        <translation>
+            <numerusform>%n Problem wurde gefunden.</numerusform>
+            <numerusform>%n Probleme wurden gefunden.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Group Elements</source>
+        <extracomment>host/core/arrange/Grouping.cpp</extracomment>
+        <translation>Elemente gruppieren</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove %n Elements</source>
+        <extracomment>host/core/canvas/EditSession.cpp</extracomment>
+        <translation>
+            <numerusform>%n Element entfernen</numerusform>
+            <numerusform>%n Elemente entfernen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Add %n Images</source>
+        <extracomment>host/core/canvas/ImagePlacement.cpp</extracomment>
+        <translation>
+            <numerusform>%n Bild hinzufügen</numerusform>
+            <numerusform>%n Bilder hinzufügen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 and %n more</source>
+        <extracomment>host/core/project/FontReferences.cpp</extracomment>
+        <translation>
+            <numerusform>%1 und %n weiteres</numerusform>
+            <numerusform>%1 und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n objects</source>
+        <extracomment>host/core/sheet/SheetHeading.cpp</extracomment>
+        <translation>
+            <numerusform>%n Objekt</numerusform>
+            <numerusform>%n Objekte</numerusform>
+        </translation>
     </message>
 </context>
 <context>

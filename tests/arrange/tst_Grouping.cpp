@@ -28,7 +28,7 @@ private Q_SLOTS:
         QCOMPARE(canvas.value(second, "position"), QStringLiteral("80,0"));
         QCOMPARE(canvas.selected(), QList<DesignerObject*>{group});
         QCOMPARE(canvas.steps(), 1);
-        QCOMPARE(canvas.stack()->undoText(), QStringLiteral("Group"));
+        QCOMPARE(canvas.stack()->undoText(), QStringLiteral("Group Elements"));
         canvas.session->undo();
         QCOMPARE(canvas.selected(), (QList<DesignerObject*>{first, second}));
         canvas.session->redo();

@@ -100,7 +100,7 @@ EditResult Grouping::group(EditSession* session, const QList<DesignerObject*>& o
     DesignerObject* result = made.get();
 
     auto command = std::make_unique<UndoCommand>();
-    command->setText(LocalizationHelper::coreString(QStringLiteral("Group")));
+    command->setText(LocalizationHelper::coreString(QStringLiteral("Group Elements")));
     command->setAllOrNothing(true);
     new AddObject(owner, std::move(made), indexOf(front) + 1, command.get());
     new ReparentObjects(members, result, -1, ReparentObjects::Select::AtTheOldPlace, command.get());

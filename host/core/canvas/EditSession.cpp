@@ -276,7 +276,9 @@ EditResult EditSession::removeElements(const QList<DesignerObject*>& elements)
     const int count = command->childCommandCount();
     if (count == 0)
         return {true, false, {}};
-    command->setText(count == 1 ? command->childCommand(0)->text() : text("Remove %1 Elements").arg(count));
+    command->setText(count == 1 ? command->childCommand(0)->text()
+                                : LocalizationHelper::coreString(QStringLiteral("Remove %n Element"),
+                                                                 QStringLiteral("Remove %n Elements"), int(count)));
     EditResult result;
     {
         // The selection follows once, at the end, instead of at each element that goes.
@@ -316,8 +318,10 @@ EditResult EditSession::moveElements(const QList<DesignerObject*>& elements, con
                                      const QString& mergeKey)
 {
     auto command = std::make_unique<UndoCommand>();
-    command->setText(elements.size() == 1 ? text("Move %1").arg(elements.first()->getIdName())
-                                          : text("Move %1 Elements").arg(elements.size()));
+    command->setText(elements.size() == 1
+                         ? text("Move %1").arg(elements.first()->getIdName())
+                         : LocalizationHelper::coreString(QStringLiteral("Move %n Element"),
+                                                          QStringLiteral("Move %n Elements"), int(elements.size())));
     command->setMergeKey(mergeKey);
     const QSet<DesignerObject*> selected(m_selection.begin(), m_selection.end());
     for (DesignerObject* object : elements) {

@@ -119,7 +119,10 @@ EditResult ImagePlacement::place(EditSession* session, const QStringList& images
         const auto link = imageLink(object);
         added.append(object);
         const auto* add = new AddObject(screen, std::move(element), -1, command.get());
-        command->setText(images.size() == 1 ? add->text() : text("Add %1 Images").arg(images.size()));
+        command->setText(images.size() == 1 ? add->text()
+                                            : Common::LocalizationHelper::coreString(QStringLiteral("Add %n Image"),
+                                                                                     QStringLiteral("Add %n Images"),
+                                                                                     int(images.size())));
         for (const auto& property : object->properties()) {
             if (property == link)
                 new ChangeProperty(property, image, false, command.get());

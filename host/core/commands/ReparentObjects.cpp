@@ -103,7 +103,8 @@ ReparentObjects::ReparentObjects(const QList<DesignerObject*>& objects, Designer
     setAllOrNothing(true);
     setText(objects.size() == 1
                 ? LocalizationHelper::coreString(QStringLiteral("Move %1")).arg(objects.constFirst()->getIdName())
-                : LocalizationHelper::coreString(QStringLiteral("Move %1 Elements")).arg(objects.size()));
+                : LocalizationHelper::coreString(QStringLiteral("Move %n Element"), QStringLiteral("Move %n Elements"),
+                                                 int(objects.size())));
 }
 
 ReparentObjects::~ReparentObjects() = default;

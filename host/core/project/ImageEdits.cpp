@@ -67,7 +67,9 @@ QString places(const QList<ImageUse>& uses)
     const qsizetype more = names.size() - MostPlaces;
     if (more <= 0)
         return names.join(QLatin1String(", "));
-    return text("%1 and %2 more").arg(names.first(MostPlaces).join(QLatin1String(", "))).arg(more);
+    return Common::LocalizationHelper::coreString(QStringLiteral("%1 and %n more"), QStringLiteral("%1 and %n more"),
+                                                  int(more))
+        .arg(names.first(MostPlaces).join(QLatin1String(", ")));
 }
 
 } // namespace

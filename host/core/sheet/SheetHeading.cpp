@@ -136,7 +136,8 @@ QString SheetHeading::titleOf(const QList<DesignerObject*>& objects)
     const QString number = QLocale().toString(objects.size());
     // The name of a type has one form only; a number before it with a sign reads well in every language.
     return same ? LocalizationHelper::coreString(QStringLiteral("%1 \u00d7 %2")).arg(number, first->displayName())
-                : LocalizationHelper::coreString(QStringLiteral("%1 objects")).arg(number);
+                : LocalizationHelper::coreString(QStringLiteral("%n object"), QStringLiteral("%n objects"),
+                                                 int(objects.size()));
 }
 
 } // namespace Korvex::Meridane::Designer
