@@ -1,26 +1,21 @@
 #include "app/ProjectTreeModel.h"
 
-#include "app/CoreText.h"
 #include "app/ElementPicture.h"
-#include "app/ThemedIcon.h"
+#include "app/ProjectTreeRow.h"
 
 #include "host/core/arrange/ElementClipboard.h"
 #include "host/core/arrange/SiblingOrder.h"
 #include "host/core/canvas/EditSession.h"
 #include "host/core/objects/EditorMarks.h"
-#include "host/core/objects/Group.h"
 #include "host/core/objects/Screen.h"
 #include "host/core/objects/UnknownElement.h"
-#include "host/core/objects/VisualElement.h"
 #include "host/core/project/Project.h"
 #include "host/core/properties/ObjectListProperty.h"
-#include "host/core/values/ValueConversion.h"
 
 #include <QFont>
-#include <QGuiApplication>
 #include <QIcon>
 #include <QMimeData>
-#include <QPalette>
+#include <QSet>
 
 #include <algorithm>
 
@@ -29,13 +24,6 @@ namespace Korvex::Meridane::Designer {
 namespace {
 
 const QString RowsMimeType = QStringLiteral("application/x-meridane-tree-rows");
-
-const QString& unreadableReason(const DesignerObject* object)
-{
-    static const QString none;
-    const auto* screen = qobject_cast<const Screen*>(object);
-    return screen ? screen->contentError() : none;
-}
 
 } // namespace
 
@@ -150,51 +138,24 @@ QVariant ProjectTreeModel::data(const QModelIndex& index, int role) const
     const DesignerObject* shown = object(index);
     if (!shown)
         return {};
+    const ProjectTreeRow row(shown);
     if (index.column() != NameColumn)
-        return markData(index, role);
-    const auto* project = qobject_cast<const Project*>(shown);
-    const auto* screen = qobject_cast<const Screen*>(shown);
-    const bool unreadable = !unreadableReason(shown).isEmpty();
-    switch (role) {
-    case Qt::DisplayRole:
-        if (project)
-            return project->name();
-        return unreadable ? coreText("%1 (unreadable)").arg(shown->getIdName()) : shown->getIdName();
-    case Qt::EditRole:
-        return project ? project->name() : shown->getIdName();
-    case Qt::DecorationRole:
-        if (unreadable)
-            return ThemedIcon::named(QStringLiteral("warning"));
-        if (project)
-            return ThemedIcon::named(QStringLiteral("project"));
-        if (screen)
-            return ThemedIcon::named(QStringLiteral("screen"));
-        if (qobject_cast<const Group*>(shown))
-            return ThemedIcon::named(QStringLiteral("group"));
-        if (!m_icons.contains(shown->className()))
-            m_icons.insert(shown->className(), ElementPicture::icon(shown->className()));
-        return m_icons.value(shown->className());
-    case Qt::ToolTipRole:
-        return toolTip(shown);
-    case Qt::FontRole:
-        if (screen && screen == m_session->currentScreen()) {
-            QFont font;
-            font.setBold(true);
-            return font;
-        }
-        if (qobject_cast<const UnknownElement*>(shown)) {
-            QFont font;
-            font.setItalic(true);
-            return font;
-        }
-        return {};
-    case Qt::ForegroundRole:
-        if (unreadable || qobject_cast<const UnknownElement*>(shown))
-            return QGuiApplication::palette().brush(QPalette::PlaceholderText);
-        return {};
-    default:
-        return {};
+        return row.markData(index.column(), role);
+    if (role == Qt::FontRole && shown == m_session->currentScreen()) {
+        QFont font;
+        font.setBold(true);
+        return font;
     }
+    const QVariant said = row.nameData(role);
+    return role == Qt::DecorationRole && !said.isValid() ? classIcon(shown->className()) : said;
+}
+
+QIcon ProjectTreeModel::classIcon(const QString& className) const
+{
+    auto icon = m_icons.constFind(className);
+    if (icon == m_icons.constEnd())
+        icon = m_icons.insert(className, ElementPicture::icon(className));
+    return *icon;
 }
 
 bool ProjectTreeModel::setData(const QModelIndex& index, const QVariant& value, int role)
@@ -224,9 +185,10 @@ Qt::ItemFlags ProjectTreeModel::flags(const QModelIndex& index) const
     const bool movable = !qobject_cast<const Project*>(shown);
     if (movable)
         flags |= Qt::ItemIsDragEnabled;
-    if (!qobject_cast<const UnknownElement*>(shown) && unreadableReason(shown).isEmpty())
+    const bool unreadable = ProjectTreeRow(shown).isUnreadable();
+    if (!unreadable && !qobject_cast<const UnknownElement*>(shown))
         flags |= Qt::ItemIsEditable;
-    if (shown->childList() && unreadableReason(shown).isEmpty())
+    if (!unreadable && shown->childList())
         flags |= Qt::ItemIsDropEnabled;
     return flags;
 }
@@ -291,10 +253,11 @@ bool ProjectTreeModel::dropMimeData(const QMimeData* data, Qt::DropAction action
     const QList<DesignerObject*> objects = areScreens ? dragged(data) : ElementClipboard::copyable(dragged(data));
     // The gap at `row` as a place among the siblings that stay, counted as the list counts.
     populate(node(parent));
+    const QSet<DesignerObject*> moving(objects.cbegin(), objects.cend());
     int above = 0;
     int staying = 0;
     for (const auto& child : node(parent)->children) {
-        if (objects.contains(child->object))
+        if (moving.contains(child->object))
             continue;
         ++staying;
         if (child->row < row)
@@ -336,62 +299,6 @@ void ProjectTreeModel::toggleMark(int column, const QList<DesignerObject*>& obje
         column == HiddenColumn ? m_session->setHidden(elements, set) : m_session->setLocked(elements, set);
     if (!result.message.isEmpty())
         Q_EMIT refused(result.message);
-}
-
-QVariant ProjectTreeModel::markData(const QModelIndex& index, int role) const
-{
-    const DesignerObject* shown = object(index);
-    const bool isHiding = index.column() == HiddenColumn;
-    const QString mark = isHiding ? EditorMarks::hidden() : EditorMarks::locked();
-    if (!shown->editorMarkKeys().contains(mark))
-        return {};
-    const bool own = !shown->editorMark(mark).isEmpty();
-    const bool inherited = !own && (isHiding ? EditorMarks::isHidden(shown) : EditorMarks::isLocked(shown));
-    switch (role) {
-    case MarkRole:
-        return int(own ? Mark::Own : inherited ? Mark::Inherited : Mark::None);
-    case Qt::AccessibleTextRole:
-        if (isHiding)
-            return own || inherited ? coreText("Hidden on the canvas") : coreText("Shown on the canvas");
-        return own || inherited ? coreText("Locked") : coreText("Not locked");
-    case Qt::ToolTipRole:
-        if (inherited) {
-            return isHiding ? coreText("Hidden on the canvas with its group. Click to hide it by itself, too.")
-                            : coreText("Locked with its group. Click to lock it by itself, too.");
-        }
-        if (isHiding) {
-            return own ? coreText("Hidden on the canvas. Click to show it.")
-                       : coreText("Click to hide it on the canvas. Exports show it all the same.");
-        }
-        return own ? coreText("Locked against the mouse. Click to unlock it.")
-                   : coreText("Click to lock it against the mouse.");
-    default:
-        return {};
-    }
-}
-
-/// The class and where the object is.
-QString ProjectTreeModel::toolTip(const DesignerObject* object) const
-{
-    if (const QString& reason = unreadableReason(object); !reason.isEmpty())
-        return reason;
-    if (const auto* unknown = qobject_cast<const UnknownElement*>(object)) {
-        return coreText("No plug-in serves the class \"%1\". The element is kept as it is in the file.")
-            .arg(unknown->wantedClassName());
-    }
-    if (const auto* project = qobject_cast<const Project*>(object))
-        return project->folder();
-    if (const auto* screen = qobject_cast<const Screen*>(object)) {
-        return coreText("%1, %2 × %3 px")
-            .arg(screen->displayName())
-            .arg(screen->size().width())
-            .arg(screen->size().height());
-    }
-    const auto* element = qobject_cast<const VisualElement*>(object);
-    if (!element || !element->position()->isConverted())
-        return object->displayName();
-    const QPointF place = ValueConversion::toPoint(element->position()->valueString());
-    return coreText("%1 at %2, %3").arg(object->displayName()).arg(place.x()).arg(place.y());
 }
 
 std::unique_ptr<ProjectTreeModel::Node> ProjectTreeModel::makeNode(DesignerObject* object, Node* parent)

@@ -80,8 +80,7 @@ private:
 
     [[nodiscard]] Node* node(const QModelIndex& index) const;
     [[nodiscard]] QModelIndex nodeIndex(const Node* node, int column = NameColumn) const;
-    [[nodiscard]] QVariant markData(const QModelIndex& index, int role) const;
-    [[nodiscard]] QString toolTip(const DesignerObject* object) const;
+    [[nodiscard]] QIcon classIcon(const QString& className) const;
     [[nodiscard]] std::unique_ptr<Node> makeNode(DesignerObject* object, Node* parent);
     [[nodiscard]] int rowInList(const DesignerObject* object) const;
     void populate(Node* node);

@@ -12,10 +12,7 @@ namespace Korvex::Meridane::Designer {
 ThemedIcon::ThemedIcon(const QString& file, QPalette::ColorRole role)
     : m_file(file)
     , m_role(role)
-    , m_renderer(std::make_shared<QSvgRenderer>(file))
 {}
-
-ThemedIcon::~ThemedIcon() = default;
 
 QIcon ThemedIcon::named(const QString& name, QPalette::ColorRole role)
 {
@@ -67,7 +64,8 @@ QPixmap ThemedIcon::drawn(const QSize& pixels, QIcon::Mode mode) const
     if (!pixmap.isNull()) {
         QPainter painter(&pixmap);
         const int side = qMin(pixels.width(), pixels.height());
-        m_renderer->render(&painter, QRectF((pixels.width() - side) / 2., (pixels.height() - side) / 2., side, side));
+        QSvgRenderer(m_file).render(&painter,
+                                    QRectF((pixels.width() - side) / 2., (pixels.height() - side) / 2., side, side));
         painter.end();
         pixmap = IconTint::tinted(pixmap, ink);
     }

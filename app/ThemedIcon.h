@@ -4,10 +4,6 @@
 #include <QIconEngine>
 #include <QPalette>
 
-#include <memory>
-
-class QSvgRenderer;
-
 namespace Korvex::Meridane::Designer {
 
 /**
@@ -22,7 +18,6 @@ class ThemedIcon : public QIconEngine
 public:
     /// \a role: the palette's colour for the drawing.
     explicit ThemedIcon(const QString& file, QPalette::ColorRole role = QPalette::WindowText);
-    ~ThemedIcon() override;
 
     /// The icon drawn in app/icons/\a name.svg, in the palette's colour for \a role.
     [[nodiscard]] static QIcon named(const QString& name, QPalette::ColorRole role = QPalette::WindowText);
@@ -38,7 +33,6 @@ private:
 
     QString m_file;
     QPalette::ColorRole m_role;
-    std::shared_ptr<QSvgRenderer> m_renderer;
 };
 
 } // namespace Korvex::Meridane::Designer
