@@ -13,13 +13,30 @@
 #include "host/core/objects/Element.h"
 #include "host/core/objects/Screen.h"
 #include "host/core/project/Project.h"
+#include "host/core/properties/ObjectListProperty.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QMimeData>
 
+#include <algorithm>
+
 namespace Korvex::Meridane::Designer {
+
+namespace {
+
+/// Whether \a screen has an element that can be selected on the canvas.
+bool hasReachable(const Screen* screen)
+{
+    const auto& elements = screen->childList()->items();
+    return screen->isContentRead()
+           && std::any_of(elements.cbegin(), elements.cend(), [](const DesignerObject* element) {
+                  return !EditorMarks::isLocked(element) && !EditorMarks::isHidden(element);
+              });
+}
+
+} // namespace
 
 EditActions::EditActions(MessageBar* messages, QObject* parent)
     : QObject(parent)
@@ -69,6 +86,7 @@ EditActions::EditActions(MessageBar* messages, QObject* parent)
             if (m_session)
                 report(SiblingOrder::move(m_session->project(), elements(), move));
         });
+        action->setData(int(order.move));
         m_order.append(action);
     }
     connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &EditActions::updateSelection);
@@ -111,6 +129,7 @@ void EditActions::setSession(EditSession* session)
     }
     m_session = session;
     m_duplicates = {};
+        connect(stack, &QUndoStack::indexChanged, this, &EditActions::updateSelection); // the order may be another
     if (session) {
         UndoStack* stack = session->undoStack();
         connect(stack, &QUndoStack::indexChanged, this, &EditActions::updateHistory);
@@ -242,11 +261,13 @@ void EditActions::updateSelection()
     for (QAction* action : {m_copy, m_duplicate})
         action->setEnabled(hasElements);
     m_cut->setEnabled(hasRemovable);
-    for (QAction* action : m_order)
-        action->setEnabled(hasElements);
+    for (QAction* action : m_order) {
+        action->setEnabled(hasElements
+                           && SiblingOrder::canMove(elements(), SiblingOrder::Move(action->data().toInt())));
+    }
     m_delete->setEnabled(hasRemovable || isScreen);
     m_rename->setEnabled(free && selection.size() == 1);
-    m_selectAll->setEnabled(hasScreen);
+    m_selectAll->setEnabled(hasScreen && hasReachable(m_session->currentScreen()));
     m_addScreen->setEnabled(free);
     const QMimeData* content = QGuiApplication::clipboard()->mimeData();
     const bool holdsElements = content && content->hasFormat(ElementClipboard::mimeType());

@@ -8,6 +8,8 @@
 #include "app/Workspace.h"
 
 #include "host/core/canvas/CanvasView.h"
+#include "host/core/canvas/EditSession.h"
+#include "host/core/project/Project.h"
 #include "host/core/sheet/PropertySheet.h"
 
 #include <QMenu>
@@ -39,6 +41,7 @@ NavigationActions::NavigationActions(WindowPanels* panels, QObject* parent)
         [this] { stepScreen(1); });
     add("view.previousScreen", "screen-previous", coreText("Pre&vious Screen"),
         QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab), [this] { stepScreen(-1); });
+    m_screenSteps = m_actions.last(2);
 }
 
 void NavigationActions::addTo(QMenu* menu)
@@ -48,9 +51,25 @@ void NavigationActions::addTo(QMenu* menu)
 
 void NavigationActions::setWorkspace(Workspace* workspace)
 {
+    if (m_project)
+        m_project->disconnect(this);
     m_workspace = workspace;
+    m_project = workspace ? workspace->session()->project() : nullptr;
+    if (m_project) {
+        connect(m_project, &Project::objectAdded, this, &NavigationActions::update);
+        connect(m_project, &Project::objectRemoved, this, &NavigationActions::update);
+    }
+    update();
+}
+
+/// Enables what can act: with one screen there is none to go to.
+void NavigationActions::update()
+{
     for (QAction* action : std::as_const(m_actions))
-        action->setEnabled(workspace);
+        action->setEnabled(m_workspace);
+    const bool hasOthers = m_project && m_project->screens().size() > 1;
+    for (QAction* action : std::as_const(m_screenSteps))
+        action->setEnabled(hasOthers);
 }
 
 void NavigationActions::editProperties()

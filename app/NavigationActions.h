@@ -1,12 +1,14 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 
 class QAction;
 class QMenu;
 
 namespace Korvex::Meridane::Designer {
 
+class Project;
 class WindowPanels;
 class Workspace;
 
@@ -28,13 +30,16 @@ Q_SIGNALS:
     void propertiesRequested();
 
 private:
+    void update();
     void editProperties();
     void stepScreen(int steps);
     void stepPanel(int steps);
 
     WindowPanels* m_panels;
     Workspace* m_workspace = nullptr;
+    QPointer<Project> m_project;
     QList<QAction*> m_actions;
+    QList<QAction*> m_screenSteps; // those of them that go to another screen
 };
 
 } // namespace Korvex::Meridane::Designer

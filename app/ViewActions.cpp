@@ -43,6 +43,7 @@ ViewActions::ViewActions(QObject* parent)
     });
     connect(m_actual, &QAction::triggered, this, [this] { setZoom(1); });
     connect(m_fit, &QAction::triggered, this, &ViewActions::fit);
+    update();
 }
 
 void ViewActions::addTo(QMenu* menu)
@@ -57,7 +58,22 @@ void ViewActions::addTo(QMenu* menu)
 
 void ViewActions::setCanvas(CanvasView* canvas)
 {
+    if (m_canvas)
+        m_canvas->disconnect(this);
     m_canvas = canvas;
+    if (canvas)
+        connect(canvas, &CanvasView::zoomChanged, this, &ViewActions::update);
+    update();
+}
+
+/// Enables what can act.
+void ViewActions::update()
+{
+    const double zoom = m_canvas ? m_canvas->zoom() : 0;
+    m_zoomIn->setEnabled(m_canvas && nextZoom(zoom, 1) > zoom);
+    m_zoomOut->setEnabled(m_canvas && nextZoom(zoom, -1) < zoom);
+    m_actual->setEnabled(m_canvas);
+    m_fit->setEnabled(m_canvas);
 }
 
 double ViewActions::nextZoom(double zoom, int steps)

@@ -36,6 +36,7 @@ public Q_SLOTS:
     void showWhole();
 
 private:
+    void update();
     void addAppearanceTo(QMenu* menu);
 
     QPointer<CanvasView> m_canvas;

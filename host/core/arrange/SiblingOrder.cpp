@@ -8,6 +8,7 @@
 #include "host/common/LocalizationHelper.h"
 
 #include <QHash>
+#include <QSet>
 
 #include <algorithm>
 
@@ -85,6 +86,26 @@ EditResult SiblingOrder::move(Project* project, const QList<DesignerObject*>& ob
         addMoves(parent, chosen, targets(chosen, int(parent->childList()->items().size()), move), command.get());
     }
     return run(project, std::move(command));
+}
+
+bool SiblingOrder::canMove(const QList<DesignerObject*>& objects, Move move)
+{
+    const QSet<DesignerObject*> moved(objects.cbegin(), objects.cend());
+    QHash<DesignerObject*, int> counts; // of the moved ones, by parent
+    for (const DesignerObject* object : moved) {
+        if (DesignerObject* parent = object->parentObject(); parent && parent->childList())
+            ++counts[parent];
+    }
+    const bool toFront = move == Move::ToFront || move == Move::Forward;
+    for (auto it = counts.cbegin(); it != counts.cend(); ++it) {
+        // None has a place to go to where they are the outermost ones already.
+        const auto& siblings = it.key()->childList()->items();
+        const auto outermost = toFront ? siblings.cend() - it.value() : siblings.cbegin();
+        if (!std::all_of(outermost, outermost + it.value(),
+                         [&moved](DesignerObject* sibling) { return moved.contains(sibling); }))
+            return true;
+    }
+    return false;
 }
 
 EditResult SiblingOrder::moveTo(Project* project, DesignerObject* parent, const QList<DesignerObject*>& objects,

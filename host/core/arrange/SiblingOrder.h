@@ -31,6 +31,8 @@ public:
 
     /// Moves \a objects of \a project; in an order that is as wanted already nothing is changed.
     static EditResult move(Project* project, const QList<DesignerObject*>& objects, Move move);
+    /// Whether that would change the order of any of \a objects.
+    [[nodiscard]] static bool canMove(const QList<DesignerObject*>& objects, Move move);
     /// Puts \a objects, children of \a parent, so that the first of them gets the place \a index among the siblings
     /// that are not moved.
     static EditResult moveTo(Project* project, DesignerObject* parent, const QList<DesignerObject*>& objects,
