@@ -176,7 +176,8 @@ void tst_ImagePanel::usesOfScreensThatAreNotReadYetAreNotGuessed()
     const QString folder = m_window->folder.filePath(QStringLiteral("saved"));
     QVERIFY2(m_window->document()->saveAs(folder, &message), qUtf8Printable(message));
     QVERIFY(m_window->window->openProject(folder));
-    QCOMPARE(m_window->text("logo.png", ImageListModel::UsesRole), QString());
+    // They are read soon, by whoever needs them first.
+    QVERIFY(m_window->text("logo.png", ImageListModel::UsesRole) != QStringLiteral("not used"));
     QTRY_COMPARE(m_window->text("logo.png", ImageListModel::UsesRole), QStringLiteral("1 use"));
 }
 
