@@ -4,6 +4,7 @@
 #include "app/CoreText.h"
 #include "app/DevicePicture.h"
 #include "app/ScreenChanges.h"
+#include "app/ThemedIcon.h"
 
 #include "host/core/canvas/EditSession.h"
 #include "host/core/canvas/ScreenRenderer.h"
@@ -12,10 +13,12 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QEvent>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QScreen>
 #include <QScrollArea>
+#include <QToolButton>
 #include <QTransform>
 #include <QVBoxLayout>
 
@@ -25,6 +28,7 @@ namespace {
 
 const QString FormatKey = QStringLiteral("panel/format");
 const QString RotationKey = QStringLiteral("panel/rotation");
+const QString FitKey = QStringLiteral("panel/fit");
 const QString PhysicalKey = QStringLiteral("panel/physicalSize");
 const QString DensityKey = QStringLiteral("panel/density");
 const QString CorrectionKey = QStringLiteral("panel/screenCorrection");
@@ -55,20 +59,21 @@ DevicePanel::DevicePanel(EditSession* session, CanvasView* canvas, QWidget* pare
     : QWidget(parent)
     , m_session(session)
     , m_changes(new ScreenChanges(session, canvas, this))
+    , m_area(new QScrollArea)
     , m_picture(new DevicePicture)
     , m_pace(this, [this] { refresh(); })
 {
-    auto* area = new QScrollArea;
-    area->setFrameShape(QFrame::NoFrame);
-    area->setAlignment(Qt::AlignCenter);
-    area->setWidget(m_picture);
-    area->setAccessibleName(coreText("The screen as the panel shows it"));
+    m_area->setFrameShape(QFrame::NoFrame);
+    m_area->setAlignment(Qt::AlignCenter);
+    m_area->setWidget(m_picture);
+    m_area->setAccessibleName(coreText("The screen as the panel shows it"));
+    m_area->installEventFilter(this);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(makeChoices());
     layout->addWidget(makeDensities());
-    layout->addWidget(area, 1);
+    layout->addWidget(m_area, 1);
     readSettings();
     connect(m_changes, &ScreenChanges::changed, this, [this] { m_pace.request(); });
 }
@@ -86,6 +91,15 @@ QWidget* DevicePanel::makeChoices()
         m_rotation->addItem(coreText("%1°").arg(degrees), degrees);
     m_rotation->setAccessibleName(coreText("How the panel is turned"));
     m_rotation->setToolTip(m_rotation->accessibleName());
+    m_fit = new QToolButton;
+    m_fit->setIcon(ThemedIcon::named(QStringLiteral("zoom-fit")));
+    m_fit->setIconSize(QSize(16, 16));
+    m_fit->setAutoRaise(true);
+    m_fit->setCheckable(true);
+    m_fit->setFocusPolicy(Qt::TabFocus);
+    m_fit->setAccessibleName(coreText("Shrink the picture to fit"));
+    m_fit->setToolTip(m_fit->accessibleName());
+    connect(m_fit, &QToolButton::toggled, this, &DevicePanel::takeChoices);
     m_physical = new QCheckBox(coreText("Physical size"));
     connect(m_format, &QComboBox::activated, this, &DevicePanel::takeChoices);
     connect(m_rotation, &QComboBox::activated, this, &DevicePanel::takeChoices);
@@ -103,6 +117,7 @@ QWidget* DevicePanel::makeChoices()
     row->setSpacing(4);
     row->addWidget(m_format, 1);
     row->addWidget(m_rotation);
+    row->addWidget(m_fit);
     row->addWidget(m_physical);
     return choices;
 }
@@ -136,16 +151,19 @@ QWidget* DevicePanel::makeDensities()
 void DevicePanel::readSettings()
 {
     const AppSettings settings;
+    const QSignalBlocker fitBlocked(m_fit);
     const QSignalBlocker physicalBlocked(m_physical);
     const QSignalBlocker densityBlocked(m_panelDensity);
     const QSignalBlocker correctionBlocked(m_correction);
     m_format->setCurrentIndex(
         std::max(m_format->findData(settings.value(FormatKey, QStringLiteral("rgb565")).toString()), 0));
     m_rotation->setCurrentIndex(std::max(m_rotation->findData(settings.value(RotationKey, 0).toInt()), 0));
+    m_fit->setChecked(settings.value(FitKey, true).toBool());
     m_physical->setChecked(settings.value(PhysicalKey, false).toBool());
     m_panelDensity->setValue(settings.value(DensityKey, UnknownDensity).toDouble());
     m_correction->setValue(settings.value(CorrectionKey, 100.0).toDouble());
     m_densities->setVisible(m_physical->isChecked());
+    m_fit->setEnabled(!m_physical->isChecked());
 }
 
 void DevicePanel::takeChoices()
@@ -153,11 +171,13 @@ void DevicePanel::takeChoices()
     AppSettings settings;
     settings.setValue(FormatKey, m_format->currentData());
     settings.setValue(RotationKey, m_rotation->currentData());
+    settings.setValue(FitKey, m_fit->isChecked());
     settings.setValue(PhysicalKey, m_physical->isChecked());
     if (m_panelDensity->value() > UnknownDensity)
         settings.setValue(DensityKey, m_panelDensity->value());
     settings.setValue(CorrectionKey, m_correction->value());
     m_densities->setVisible(m_physical->isChecked());
+    m_fit->setEnabled(!m_physical->isChecked());
     m_pace.request();
 }
 
@@ -172,6 +192,11 @@ void DevicePanel::setRotation(int degrees)
     if (const int index = m_rotation->findData(degrees); index >= 0)
         m_rotation->setCurrentIndex(index);
     takeChoices();
+}
+
+void DevicePanel::setFitting(bool fitting)
+{
+    m_fit->setChecked(fitting);
 }
 
 void DevicePanel::setPhysicalSize(bool physical)
@@ -202,6 +227,13 @@ void DevicePanel::hideEvent(QHideEvent* event)
     m_pace.cancel();
 }
 
+bool DevicePanel::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_area && event->type() == QEvent::Resize)
+        scalePicture();
+    return QWidget::eventFilter(watched, event);
+}
+
 void DevicePanel::refresh()
 {
     if (!m_changes->isActive())
@@ -211,11 +243,23 @@ void DevicePanel::refresh()
     const QImage rendered = current ? ScreenRenderer::render(m_session->scene(current)) : QImage();
     const auto format = PanelColors::named(m_format->currentData().toString());
     const QImage shown = PanelColors::shown(rendered, format.value_or(PanelFormat::Full));
-    const bool isPhysical = m_physical->isChecked() && m_panelDensity->value() > UnknownDensity;
-    m_picture->setScale(isPhysical ? physicalScale(m_panelDensity->value(), screen()->physicalDotsPerInch(),
-                                                   m_correction->value() / 100)
-                                   : 0);
     m_picture->setPicture(shown.transformed(QTransform().rotate(m_rotation->currentData().toInt())));
+    scalePicture();
+}
+
+void DevicePanel::scalePicture()
+{
+    const QSizeF picture = m_picture->picture().size();
+    double scale = 0;
+    if (m_physical->isChecked() && m_panelDensity->value() > UnknownDensity) {
+        scale = physicalScale(m_panelDensity->value(), screen()->physicalDotsPerInch(), m_correction->value() / 100);
+    } else if (m_fit->isChecked() && !picture.isEmpty()) {
+        const QSizeF room = m_area->maximumViewportSize();
+        const double most = std::min(room.width() / picture.width(), room.height() / picture.height());
+        if (most < m_picture->pixelScale())
+            scale = most;
+    }
+    m_picture->setScale(scale);
 }
 
 } // namespace Korvex::Meridane::Designer

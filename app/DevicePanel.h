@@ -9,6 +9,8 @@
 class QCheckBox;
 class QComboBox;
 class QDoubleSpinBox;
+class QScrollArea;
+class QToolButton;
 
 namespace Korvex::Meridane::Designer {
 
@@ -31,6 +33,8 @@ public:
     void setFormat(PanelFormat format);
     /// Degrees clockwise: 0, 90, 180 or 270.
     void setRotation(int degrees);
+    /// Smaller where there is no room for a pixel of this screen for each of the panel's. Without it, one scrolls.
+    void setFitting(bool fitting);
     /// At the size that the panel has, which needs its density.
     void setPhysicalSize(bool physical);
     /// Pixels of the panel for an inch.
@@ -43,6 +47,7 @@ public:
 protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     [[nodiscard]] QWidget* makeChoices();
@@ -50,12 +55,15 @@ private:
     void readSettings();
     void takeChoices();
     void refresh();
+    void scalePicture();
 
     EditSession* m_session;
     ScreenChanges* m_changes;
+    QScrollArea* m_area;
     DevicePicture* m_picture;
     QComboBox* m_format;
     QComboBox* m_rotation;
+    QToolButton* m_fit;
     QCheckBox* m_physical;
     QWidget* m_densities;
     QDoubleSpinBox* m_panelDensity; // its minimum: not known yet

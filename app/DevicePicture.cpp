@@ -26,16 +26,22 @@ void DevicePicture::setPicture(const QImage& picture)
 
 void DevicePicture::setScale(double scale)
 {
+    if (scale == m_scale)
+        return;
     m_scale = scale;
     resize(sizeHint());
     update();
 }
 
-QSizeF DevicePicture::shownSize() const
+double DevicePicture::pixelScale() const
 {
     const double ratio = devicePixelRatioF();
-    const double scale = m_scale > 0 ? m_scale : std::max(std::floor(ratio), 1.0) / ratio;
-    return QSizeF(m_picture.size()) * scale;
+    return std::max(std::floor(ratio), 1.0) / ratio;
+}
+
+QSizeF DevicePicture::shownSize() const
+{
+    return QSizeF(m_picture.size()) * (m_scale > 0 ? m_scale : pixelScale());
 }
 
 QSize DevicePicture::sizeHint() const
@@ -46,7 +52,7 @@ QSize DevicePicture::sizeHint() const
 
 void DevicePicture::paintEvent(QPaintEvent*)
 {
-    if (m_picture.isNull())
+    if (m_picture.isNull() || size().isEmpty())
         return;
     QPainter painter(this);
     const QSizeF shown = shownSize();

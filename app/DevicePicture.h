@@ -19,6 +19,8 @@ public:
     /// its pixel ratio.
     void setScale(double scale);
     [[nodiscard]] QSizeF shownSize() const;
+    /// The scale that stands for 0.
+    [[nodiscard]] double pixelScale() const;
 
     [[nodiscard]] QSize sizeHint() const override;
 

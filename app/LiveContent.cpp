@@ -31,6 +31,7 @@ LiveContent::LiveContent(EditSession* session, CanvasView* canvas, LiveDisplay* 
     , m_pace(this, [this] { send(); })
 {
     connect(display, &LiveDisplay::started, this, &LiveContent::beginAnew);
+    connect(display, &LiveDisplay::complained, this, &LiveContent::hear);
     connect(display, &LiveDisplay::ready, this, &LiveContent::sendSoon);
     connect(m_changes, &ScreenChanges::changed, this, &LiveContent::sendSoon);
     const Project* project = session->project();
@@ -76,14 +77,23 @@ void LiveContent::send()
     const ScreenChanges::Batch changes = m_changes->take();
     const Screen* screen = m_session->currentScreen();
     const PendingValues asTheGestureHasThem(changes.gesture);
-    if (changes.wholeScreen)
+    if (changes.wholeScreen || m_screenIsWrong)
         sendScreen(screen);
     else if (screen)
-        sendElements(screen, changes.elements);
+        sendElements(screen, changes.elements + m_wrong);
+}
+
+void LiveContent::hear(const QStringList& complaints)
+{
+    m_screenIsWrong = m_sentScreen && !complaints.isEmpty();
+    m_wrong = complaints.isEmpty() ? QSet<const DesignerObject*>() : m_sent;
 }
 
 void LiveContent::sendScreen(const Screen* screen)
 {
+    m_sentScreen = true;
+    m_sent.clear();
+    m_wrong.clear();
     if (screen)
         screen->readContent();
     if (!screen || !screen->contentError().isEmpty()) {
@@ -109,8 +119,11 @@ void LiveContent::sendElements(const Screen* screen, const QSet<const DesignerOb
         if (!qml.isEmpty())
             files.insert(element->getIdName(), fileOf(qml));
     }
-    if (!files.isEmpty())
-        m_display->replaceElements(files);
+    if (files.isEmpty())
+        return;
+    m_sentScreen = false;
+    m_sent = elements;
+    m_display->replaceElements(files);
 }
 
 } // namespace Korvex::Meridane::Designer

@@ -20,7 +20,8 @@ class ScreenChanges;
  * would write.
  *
  * Only the elements that changed are sent, all of them together, and only when the display has done with what it got
- * before: however fast the changes come, nothing piles up.
+ * before: however fast the changes come, nothing piles up. What was complained about is sent again with it, so that the
+ * answer always tells all that is wrong.
  */
 class LiveContent : public QObject
 {
@@ -41,12 +42,17 @@ private:
     void beginAnew();
     void sendSoon();
     void send();
+    void hear(const QStringList& complaints);
     void sendScreen(const Screen* screen);
     void sendElements(const Screen* screen, const QSet<const DesignerObject*>& elements);
 
     EditSession* m_session;
     LiveDisplay* m_display;
     ScreenChanges* m_changes;
+    QSet<const DesignerObject*> m_sent; // with the last message; the elements are only compared
+    QSet<const DesignerObject*> m_wrong; // those of the last message that was complained about
+    bool m_sentScreen = false; // the last message was the whole screen
+    bool m_screenIsWrong = false;
     UpdatePace m_pace;
 };
 

@@ -123,6 +123,16 @@ void QmlPanel::hideEvent(QHideEvent* event)
     m_pace.cancel();
 }
 
+bool QmlPanel::event(QEvent* event)
+{
+    // The window has an action with this key; here it means the text.
+    if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Find)) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
+}
+
 void QmlPanel::keyPressEvent(QKeyEvent* event)
 {
     if (event->matches(QKeySequence::Find)) {

@@ -11,6 +11,7 @@
 #include "host/core/project/Project.h"
 #include "host/core/properties/DesignerProperty.h"
 
+#include <QTemporaryDir>
 #include <QToolButton>
 #include <QtTest>
 
@@ -218,6 +219,37 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(display.isReady(), Patience);
         QCOMPARE(complaints.takeLast().constFirst().toStringList(), QStringList());
         QVERIFY(failures.isEmpty());
+    }
+
+    void whatIsWrongIsToldUntilItIsMended()
+    {
+        QTemporaryDir folder;
+        const QString file = folder.filePath(QStringLiteral("logo.png"));
+        QImage picture(20, 20, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        QVERIFY(picture.save(file));
+        QString id;
+        QVERIFY(m_session->importImage(file, &id).accepted);
+        DesignerObject* image = nullptr;
+        QVERIFY(m_session->addElement(QStringLiteral("Image"), m_screen, {}, {{QStringLiteral("source"), id}}, &image)
+                    .accepted);
+        DesignerObject* other =
+            add("Rectangle", QStringLiteral("100,50"), QStringLiteral("200,100"), QStringLiteral("#ff0000"));
+        DesignerObject* third =
+            add("Rectangle", QStringLiteral("400,50"), QStringLiteral("200,100"), QStringLiteral("#ff0000"));
+        QVERIFY(QFile::remove(QDir(m_session->project()->folder()).filePath(QStringLiteral("images/") + id)));
+        showPanel();
+        QTRY_VERIFY_WITH_TIMEOUT(m_panel->message().contains(id), Patience);
+        for (const QColor& color : {QColor(Qt::blue), QColor(Qt::green)}) {
+            m_session->setProperty(other, QStringLiteral("color"), color.name());
+            QVERIFY(shows(QPoint(110, 60), color));
+            QTRY_VERIFY_WITH_TIMEOUT(m_panel->display()->isReady(), Patience);
+            QVERIFY2(m_panel->message().contains(id), qPrintable(m_panel->message()));
+        }
+        QVERIFY(m_session->removeElements({image}).accepted);
+        m_session->setProperty(third, QStringLiteral("color"), QStringLiteral("#00ffff"));
+        QVERIFY(shows(QPoint(410, 60), Qt::cyan));
+        QTRY_VERIFY_WITH_TIMEOUT(m_panel->message().isEmpty(), Patience);
     }
 
     void theMouseReachesTheDisplay()

@@ -21,17 +21,21 @@
 #include "host/core/objects/Screen.h"
 #include "host/core/plugins/DesignerFactory.h"
 #include "host/core/project/Project.h"
+#include "host/core/sheet/PropertySheet.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDockWidget>
 #include <QDoubleSpinBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QProgressDialog>
 #include <QScreen>
+#include <QScrollArea>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QToolButton>
 #include <QtTest>
 
 using namespace Korvex::Meridane::Designer;
@@ -178,6 +182,45 @@ private Q_SLOTS:
         m_window = std::make_unique<MainWindow>(m_prompts.get());
         m_window->show();
         results()->deviceDock()->show();
+    void theWholePanelIsSeenInANarrowDock()
+    {
+        results()->deviceDock()->show();
+        DevicePanel* panel = results()->device();
+        QTRY_VERIFY(!panel->picture()->picture().isNull());
+        const auto* area = panel->findChild<QScrollArea*>();
+        const auto isSeenWhole = [&] {
+            const QSizeF room = area->maximumViewportSize();
+            const QSizeF shown = panel->picture()->shownSize();
+            return shown.width() <= room.width() + 0.01 && shown.height() <= room.height() + 0.01
+                   && qAbs(shown.width() / shown.height() - 800.0 / 480) < 0.001;
+        };
+        for (const int width : {300, 420}) {
+            m_window->resizeDocks({results()->deviceDock()}, {width}, Qt::Horizontal);
+            QTRY_VERIFY(isSeenWhole());
+        }
+        panel->setFitting(false);
+        QTRY_COMPARE(panel->picture()->shownSize(), QSizeF(800, 480));
+        auto* button = panel->findChild<QToolButton*>();
+        QVERIFY(!button->isChecked());
+        button->click();
+        QTRY_VERIFY(isSeenWhole());
+    }
+
+    void findInTheQmlKeepsItsKey()
+    {
+        results()->qmlDock()->show();
+        QmlPanel* panel = results()->qml();
+        QApplication::setActiveWindow(m_window.get());
+        panel->text()->setFocus();
+        QTest::keyClick(panel->text(), Qt::Key_F, Qt::ControlModifier);
+        QVERIFY(panel->searchField()->hasFocus());
+        // Elsewhere it is the window's.
+        m_window->workspace()->canvas()->setFocus();
+        QTest::keyClick(m_window->workspace()->canvas(), Qt::Key_F, Qt::ControlModifier);
+        QVERIFY(!panel->searchField()->hasFocus());
+        QVERIFY(m_window->workspace()->sheet()->isAncestorOf(QApplication::focusWidget()));
+    }
+
         QTRY_VERIFY(qAbs(results()->device()->picture()->shownSize().width() - 800 * wanted) < 0.01);
     }
 
