@@ -874,7 +874,7 @@ Läuft mit Qt %1.</translation>
     </message>
     <message>
         <source>The project has no problems.</source>
-        <extracomment>app/OutputActions.cpp</extracomment>
+        <extracomment>app/ProjectPanels.cpp</extracomment>
         <translation>Das Projekt hat keine Probleme.</translation>
     </message>
     <message>
@@ -949,12 +949,12 @@ Läuft mit Qt %1.</translation>
     </message>
     <message>
         <source>%1 (unreadable)</source>
-        <extracomment>app/ProjectTreeModel.cpp</extracomment>
+        <extracomment>app/ProjectTreeRow.cpp</extracomment>
         <translation>%1 (nicht lesbar)</translation>
     </message>
     <message>
         <source>No plug-in serves the class &quot;%1&quot;. The element is kept as it is in the file.</source>
-        <extracomment>app/ProjectTreeModel.cpp</extracomment>
+        <extracomment>app/ProjectTreeRow.cpp</extracomment>
         <translation>Kein Plug-in kennt die Klasse „%1“. Das Element bleibt, wie es in der Datei steht.</translation>
     </message>
     <message>
@@ -1434,17 +1434,17 @@ Läuft mit Qt %1.</translation>
     </message>
     <message>
         <source>There is no element class &quot;%1&quot;.</source>
-        <extracomment>host/core/canvas/EditSession.cpp</extracomment>
+        <extracomment>host/core/project/ElementEdits.cpp</extracomment>
         <translation>Es gibt keine Elementklasse „%1“.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; has no property &quot;%2&quot;.</source>
-        <extracomment>host/core/canvas/EditSession.cpp</extracomment>
+        <extracomment>host/core/project/ElementEdits.cpp</extracomment>
         <translation>„%1“ hat keine Eigenschaft „%2“.</translation>
     </message>
     <message>
         <source>Move %1</source>
-        <extracomment>host/core/canvas/EditSession.cpp</extracomment>
+        <extracomment>host/core/canvas/MoveGesture.cpp</extracomment>
         <translation>%1 verschieben</translation>
     </message>
     <message>
@@ -1459,22 +1459,22 @@ Läuft mit Qt %1.</translation>
     </message>
     <message>
         <source>Lock %1</source>
-        <extracomment>host/core/canvas/EditSession.cpp</extracomment>
+        <extracomment>host/core/project/ElementEdits.cpp</extracomment>
         <translation>%1 sperren</translation>
     </message>
     <message>
         <source>Unlock %1</source>
-        <extracomment>host/core/canvas/EditSession.cpp</extracomment>
+        <extracomment>host/core/project/ElementEdits.cpp</extracomment>
         <translation>%1 entsperren</translation>
     </message>
     <message>
         <source>Hide %1</source>
-        <extracomment>host/core/canvas/EditSession.cpp</extracomment>
+        <extracomment>host/core/project/ElementEdits.cpp</extracomment>
         <translation>%1 ausblenden</translation>
     </message>
     <message>
         <source>Show %1</source>
-        <extracomment>host/core/canvas/EditSession.cpp</extracomment>
+        <extracomment>host/core/project/ElementEdits.cpp</extracomment>
         <translation>%1 einblenden</translation>
     </message>
     <message>
@@ -1494,7 +1494,7 @@ Läuft mit Qt %1.</translation>
     </message>
     <message numerus="yes">
         <source>Move %n Elements</source>
-        <extracomment>host/core/canvas/EditSession.cpp</extracomment>
+        <extracomment>host/core/canvas/MoveGesture.cpp</extracomment>
         <translation>
             <numerusform>%n Element verschieben</numerusform>
             <numerusform>%n Elemente verschieben</numerusform>
@@ -2722,62 +2722,62 @@ Läuft mit Qt %1.</translation>
     </message>
     <message>
         <source>Hidden on the canvas</source>
-        <extracomment>app/ProjectTreeModel.cpp</extracomment>
+        <extracomment>app/ProjectTreeRow.cpp</extracomment>
         <translation>Auf der Zeichenfläche ausgeblendet</translation>
     </message>
     <message>
         <source>Shown on the canvas</source>
-        <extracomment>app/ProjectTreeModel.cpp</extracomment>
+        <extracomment>app/ProjectTreeRow.cpp</extracomment>
         <translation>Auf der Zeichenfläche sichtbar</translation>
     </message>
     <message>
         <source>Locked</source>
-        <extracomment>app/ProjectTreeModel.cpp</extracomment>
+        <extracomment>app/ProjectTreeRow.cpp</extracomment>
         <translation>Gesperrt</translation>
     </message>
     <message>
         <source>Not locked</source>
-        <extracomment>app/ProjectTreeModel.cpp</extracomment>
+        <extracomment>app/ProjectTreeRow.cpp</extracomment>
         <translation>Nicht gesperrt</translation>
     </message>
     <message>
         <source>Hidden on the canvas with its group. Click to hide it by itself, too.</source>
-        <extracomment>app/ProjectTreeModel.cpp</extracomment>
+        <extracomment>app/ProjectTreeRow.cpp</extracomment>
         <translation>Mit seiner Gruppe auf der Zeichenfläche ausgeblendet. Klicken, um es auch selbst auszublenden.</translation>
     </message>
     <message>
         <source>Locked with its group. Click to lock it by itself, too.</source>
-        <extracomment>app/ProjectTreeModel.cpp</extracomment>
+        <extracomment>app/ProjectTreeRow.cpp</extracomment>
         <translation>Mit seiner Gruppe gesperrt. Klicken, um es auch selbst zu sperren.</translation>
     </message>
     <message>
         <source>Hidden on the canvas. Click to show it.</source>
-        <extracomment>app/ProjectTreeModel.cpp</extracomment>
+        <extracomment>app/ProjectTreeRow.cpp</extracomment>
         <translation>Auf der Zeichenfläche ausgeblendet. Klicken, um es einzublenden.</translation>
     </message>
     <message>
         <source>Click to hide it on the canvas. Exports show it all the same.</source>
-        <extracomment>app/ProjectTreeModel.cpp</extracomment>
+        <extracomment>app/ProjectTreeRow.cpp</extracomment>
         <translation>Klicken, um es auf der Zeichenfläche auszublenden. Exporte zeigen es trotzdem.</translation>
     </message>
     <message>
         <source>Locked against the mouse. Click to unlock it.</source>
-        <extracomment>app/ProjectTreeModel.cpp</extracomment>
+        <extracomment>app/ProjectTreeRow.cpp</extracomment>
         <translation>Für die Maus gesperrt. Klicken, um es zu entsperren.</translation>
     </message>
     <message>
         <source>Click to lock it against the mouse.</source>
-        <extracomment>app/ProjectTreeModel.cpp</extracomment>
+        <extracomment>app/ProjectTreeRow.cpp</extracomment>
         <translation>Klicken, um es für die Maus zu sperren.</translation>
     </message>
     <message>
         <source>%1, %2 × %3 px</source>
-        <extracomment>app/ProjectTreeModel.cpp</extracomment>
+        <extracomment>app/ProjectTreeRow.cpp</extracomment>
         <translation>%1, %2 × %3 px</translation>
     </message>
     <message>
         <source>%1 at %2, %3</source>
-        <extracomment>app/ProjectTreeModel.cpp</extracomment>
+        <extracomment>app/ProjectTreeRow.cpp</extracomment>
         <translation>%1 bei %2, %3</translation>
     </message>
     <message>
@@ -3175,7 +3175,7 @@ Läuft mit Qt %1.</translation>
     </message>
     <message numerus="yes">
         <source>Lock %n Elements</source>
-        <extracomment>host/core/canvas/EditSession.cpp</extracomment>
+        <extracomment>host/core/project/ElementEdits.cpp</extracomment>
         <translation>
             <numerusform>%n Element sperren</numerusform>
             <numerusform>%n Elemente sperren</numerusform>
@@ -3183,7 +3183,7 @@ Läuft mit Qt %1.</translation>
     </message>
     <message numerus="yes">
         <source>Unlock %n Elements</source>
-        <extracomment>host/core/canvas/EditSession.cpp</extracomment>
+        <extracomment>host/core/project/ElementEdits.cpp</extracomment>
         <translation>
             <numerusform>%n Element entsperren</numerusform>
             <numerusform>%n Elemente entsperren</numerusform>
@@ -3191,7 +3191,7 @@ Läuft mit Qt %1.</translation>
     </message>
     <message numerus="yes">
         <source>Hide %n Elements</source>
-        <extracomment>host/core/canvas/EditSession.cpp</extracomment>
+        <extracomment>host/core/project/ElementEdits.cpp</extracomment>
         <translation>
             <numerusform>%n Element ausblenden</numerusform>
             <numerusform>%n Elemente ausblenden</numerusform>
@@ -3199,7 +3199,7 @@ Läuft mit Qt %1.</translation>
     </message>
     <message numerus="yes">
         <source>Show %n Elements</source>
-        <extracomment>host/core/canvas/EditSession.cpp</extracomment>
+        <extracomment>host/core/project/ElementEdits.cpp</extracomment>
         <translation>
             <numerusform>%n Element einblenden</numerusform>
             <numerusform>%n Elemente einblenden</numerusform>
@@ -4122,7 +4122,7 @@ Läuft mit Qt %1.</translation>
     </message>
     <message numerus="yes">
         <source>Remove %n Elements</source>
-        <extracomment>host/core/canvas/EditSession.cpp</extracomment>
+        <extracomment>host/core/project/ElementEdits.cpp</extracomment>
         <translation>
             <numerusform>%n Element entfernen</numerusform>
             <numerusform>%n Elemente entfernen</numerusform>
@@ -4151,6 +4151,31 @@ Läuft mit Qt %1.</translation>
             <numerusform>%n Objekt</numerusform>
             <numerusform>%n Objekte</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Shrink the picture to fit</source>
+        <extracomment>app/DevicePanel.cpp</extracomment>
+        <translation>Bild passend verkleinern</translation>
+    </message>
+    <message>
+        <source>Saving the project…</source>
+        <extracomment>app/FileActions.cpp</extracomment>
+        <translation>Das Projekt wird gespeichert…</translation>
+    </message>
+    <message>
+        <source>Importing the images…</source>
+        <extracomment>app/ImageActions.cpp</extracomment>
+        <translation>Die Bilder werden importiert…</translation>
+    </message>
+    <message>
+        <source>Preparing the preview…</source>
+        <extracomment>app/OutputActions.cpp</extracomment>
+        <translation>Die Vorschau wird vorbereitet…</translation>
+    </message>
+    <message>
+        <source>Checking the project…</source>
+        <extracomment>app/ProjectPanels.cpp</extracomment>
+        <translation>Das Projekt wird geprüft…</translation>
     </message>
 </context>
 <context>
