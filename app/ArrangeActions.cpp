@@ -131,7 +131,7 @@ void ArrangeActions::addTo(QMenu* menu, const QList<QAction*>& order)
 
 QList<QAction*> ArrangeActions::contextActions() const
 {
-    return {m_group, m_ungroup, m_lock, m_hide};
+    return {m_group, m_ungroup, nullptr, m_lock, m_hide};
 }
 
 void ArrangeActions::setSession(EditSession* session)

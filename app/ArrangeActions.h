@@ -25,7 +25,7 @@ public:
 
     /// \a order: the actions that change the order, which belong between the groups and the rest.
     void addTo(QMenu* menu, const QList<QAction*>& order);
-    /// What the project tree and the canvas offer in their context menus.
+    /// What the project tree and the canvas offer in their context menus; null pointers separate.
     [[nodiscard]] QList<QAction*> contextActions() const;
     /// Align left, centre, right, top, middle, bottom.
     [[nodiscard]] const QList<QAction*>& alignActions() const { return m_align; }

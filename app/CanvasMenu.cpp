@@ -33,11 +33,12 @@ QMenu* CanvasMenu::make(const QPoint& viewPos)
     auto* menu = new QMenu(m_view);
     menu->setObjectName(QStringLiteral("CanvasMenu"));
     addElements(menu->addMenu(coreText("Selec&t Under the Pointer")), viewPos);
+    menu->addSeparator();
     for (QAction* action : std::as_const(m_actions)) {
-        if (action)
-            menu->addAction(action);
-        else
+        if (!action)
             menu->addSeparator();
+        else if (action->isEnabled())
+            menu->addAction(action);
     }
     return menu;
 }

@@ -10,8 +10,8 @@ namespace Korvex::Meridane::Designer {
 
 class CanvasView;
 
-/// The context menu of the canvas: the window's actions for the selection, and a list of all elements under the mouse from front
-/// to back, each outlined on the canvas while the menu points at it.
+/// The context menu of the canvas: a list of all elements under the mouse from front to back, each outlined on the canvas while
+/// the menu points at it, and those of the window's actions that can act on the selection.
 class CanvasMenu : public QObject
 {
     Q_OBJECT

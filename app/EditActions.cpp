@@ -110,14 +110,11 @@ void EditActions::addTo(QMenu* menu)
     menu->addSeparator();
     menu->addAction(m_selectAll);
     menu->addAction(m_rename);
-    menu->addSeparator();
-    menu->addAction(m_addScreen);
 }
 
-QList<QAction*> EditActions::treeActions() const
+QList<QAction*> EditActions::contextActions() const
 {
-    QList<QAction*> actions{m_addScreen, m_rename, m_duplicate, m_delete};
-    return actions + m_order;
+    return QList<QAction*>{m_cut, m_copy, m_paste, m_duplicate, m_delete, nullptr, m_rename, nullptr} + m_order;
 }
 
 void EditActions::setSession(EditSession* session)
@@ -129,10 +126,10 @@ void EditActions::setSession(EditSession* session)
     }
     m_session = session;
     m_duplicates = {};
-        connect(stack, &QUndoStack::indexChanged, this, &EditActions::updateSelection); // the order may be another
     if (session) {
         UndoStack* stack = session->undoStack();
         connect(stack, &QUndoStack::indexChanged, this, &EditActions::updateHistory);
+        connect(stack, &QUndoStack::indexChanged, this, &EditActions::updateSelection); // the order may be another
         connect(stack, &QUndoStack::undoTextChanged, this, &EditActions::updateHistory);
         connect(stack, &UndoStack::blockedChanged, this, &EditActions::updateHistory);
         connect(stack, &UndoStack::blockedChanged, this, &EditActions::updateSelection);

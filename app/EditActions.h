@@ -26,8 +26,8 @@ public:
     explicit EditActions(MessageBar* messages, QObject* parent = nullptr);
 
     void addTo(QMenu* menu);
-    /// What the project tree offers in its context menu.
-    [[nodiscard]] QList<QAction*> treeActions() const;
+    /// What context menus offer for the selected objects; null pointers separate.
+    [[nodiscard]] QList<QAction*> contextActions() const;
     /// The session that the actions work on; null: none.
     void setSession(EditSession* session);
 

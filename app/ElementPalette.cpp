@@ -19,6 +19,7 @@ namespace {
 
 constexpr QSize PictureSize(44, 34);
 constexpr int SmallestTileWidth = 84;
+constexpr int NameMargin = 14; // of a tile's width that its name leaves free
 constexpr int ClassRole = Qt::UserRole;
 
 } // namespace
@@ -158,13 +159,31 @@ void ElementPalette::arm(const QString& className)
     Q_EMIT armed(className);
 }
 
+/// As many columns as fit into \a width share all of it, so that no ragged margin is left at the right. Names have a second line
+/// only where one of them needs it.
+QSize ElementPalette::tileSize(int width) const
+{
+    const int columns = qMax(1, width / SmallestTileWidth);
+    const int tileWidth = qMax(1, (width - 1) / columns);
+    int lines = 1;
+    for (int row = 0; row < count(); ++row) {
+        if (fontMetrics().horizontalAdvance(item(row)->text()) > tileWidth - NameMargin)
+            lines = 2;
+    }
+    return {tileWidth, PictureSize.height() + lines * fontMetrics().lineSpacing() + 16};
+}
+
 void ElementPalette::arrangeTiles()
 {
-    // As many columns as fit, sharing the whole width, so that no ragged margin is left at the right.
-    const int width = viewport()->width();
-    const int columns = qMax(1, width / SmallestTileWidth);
-    const int textHeight = 2 * fontMetrics().lineSpacing();
-    const QSize tile((width - 1) / columns, PictureSize.height() + textHeight + 16);
+    // The room without a scroll bar decides whether there is one: with it fewer tiles may fit into a row, and it would stay.
+    const QSize room = contentsRect().marginsRemoved(viewportMargins()).size();
+    QSize tile = tileSize(room.width());
+    const int columns = qMax(1, room.width() / tile.width());
+    const int rows = (count() + columns - 1) / columns;
+    const bool scrolls = rows * tile.height() > room.height();
+    if (scrolls)
+        tile = tileSize(room.width() - verticalScrollBar()->sizeHint().width());
+    setVerticalScrollBarPolicy(scrolls ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
     if (gridSize() != tile)
         setGridSize(tile);
     for (int row = 0; row < count(); ++row)

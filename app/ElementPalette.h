@@ -44,6 +44,7 @@ protected:
 private:
     void fill();
     void arm(const QString& className);
+    [[nodiscard]] QSize tileSize(int width) const;
     void arrangeTiles();
 
     QString m_armedClass;

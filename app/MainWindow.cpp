@@ -164,7 +164,9 @@ bool MainWindow::openProject(const QString& path)
 
 QSize MainWindow::sizeHint() const
 {
-    return QSize(1280, 800).boundedTo(screen()->availableSize());
+    // The frame that the desktop puts around a window is not known before it is shown.
+    constexpr QSize Frame(8, 40);
+    return QSize(1280, 800).boundedTo(screen()->availableSize() - Frame);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
@@ -226,8 +228,9 @@ void MainWindow::attach(EditSession* session)
     ImagePanel* images = m_workspace->images();
     m_imagesDock->setWidget(images);
     m_historyDock->setWidget(m_workspace->history());
-    m_workspace->tree()->addActions(m_edit->treeActions());
-    m_workspace->tree()->addActions(m_arrange->contextActions());
+    const QList<QAction*> context =
+        m_edit->contextActions() + QList<QAction*>{nullptr} + m_arrange->contextActions() + QList<QAction*>{nullptr};
+    m_workspace->tree()->offer(context + QList<QAction*>{m_edit->addScreenAction()});
     m_edit->setSession(session);
     m_arrange->setSession(session);
     m_projectPanels->setWorkspace(m_workspace.get());
@@ -239,8 +242,7 @@ void MainWindow::attach(EditSession* session)
     m_images->setWorkspace(m_workspace.get());
     m_view->setCanvas(canvas);
     m_canvas->setCanvas(canvas);
-    new CanvasMenu(canvas, QList<QAction*>{nullptr, m_edit->copyAction(), m_edit->pasteAction(), nullptr}
-                               + m_edit->treeActions() + QList<QAction*>{nullptr} + m_arrange->contextActions());
+    new CanvasMenu(canvas, context + QList<QAction*>{m_edit->selectAllAction(), m_edit->addScreenAction()});
     m_navigation->setWorkspace(m_workspace.get());
     connect(images, &ImagePanel::importRequested, m_images, &ImageActions::importFiles);
     connect(images, &ImagePanel::replaceRequested, m_images, &ImageActions::replaceFile);

@@ -35,26 +35,28 @@ void MainWindow::makeMenus()
     m_file->addTo(file);
     file->addSeparator();
     m_images->addTo(file);
+    file->addSeparator();
     m_output->addTo(file);
     file->addSeparator();
     m_file->addEndTo(file);
     QMenu* edit = addMenu(coreText("&Edit"));
     m_edit->addTo(edit);
     edit->addSeparator();
+    edit->addAction(m_edit->addScreenAction());
     m_projectPanels->addTo(edit);
-    edit->addSeparator();
     m_sheetActions->addTo(edit);
     m_arrange->addTo(addMenu(coreText("&Arrange")), m_edit->orderActions());
 
     QMenu* view = addMenu(coreText("&View"));
     m_view->addTo(view);
-    view->addSeparator();
     m_canvas->addTo(view);
     view->addSeparator();
     m_results->addTo(view);
     m_panels->addTo(view->addMenu(coreText("&Panels")));
     view->addSeparator();
     m_navigation->addTo(view);
+    view->addSeparator();
+    m_view->addEndTo(view);
 
     m_help->addTo(addMenu(coreText("&Help")));
     const QList<QAction*> menus = menuBar()->actions();

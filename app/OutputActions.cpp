@@ -55,6 +55,7 @@ void OutputActions::addTo(QMenu* menu)
 {
     menu->addAction(m_export);
     m_picture->addTo(menu);
+    menu->addSeparator();
     menu->addAction(m_preview);
     menu->addAction(m_check);
 }

@@ -62,7 +62,8 @@ PictureExport::PictureExport(UserPrompts* prompts, MessageBar* messages, QObject
     , m_messages(messages)
     , m_screen(new WindowAction(QStringLiteral("export-picture"), coreText("Export Screen as &Picture…"),
                                 {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E)}, this))
-    , m_selection(new WindowAction({}, coreText("Export Se&lection as Picture…"), QList<QKeySequence>(), this))
+    , m_selection(new WindowAction(QStringLiteral("export-picture"), coreText("Export Se&lection as Picture…"),
+                                   QList<QKeySequence>(), this))
 {
     m_screen->setObjectName(QStringLiteral("project.exportPicture"));
     m_selection->setObjectName(QStringLiteral("project.exportSelectionPicture"));

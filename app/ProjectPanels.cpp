@@ -96,10 +96,10 @@ void ProjectPanels::arrange(QDockWidget* tree, QDockWidget* images)
 
 void ProjectPanels::addTo(QMenu* menu)
 {
+    m_screenActions->addTo(menu->addMenu(coreText("Sc&reen")));
+    menu->addSeparator();
     menu->addAction(m_findAction);
     menu->addAction(m_referencesAction);
-    menu->addSeparator();
-    m_screenActions->addTo(menu->addMenu(coreText("Sc&reen")));
 }
 
 void ProjectPanels::setWorkspace(Workspace* workspace)

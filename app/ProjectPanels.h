@@ -43,7 +43,7 @@ public:
 
     /// Puts the panels of screens and fonts behind those of the project tree and the images.
     void arrange(QDockWidget* tree, QDockWidget* images);
-    /// Adds the actions that find, and the menu of the screen.
+    /// Adds the menu of the screen and the actions that find.
     void addTo(QMenu* menu);
     /// What the panels show; null: nothing.
     void setWorkspace(Workspace* workspace);

@@ -147,12 +147,28 @@ void ProjectTree::selectionChanged(const QItemSelection& selected, const QItemSe
         selectInSession();
 }
 
+void ProjectTree::offer(const QList<QAction*>& actions)
+{
+    for (QAction* action : actions) {
+        QAction* entry = action;
+        if (!entry) {
+            entry = new QAction(this);
+            entry->setSeparator(true);
+        }
+        addAction(entry);
+    }
+}
+
 void ProjectTree::contextMenuEvent(QContextMenuEvent* event)
 {
     if (actions().isEmpty())
         return;
     QMenu menu(this);
-    menu.addActions(actions());
+    const QList<QAction*> offered = actions();
+    for (QAction* action : offered) {
+        if (action->isSeparator() || action->isEnabled())
+            menu.addAction(action);
+    }
     menu.exec(event->globalPos());
 }
 

@@ -27,6 +27,8 @@ public:
     [[nodiscard]] ProjectTreeModel* treeModel() const { return m_model; }
     /// The objects of the selected rows.
     [[nodiscard]] QList<DesignerObject*> selectedObjects() const;
+    /// Appends \a actions to the context menu, which shows those that can act; null pointers separate.
+    void offer(const QList<QAction*>& actions);
 
 public Q_SLOTS:
     /// Opens the editor for the name of the current row.

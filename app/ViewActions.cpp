@@ -52,8 +52,6 @@ void ViewActions::addTo(QMenu* menu)
     menu->addAction(m_zoomOut);
     menu->addAction(m_actual);
     menu->addAction(m_fit);
-    menu->addSeparator();
-    addAppearanceTo(menu->addMenu(coreText("App&earance")));
 }
 
 void ViewActions::setCanvas(CanvasView* canvas)
@@ -117,8 +115,9 @@ void ViewActions::showWhole()
         m_canvas->setZoom(1);
 }
 
-void ViewActions::addAppearanceTo(QMenu* menu)
+void ViewActions::addEndTo(QMenu* menu)
 {
+    QMenu* appearance = menu->addMenu(coreText("App&earance"));
     struct Choice
     {
         Appearance::Scheme scheme;
@@ -137,7 +136,7 @@ void ViewActions::addAppearanceTo(QMenu* menu)
         action->setCheckable(true);
         action->setChecked(Appearance::stored() == choice.scheme);
         connect(action, &QAction::triggered, this, [scheme = choice.scheme] { Appearance::choose(scheme); });
-        menu->addAction(action);
+        appearance->addAction(action);
     }
 }
 

@@ -19,6 +19,8 @@ public:
     explicit ViewActions(QObject* parent = nullptr);
 
     void addTo(QMenu* menu);
+    /// What ends the menu: the colours of the window.
+    void addEndTo(QMenu* menu);
     /// The canvas that the actions work on; null: none.
     void setCanvas(CanvasView* canvas);
 
@@ -37,7 +39,6 @@ public Q_SLOTS:
 
 private:
     void update();
-    void addAppearanceTo(QMenu* menu);
 
     QPointer<CanvasView> m_canvas;
     QAction* m_zoomIn;

@@ -201,6 +201,33 @@ private Q_SLOTS:
         QVERIFY(!elsewhere->actions().constFirst()->isEnabled());
     }
 
+    void theContextMenuOffersOnlyWhatCanAct()
+    {
+        DesignerObject* element = add(QRectF(100, 100, 200, 150));
+        auto* menus = canvas()->findChild<CanvasMenu*>();
+        QVERIFY(menus);
+        const auto names = [menus] {
+            QStringList names;
+            const std::unique_ptr<QMenu> menu(menus->make(QPoint(3, 3)));
+            const QList<QAction*> entries = menu->actions();
+            for (const QAction* entry : entries)
+                names.append(entry->objectName());
+            return names;
+        };
+        session()->setSelection({element});
+        QStringList offered = names();
+        for (const char* name :
+             {"edit.cut", "edit.copy", "edit.duplicate", "edit.delete", "edit.rename", "arrange.lock"})
+            QVERIFY2(offered.contains(QLatin1String(name)), name);
+        QVERIFY(!offered.contains(QStringLiteral("arrange.ungroup")));
+        session()->setSelection({});
+        offered = names();
+        for (const char* name : {"edit.cut", "edit.delete", "edit.duplicate", "arrange.group", "arrange.lock"})
+            QVERIFY2(!offered.contains(QLatin1String(name)), name);
+        QVERIFY(offered.contains(QStringLiteral("edit.selectAll")));
+        QVERIFY(offered.contains(QStringLiteral("screen.add")));
+    }
+
     void theRightButtonShowsTheMenu()
     {
         DesignerObject* element = add(QRectF(100, 100, 200, 150));

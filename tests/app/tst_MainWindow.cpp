@@ -1,6 +1,7 @@
 #include "app/AppSettings.h"
 #include "app/CanvasPanel.h"
 #include "app/EditActions.h"
+#include "app/ElementPalette.h"
 #include "app/FileActions.h"
 #include "app/HelpActions.h"
 #include "app/MainWindow.h"
@@ -26,6 +27,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QStandardPaths>
 #include <QTabBar>
 #include <QTemporaryDir>
@@ -65,6 +67,36 @@ private Q_SLOTS:
         QVERIFY(!m_window->isWindowModified());
         QVERIFY(session()->currentScreen());
         QCOMPARE(session()->project()->displaySize(), QSizeF(800, 480));
+    }
+
+    void theWindowLeavesRoomForTheFrameOfTheDesktop()
+    {
+        const QSize room = m_window->screen()->availableSize();
+        QVERIFY(m_window->sizeHint().width() < room.width());
+        QVERIFY(m_window->sizeHint().height() <= room.height() - 40);
+    }
+
+    void thePaletteScrollsOnlyWhereItsTilesDoNotFit()
+    {
+        const auto hidden = [](const ElementPalette& palette) {
+            int count = 0;
+            for (int row = 0; row < palette.count(); ++row)
+                count += palette.viewport()->rect().contains(palette.visualItemRect(palette.item(row))) ? 0 : 1;
+            return count;
+        };
+        ElementPalette palette;
+        palette.resize(270, 360);
+        palette.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&palette));
+        QVERIFY(palette.count() > 9);
+        QVERIFY(!palette.verticalScrollBar()->isVisible());
+        QCOMPARE(hidden(palette), 0);
+        palette.resize(270, 200);
+        QTRY_VERIFY(palette.verticalScrollBar()->isVisible());
+        QVERIFY(hidden(palette) > 0);
+        palette.resize(270, 360);
+        QTRY_VERIFY(!palette.verticalScrollBar()->isVisible());
+        QTRY_COMPARE(hidden(palette), 0);
     }
 
     void theTitleShowsNameAndModification()
