@@ -2,6 +2,7 @@
 
 #include "app/AppSettings.h"
 #include "app/CoreText.h"
+#include "app/LongWork.h"
 #include "app/MessageBar.h"
 #include "app/PendingEdit.h"
 #include "app/ProjectDocument.h"
@@ -162,13 +163,8 @@ bool FileActions::save()
     if (m_document->isUntitled())
         return saveAs();
     PendingEdit::finish();
-    QString message;
-    bool done = false;
-    {
-        const BusyCursor busy;
-        done = m_document->save(&message);
-    }
-    return reportSave(done, message);
+    return store(
+        [this](QString* message, const WorkProgress& progress) { return m_document->save(message, progress); });
 }
 
 bool FileActions::saveAs()
@@ -184,11 +180,23 @@ bool FileActions::saveAs()
     const QString folder = m_prompts->chooseSaveFolder(QDir(start).filePath(name));
     if (folder.isEmpty())
         return false;
+    return store([this, &folder](QString* message, const WorkProgress& progress) {
+        return m_document->saveAs(folder, message, progress);
+    });
+}
+
+/// Saves by \a save and says how that went; nothing when the user has ended it.
+template <typename Save>
+bool FileActions::store(const Save& save)
+{
     QString message;
     bool done = false;
     {
         const BusyCursor busy;
-        done = m_document->saveAs(folder, &message);
+        LongWork work(coreText("Saving the project…"));
+        done = save(&message, [&work](int step, int total) { return work.step(step, total); });
+        if (work.isEnded())
+            return false;
     }
     return reportSave(done, message);
 }

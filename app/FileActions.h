@@ -56,6 +56,8 @@ Q_SIGNALS:
     void projectStored();
 
 private:
+    template <typename Save>
+    bool store(const Save& save);
     void createProject();
     void chooseAndOpen();
     void closeProject();

@@ -5,6 +5,7 @@
 #include "app/ImageData.h"
 #include "app/ImageList.h"
 #include "app/ImagePanel.h"
+#include "app/LongWork.h"
 #include "app/MessageBar.h"
 #include "app/UserPrompts.h"
 #include "app/WindowAction.h"
@@ -55,7 +56,12 @@ void ImageActions::importFiles()
         return;
     AppSettings().setValue(FolderKey, QFileInfo(files.constFirst()).absolutePath());
     QStringList refused;
-    const QStringList images = ImageData::takeFiles(m_workspace->session(), files, &refused);
+    QStringList images;
+    {
+        LongWork work(coreText("Importing the images…"));
+        images = ImageData::takeFiles(m_workspace->session(), files, &refused,
+                                      [&work](int done, int total) { return work.step(done, total); });
+    }
     showImported(images, refused);
 }
 

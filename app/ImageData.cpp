@@ -62,10 +62,14 @@ QStringList ImageData::take(EditSession* session, const QMimeData* data, QString
     return image.isEmpty() ? QStringList() : QStringList{image};
 }
 
-QStringList ImageData::takeFiles(EditSession* session, const QStringList& files, QStringList* refused)
+QStringList ImageData::takeFiles(EditSession* session, const QStringList& files, QStringList* refused,
+                                 const WorkProgress& progress)
 {
     QStringList images;
+    int done = 0;
     for (const QString& file : files) {
+        if (progress && !progress(done++, int(files.size())))
+            break;
         QString message;
         const QString image = takeFile(session, file, &message);
         if (image.isEmpty())

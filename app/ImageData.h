@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/core/output/WorkProgress.h"
+
 #include <QStringList>
 
 class QMimeData;
@@ -19,8 +21,10 @@ public:
     /// Brings the images of \a data into the project. The names of the resources; \a refused receives a message for each
     /// that could not be taken.
     static QStringList take(EditSession* session, const QMimeData* data, QStringList* refused);
-    /// The same for \a files, absolute paths. One that the project holds already is not taken a second time.
-    static QStringList takeFiles(EditSession* session, const QStringList& files, QStringList* refused);
+    /// The same for \a files, absolute paths. One that the project holds already is not taken a second time. \a progress
+    /// hears of each and may end it; what has been taken by then stays.
+    static QStringList takeFiles(EditSession* session, const QStringList& files, QStringList* refused,
+                                 const WorkProgress& progress = {});
 
 private:
     static QString takeFile(EditSession* session, const QString& file, QString* message);

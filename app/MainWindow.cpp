@@ -107,6 +107,9 @@ MainWindow::MainWindow(UserPrompts* prompts, QWidget* parent)
     connect(m_file, &FileActions::problemsFound, this, &MainWindow::showProblems);
     connect(m_file->quitAction(), &QAction::triggered, this, &QWidget::close);
     connect(m_output, &OutputActions::problemsFound, this, &MainWindow::showProblems);
+    connect(m_output, &OutputActions::checkRequested, m_projectPanels, &ProjectPanels::check);
+    connect(m_projectPanels, &ProjectPanels::checked, this,
+            [this](const QList<Problem>& problems) { showProblems(problems); });
     connect(m_edit, &EditActions::renameRequested, this, [this] {
         WindowPanels::reveal(m_treeDock);
         m_workspace->tree()->renameCurrent();

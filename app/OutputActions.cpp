@@ -14,7 +14,6 @@
 #include "host/core/canvas/EditSession.h"
 #include "host/core/objects/Screen.h"
 #include "host/core/project/Project.h"
-#include "host/core/project/ProjectChecker.h"
 #include "host/core/qml/QmlExporter.h"
 
 #include <QDir>
@@ -46,7 +45,7 @@ OutputActions::OutputActions(ProjectDocument* document, UserPrompts* prompts, Me
     m_check->setObjectName(QStringLiteral("project.check"));
     connect(m_export, &QAction::triggered, this, &OutputActions::exportQml);
     connect(m_preview, &QAction::triggered, this, &OutputActions::preview);
-    connect(m_check, &QAction::triggered, this, &OutputActions::check);
+    connect(m_check, &QAction::triggered, this, &OutputActions::checkRequested);
     connect(m_runner, &PreviewRunner::failed, this,
             [this](const QString& message) { m_messages->showMessage(message, MessageBar::Kind::Error); });
 }
@@ -94,18 +93,13 @@ void OutputActions::preview()
     PendingEdit::finish();
     QList<Problem> problems;
     const Screen* screen = m_document->session()->currentScreen();
-    m_runner->start(m_document->project(), screen ? screen->getIdName() : QString(), &problems);
+    {
+        LongWork work(coreText("Preparing the preview…"));
+        m_runner->start(m_document->project(), screen ? screen->getIdName() : QString(), &problems,
+                        [&work](int done, int total) { return work.step(done, total); });
+    }
     if (!problems.isEmpty())
         Q_EMIT problemsFound(problems, coreText("There is no preview of the project."));
-}
-
-void OutputActions::check()
-{
-    PendingEdit::finish();
-    const QList<Problem> problems = ProjectChecker::check(m_document->project());
-    if (problems.isEmpty())
-        m_messages->showMessage(coreText("The project has no problems."), MessageBar::Kind::Information);
-    Q_EMIT problemsFound(problems, QString());
 }
 
 } // namespace Korvex::Meridane::Designer

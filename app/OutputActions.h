@@ -35,14 +35,16 @@ public:
     [[nodiscard]] QAction* checkAction() const { return m_check; }
 
 Q_SIGNALS:
-    /// What an export, a preview or a check has found; empty when all is well. \a consequence: what could not be done
+    /// What an export or a preview has found; empty when all is well. \a consequence: what could not be done
     /// because of it, a sentence, or empty.
     void problemsFound(const QList<Problem>& problems, const QString& consequence);
+
+    /// All of the project is to be checked; others do that.
+    void checkRequested();
 
 private:
     void exportQml();
     void preview();
-    void check();
 
     ProjectDocument* m_document;
     UserPrompts* m_prompts;

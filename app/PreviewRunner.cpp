@@ -28,7 +28,8 @@ PreviewRunner::~PreviewRunner()
     stop();
 }
 
-bool PreviewRunner::start(Project* project, const QString& screenId, QList<Problem>* problems)
+bool PreviewRunner::start(Project* project, const QString& screenId, QList<Problem>* problems,
+                          const WorkProgress& progress)
 {
     stop();
     m_folder = std::make_unique<QTemporaryDir>();
@@ -36,8 +37,14 @@ bool PreviewRunner::start(Project* project, const QString& screenId, QList<Probl
         Q_EMIT failed(coreText("No temporary folder can be made for the preview: %1").arg(m_folder->errorString()));
         return false;
     }
-    *problems = QmlExporter::exportProject(project, m_folder->path());
-    if (!problems->isEmpty())
+    bool goesOn = true;
+    *problems = QmlExporter::exportProject(project, m_folder->path(), [&](int done, int total) {
+        goesOn = goesOn && (!progress || progress(done, total));
+        return goesOn;
+    });
+    if (!goesOn)
+        problems->clear();
+    if (!goesOn || !problems->isEmpty())
         return false;
 
     m_process = std::make_unique<QProcess>();

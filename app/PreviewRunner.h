@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/output/WorkProgress.h"
 #include "host/core/project/Problem.h"
 
 #include <QObject>
@@ -29,8 +30,9 @@ public:
     ~PreviewRunner() override;
 
     /// Exports \a project and starts with the screen \a screenId (empty: the first). False when the export met problems
-    /// (the list) or there is no temporary folder (failed() tells).
-    bool start(Project* project, const QString& screenId, QList<Problem>* problems);
+    /// (the list), when \a progress has ended it, or there is no temporary folder (failed() tells).
+    bool start(Project* project, const QString& screenId, QList<Problem>* problems,
+               const WorkProgress& progress = {});
     [[nodiscard]] bool isRunning() const;
 
     /// The path of the viewer that lies beside this program.

@@ -67,15 +67,15 @@ bool ProjectDocument::openCopy(const QString& path, QList<Problem>* problems)
     return true;
 }
 
-bool ProjectDocument::save(QString* message)
+bool ProjectDocument::save(QString* message, const WorkProgress& progress)
 {
-    if (!ProjectStore::save(project(), project()->folder(), message))
+    if (!ProjectStore::save(project(), project()->folder(), message, progress))
         return false;
     Q_EMIT titleChanged();
     return true;
 }
 
-bool ProjectDocument::saveAs(const QString& folder, QString* message)
+bool ProjectDocument::saveAs(const QString& folder, QString* message, const WorkProgress& progress)
 {
     const QString path = QDir::cleanPath(QDir(folder).absolutePath());
     const QFileInfo info(path);
@@ -91,7 +91,7 @@ bool ProjectDocument::saveAs(const QString& folder, QString* message)
     }
     const QString nameBefore = project()->name();
     nameAfter(path);
-    if (!ProjectStore::save(project(), path, message)) {
+    if (!ProjectStore::save(project(), path, message, progress)) {
         project()->changePropertyValue(project()->getProperty(QStringLiteral("name")), nameBefore);
         return false;
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/output/WorkProgress.h"
 #include "host/core/project/Problem.h"
 
 #include <QObject>
@@ -47,10 +48,11 @@ public:
     bool open(const QString& path, QList<Problem>* problems);
     /// Replaces the open project by a copy of the one in \a path, which belongs to no folder until it is saved.
     bool openCopy(const QString& path, QList<Problem>* problems);
-    /// Saves into the project's own folder. False with a message when that cannot be done; nothing is lost then.
-    bool save(QString* message);
+    /// Saves into the project's own folder. False with a message when that cannot be done, without one
+    /// when \a progress, which hears of each screen, has ended it; nothing is lost then.
+    bool save(QString* message, const WorkProgress& progress = {});
     /// Saves into \a folder, which becomes the project's own. A folder that holds anything else already is refused.
-    bool saveAs(const QString& folder, QString* message);
+    bool saveAs(const QString& folder, QString* message, const WorkProgress& progress = {});
 
 Q_SIGNALS:
     /// The session is about to be deleted; whoever shows it lets go of it now.

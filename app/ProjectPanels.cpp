@@ -6,7 +6,9 @@
 #include "app/FontPanel.h"
 #include "app/ImageList.h"
 #include "app/ImagePanel.h"
+#include "app/LongWork.h"
 #include "app/MessageBar.h"
+#include "app/PendingEdit.h"
 #include "app/ProblemIndicator.h"
 #include "app/ProblemsPanel.h"
 #include "app/ProjectTree.h"
@@ -162,6 +164,20 @@ void ProjectPanels::showPlace(const QString& object, const QString& property)
         QMetaObject::invokeMethod(
             m_workspace, [this, property] { focusEditor(property); }, Qt::QueuedConnection);
     }
+}
+
+void ProjectPanels::check()
+{
+    if (!m_monitor)
+        return;
+    PendingEdit::finish();
+    LongWork work(coreText("Checking the project…"));
+    if (!m_monitor->checkAll([&work](int done, int total) { return work.step(done, total); }))
+        return;
+    const QList<Problem> problems = m_monitor->problems();
+    if (problems.isEmpty())
+        m_messages->showMessage(coreText("The project has no problems."), MessageBar::Kind::Information);
+    Q_EMIT checked(problems);
 }
 
 void ProjectPanels::focusEditor(const QString& property)

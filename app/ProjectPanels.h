@@ -59,6 +59,12 @@ public:
     /// Selects the object that \a object names (empty: the project), brings it into view, and puts the focus on the
     /// editor of \a property where the property sheet shows one.
     void showPlace(const QString& object, const QString& property);
+    /// Checks all of the project, unless the user ends that.
+    void check();
+
+Q_SIGNALS:
+    /// What check() has found.
+    void checked(const QList<Problem>& problems);
 
 private:
     void makePanels(Workspace* workspace);

@@ -227,7 +227,8 @@ private Q_SLOTS:
     void anInvalidValueIsResetToItsDefault()
     {
         element("a")->getProperty(QStringLiteral("size"))->fill(QStringLiteral("wide"));
-        const QList<Problem> problems = m_monitor->checkAll();
+        QVERIFY(m_monitor->checkAll());
+        const QList<Problem> problems = m_monitor->problems();
         QCOMPARE(problems.size(), 1);
         QCOMPARE(ProblemFix::text(project(), problems.constFirst()), QStringLiteral("Reset to the default"));
         QVERIFY(ProblemFix::apply(m_session.get(), problems.constFirst()).changed);

@@ -15,6 +15,7 @@ namespace {
 constexpr int Delay = 300; // ms after a change
 constexpr int Slice = 8; // ms
 constexpr int BetweenSlices = 4; // ms, for everything else that goes on
+constexpr int ProgressSlice = 20; // ms, for somebody who waits
 
 /// The screen that \a object stands on or is; null for the project and for what stands nowhere.
 const Screen* screenAbove(const DesignerObject* object)
@@ -109,10 +110,15 @@ const QList<Problem>& ProblemMonitor::finish()
     return m_problems;
 }
 
-const QList<Problem>& ProblemMonitor::checkAll()
+bool ProblemMonitor::checkAll(const WorkProgress& progress)
 {
     everythingChanged();
-    return finish();
+    while (progress && !workFor(ProgressSlice)) {
+        if (!progress(int(m_screenProblems.size()), int(m_project->screens().size())))
+            return false;
+    }
+    finish();
+    return true;
 }
 
 void ProblemMonitor::objectChanged(DesignerObject* object)

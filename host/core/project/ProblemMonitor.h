@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/output/WorkProgress.h"
 #include "host/core/project/Problem.h"
 
 #include <QHash>
@@ -39,8 +40,9 @@ public:
     [[nodiscard]] int checkedScreens() const { return m_checkedScreens; }
     /// Checks what has changed at once.
     const QList<Problem>& finish();
-    /// Checks all of it at once: what other programs do to the files is seen as well.
-    const QList<Problem>& checkAll();
+    /// Checks all of it: what other programs do to the files is seen as well. \a progress hears of it every few
+    /// milliseconds, in screens; false when it ended the check, which then goes on unnoticed.
+    bool checkAll(const WorkProgress& progress = {});
 
 Q_SIGNALS:
     /// A check is complete and has found other problems than the one before.

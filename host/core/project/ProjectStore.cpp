@@ -101,12 +101,12 @@ QList<Problem> ProjectStore::readAllScreens(Project* project)
     return problems;
 }
 
-bool ProjectStore::save(Project* project, const QString& folder, QString* message)
+bool ProjectStore::save(Project* project, const QString& folder, QString* message, const WorkProgress& progress)
 {
     QString unasked;
     QString& reason = message ? *message : unasked;
     reason.clear();
-    return ProjectWriter(project, folder).save(&reason);
+    return ProjectWriter(project, folder).save(&reason, progress);
 }
 
 } // namespace Korvex::Meridane::Designer

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/output/WorkProgress.h"
 #include "host/core/project/Problem.h"
 
 #include <QSizeF>
@@ -48,8 +49,10 @@ public:
      *
      * Only files whose meaning changed are written. Refused is a save that would overwrite what another program has
      * changed since the project was opened, or, in another folder, files that are there already.
+     *
+     * \a progress hears of each screen before anything is written, and may end the save, which then has no message.
      */
-    static bool save(Project* project, const QString& folder, QString* message);
+    static bool save(Project* project, const QString& folder, QString* message, const WorkProgress& progress = {});
 };
 
 } // namespace Korvex::Meridane::Designer

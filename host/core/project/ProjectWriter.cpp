@@ -78,12 +78,12 @@ QJsonObject ProjectWriter::projectObject(const Project* project, const QSet<QStr
     return object;
 }
 
-bool ProjectWriter::save(QString* message)
+bool ProjectWriter::save(QString* message, const WorkProgress& progress)
 {
     // The old content is compared with below, so what an interrupted save left must be put in order before.
     if (QFileInfo(m_target.path()).isDir() && !SaveTransaction::recover(m_target, message))
         return false;
-    if ((m_own && !rescueRemovedScreens(message)) || !planScreens(message))
+    if ((m_own && !rescueRemovedScreens(message)) || !planScreens(message, progress))
         return false;
     findDiscardedImages();
     if (m_own)
@@ -113,7 +113,7 @@ bool ProjectWriter::rescueRemovedScreens(QString* message)
     return true;
 }
 
-bool ProjectWriter::planScreens(QString* message)
+bool ProjectWriter::planScreens(QString* message, const WorkProgress& progress)
 {
     const auto screens = m_project->screens();
     for (Screen* screen : screens) {
@@ -124,7 +124,10 @@ bool ProjectWriter::planScreens(QString* message)
         if (!entry || entry->file != file)
             screen->readContent();
     }
+    int done = 0;
     for (Screen* screen : screens) {
+        if (progress && !progress(done++, int(screens.size())))
+            return false;
         const QString file = m_screenFiles.value(screen);
         const bool asItStands = !screen->isContentRead();
         if (asItStands && m_own)

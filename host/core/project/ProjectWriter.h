@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/core/output/WorkProgress.h"
 #include "host/core/project/ProjectFolder.h"
 #include "host/core/project/SaveTransaction.h"
 
@@ -22,15 +23,16 @@ class ProjectWriter
 public:
     ProjectWriter(Project* project, const QString& folder);
 
-    /// False with a message that names the file; nothing has been changed then.
-    [[nodiscard]] bool save(QString* message);
+    /// False with a message that names the file, without one when \a progress, which hears of each screen, has ended it;
+    /// nothing has been changed then.
+    [[nodiscard]] bool save(QString* message, const WorkProgress& progress = {});
 
     /// project.json of \a project without the images \a discarded.
     [[nodiscard]] static QJsonObject projectObject(const Project* project, const QSet<QString>& discarded = {});
 
 private:
     [[nodiscard]] bool rescueRemovedScreens(QString* message);
-    [[nodiscard]] bool planScreens(QString* message);
+    [[nodiscard]] bool planScreens(QString* message, const WorkProgress& progress);
     [[nodiscard]] bool planScreen(Screen* screen, const QString& file, QString* message);
     [[nodiscard]] bool planUnreadableScreen(Screen* screen, const QString& file, QString* message);
     [[nodiscard]] bool planCopy(const QString& file, QString* message);
