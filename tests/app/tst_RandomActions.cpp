@@ -201,7 +201,7 @@ private Q_SLOTS:
             QTest::addRow("seed %u", seed) << seed;
             return;
         }
-        rc::Random random(quint64(QDateTime::currentMSecsSinceEpoch()));
+        rc::Random random{quint64(QDateTime::currentMSecsSinceEpoch())};
         for (int i = 0; i < numberFrom("MERIDANE_RANDOM_RUNS", 2); ++i) {
             const auto seed = quint32(random.next());
             QTest::addRow("seed %u", seed) << seed;

@@ -17,7 +17,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <ranges>
 
 namespace Korvex::Meridane::Designer {
 
@@ -174,8 +173,8 @@ void ReparentObjects::execute()
 void ReparentObjects::undoStructure()
 {
     letGo(m_objects);
-    for (const Move& done : m_moves | std::views::reverse)
-        move(done.object, done.from, done.fromIndex, done.idsBefore);
+    std::for_each(m_moves.crbegin(), m_moves.crend(),
+                  [this](const Move& done) { move(done.object, done.from, done.fromIndex, done.idsBefore); });
 }
 
 void ReparentObjects::redoStructure()

@@ -21,7 +21,8 @@
 #include <QFontDatabase>
 #include <QGuiApplication>
 
-#include <ranges>
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace Korvex::Meridane::Designer {
@@ -168,8 +169,10 @@ void ProjectChecker::checkElement(const Waiting& waiting)
     }
     if (const ObjectListProperty* list = object->childList()) {
         const auto& children = list->items();
-        for (const DesignerObject* child : children | std::views::reverse)
-            m_waiting.append({child, !offScreen});
+        std::transform(children.crbegin(), children.crend(), std::back_inserter(m_waiting),
+                       [offScreen](const DesignerObject* child) {
+                           return Waiting{child, !offScreen};
+                       });
     }
 }
 

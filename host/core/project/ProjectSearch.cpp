@@ -14,7 +14,8 @@
 #include <QElapsedTimer>
 #include <QSet>
 
-#include <ranges>
+#include <algorithm>
+#include <iterator>
 
 namespace Korvex::Meridane::Designer {
 
@@ -165,8 +166,7 @@ bool ProjectSearch::proceed(int milliseconds)
         }
         if (const ObjectListProperty* list = object->childList()) {
             const auto& children = list->items();
-            for (const DesignerObject* child : children | std::views::reverse)
-                m_waiting.append(child);
+            std::copy(children.crbegin(), children.crend(), std::back_inserter(m_waiting));
         }
         if (milliseconds == 0 || (milliseconds > 0 && clock.hasExpired(milliseconds)))
             break;
