@@ -89,6 +89,7 @@ int WindowTour::visitAll(const Visitor& visit)
     };
     counting(m_window.get(), QStringLiteral("window"));
     visitElements(counting);
+    visitPages(counting);
     visitDialogs(counting);
     return m_stops;
 }
@@ -126,6 +127,20 @@ void WindowTour::visitColorPopup(const Visitor& visit)
         }
     }
     qFatal("no color can be chosen");
+}
+
+void WindowTour::visitPages(const Visitor& visit)
+{
+    for (const char* name : {"help.findCommand", "file.startPage"}) {
+        auto* action = m_window->findChild<QAction*>(QLatin1String(name));
+        if (!action)
+            qFatal("there is no action %s", name);
+        action->trigger();
+        QTest::qWait(20);
+        visit(m_window.get(), QLatin1String(name));
+        if (auto* palette = m_window->findChild<QWidget*>(QStringLiteral("CommandPalette")))
+            palette->close();
+    }
 }
 
 void WindowTour::visitDialogs(const Visitor& visit)

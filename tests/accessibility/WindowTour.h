@@ -35,6 +35,7 @@ public:
 private:
     void visitElements(const Visitor& visit);
     void visitColorPopup(const Visitor& visit);
+    void visitPages(const Visitor& visit);
     void visitDialogs(const Visitor& visit);
 
     QTemporaryDir m_folder;

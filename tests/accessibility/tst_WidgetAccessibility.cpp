@@ -15,6 +15,7 @@
 #include <QPlainTextEdit>
 #include <QScrollArea>
 #include <QStandardPaths>
+#include <QTabBar>
 #include <QTest>
 
 using namespace Korvex::Meridane::Designer;
@@ -26,6 +27,9 @@ bool isPart(const QWidget* widget)
 {
     const QString name = widget->objectName();
     const QWidget* parent = widget->parentWidget();
+    const auto* tabs = qobject_cast<const QTabBar*>(widget);
+    if (tabs && tabs->currentIndex() < 0)
+        return true; // of panels that are not there at present
     return widget->focusProxy() || name.startsWith(QLatin1String("qt_"))
            || qobject_cast<const QKeySequenceEdit*>(widget) || qobject_cast<const QAbstractSpinBox*>(parent)
            || qobject_cast<const QComboBox*>(parent)
