@@ -17,6 +17,7 @@ constexpr int KeywordWeight = 2;
 constexpr int PathWeight = 1;
 constexpr int RecencyStep = 6; // points for each place in the list of recent commands
 constexpr int DisabledHandicap = 20;
+constexpr int WholeName = 1000; // more than having been used last counts
 
 QStringList wordsOf(const QString& query)
 {
@@ -57,6 +58,7 @@ QList<int> CommandSearch::find(const QString& query)
         int score;
     };
     const QStringList words = wordsOf(query);
+    const QString name = query.simplified();
     const QList<int> open = candidates(query, words);
     QList<Found> found;
     for (const int index : open) {
@@ -64,6 +66,8 @@ QList<int> CommandSearch::find(const QString& query)
         int score = words.isEmpty() ? 1 : CommandSearch::score(words, command);
         if (score == 0)
             continue;
+        if (command.text.compare(name, Qt::CaseInsensitive) == 0)
+            score += WholeName;
         score += RecencyStep * m_recency.at(index) - command.handicap - (command.enabled ? 0 : DisabledHandicap);
         found.append({index, score});
     }

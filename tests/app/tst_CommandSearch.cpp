@@ -126,6 +126,15 @@ private Q_SLOTS:
         QCOMPARE(search.commands().at(search.find(QStringLiteral("zoom")).first()).text, QStringLiteral("Zoom Out"));
     }
 
+    void aNameTypedInFullWinsOverWhatWasUsedLast()
+    {
+        CommandSearch search;
+        const QList<Command> commands{command("Select buttonPlus"), command("Select buttonPlusBar")};
+        search.setCommands(commands, {commands.at(1).id});
+        QCOMPARE(search.find(QStringLiteral("Select buttonPl")), (QList<int>{1, 0}));
+        QCOMPARE(search.find(QStringLiteral("select  buttonplus ")), (QList<int>{0, 1}));
+    }
+
     void whatCannotBeDoneComesAfterThat()
     {
         CommandSearch search;
