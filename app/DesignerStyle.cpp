@@ -3,6 +3,7 @@
 #include "app/ThemedIcon.h"
 
 #include <QApplication>
+#include <QMainWindow>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -13,6 +14,7 @@ namespace {
 constexpr int TitleMargin = 6; // pixels above and below the title of a panel
 constexpr int FocusBarWidth = 3; // pixels, of the mark of the panel that has the keyboard
 constexpr int TitleIndent = 6; // pixels in front of it, beyond the style's own
+constexpr int PanelTabSpace = 14; // pixels beside the text of a panel's tab, left and right together
 
 } // namespace
 
@@ -39,6 +41,11 @@ int DesignerStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, c
         return TitleMargin;
     case PM_DockWidgetTitleBarButtonMargin:
         return 2;
+    case PM_TabBarTabHSpace:
+        // The tabs of panels stand in a narrow column, where words are worth more than margins.
+        if (widget && qobject_cast<const QMainWindow*>(widget->parentWidget()))
+            return PanelTabSpace;
+        return QProxyStyle::pixelMetric(metric, option, widget);
     default:
         return QProxyStyle::pixelMetric(metric, option, widget);
     }

@@ -261,9 +261,11 @@ bool FileActions::reportSave(bool done, const QString& message)
 QString FileActions::projectsFolder() const
 {
     const QString known = AppSettings().value(ProjectsFolderKey).toString();
-    return !known.isEmpty() && QDir(known).exists()
-               ? known
-               : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    if (!known.isEmpty() && QDir(known).exists())
+        return known;
+    // A dialog that is sent to a folder that does not exist begins wherever the program was started.
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QDir(documents).exists() ? documents : QDir::homePath();
 }
 
 void FileActions::rememberFolder(const QString& folder)

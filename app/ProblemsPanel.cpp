@@ -20,6 +20,7 @@ namespace Korvex::Meridane::Designer {
 namespace {
 
 constexpr int FixColumn = 1;
+constexpr int FileColumn = 3;
 constexpr int NarrowestMessage = 110; // pixels
 
 } // namespace
@@ -88,6 +89,9 @@ void ProblemsPanel::refill()
         }
     }
     clear();
+    // The width is for the messages: columns that would tell nothing are not shown. An object names its file as well.
+    bool anyFix = false;
+    bool anyWithoutObject = false;
     QList<QTreeWidgetItem*> rows;
     QTreeWidgetItem* kept = nullptr;
     for (const Problem& problem : std::as_const(m_problems)) {
@@ -95,6 +99,8 @@ void ProblemsPanel::refill()
         if (!problem.property.isEmpty())
             place += place.isEmpty() ? problem.property : QStringLiteral(" · ") + problem.property;
         const QString mend = m_project ? ProblemFix::text(m_project, problem) : QString();
+        anyFix = anyFix || !mend.isEmpty();
+        anyWithoutObject = anyWithoutObject || problem.object.isEmpty();
         auto* row = new QTreeWidgetItem({problem.message, mend, place, problem.file});
         const bool error = problem.severity == Problem::Severity::Error;
         row->setIcon(0, ThemedIcon::named(error ? QStringLiteral("error") : QStringLiteral("warning")));
@@ -111,6 +117,8 @@ void ProblemsPanel::refill()
     addTopLevelItems(rows);
     if (kept)
         setCurrentItem(kept);
+    setColumnHidden(FixColumn, !anyFix);
+    setColumnHidden(FileColumn, !anyWithoutObject);
     fitColumns();
 }
 

@@ -308,6 +308,26 @@ private Q_SLOTS:
         QVERIFY(!dialog.findChild<QPushButton*>()->isEnabled());
     }
 
+    void theProblemsListShowsOnlyColumnsThatTellSomething()
+    {
+        const Problem ofElement{Problem::Severity::Warning, QStringLiteral("screens/main.json"),
+                                QStringLiteral("main/dial"), QStringLiteral("font"), QStringLiteral("is not there.")};
+        const Problem ofFile{
+            Problem::Severity::Warning, QStringLiteral("project.json"), {}, {}, QStringLiteral("Old.")};
+        ProblemsPanel panel;
+        panel.resize(700, 200);
+        panel.show();
+        panel.setProblems({ofElement});
+        QVERIFY(panel.isColumnHidden(1) && panel.isColumnHidden(3));
+        QVERIFY(!panel.isColumnHidden(0) && !panel.isColumnHidden(2));
+        const int width = panel.columnWidth(0);
+        panel.setProblems({ofElement, ofFile});
+        QVERIFY(!panel.isColumnHidden(3));
+        QVERIFY(panel.columnWidth(0) < width);
+        panel.setProblems({ofElement});
+        QCOMPARE(panel.columnWidth(0), width);
+    }
+
     void aProblemLeadsToItsObject()
     {
         ProblemsPanel panel;

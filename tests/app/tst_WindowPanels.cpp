@@ -9,6 +9,7 @@
 #include "host/core/sheet/PropertySheet.h"
 
 #include <QDockWidget>
+#include <QTabBar>
 #include <QToolBar>
 
 using namespace Korvex::Meridane::Designer;
@@ -74,6 +75,24 @@ private Q_SLOTS:
         resize({1500, 800});
         QTest::qWait(50);
         QCOMPARE(dock("SheetDock")->width(), narrow);
+    }
+
+    void tabsOfPanelsHaveRoomForLongWords()
+    {
+        dock("TreeDock")->setWindowTitle(QStringLiteral("Projekt"));
+        dock("ImagesDock")->setWindowTitle(QStringLiteral("Bilder"));
+        dock("ScreensDock")->setWindowTitle(QStringLiteral("Bildschirme"));
+        dock("FontsDock")->setWindowTitle(QStringLiteral("Schriften"));
+        QTest::qWait(50);
+        int tabs = 0;
+        const QList<QTabBar*> bars = m_test->window->findChildren<QTabBar*>(QString(), Qt::FindDirectChildrenOnly);
+        for (const QTabBar* bar : bars) {
+            for (int i = 0; bar->isVisible() && i < bar->count(); ++i, ++tabs) {
+                const int words = bar->fontMetrics().horizontalAdvance(bar->tabText(i));
+                QVERIFY2(bar->tabRect(i).width() >= words + 8, qPrintable(bar->tabText(i)));
+            }
+        }
+        QVERIFY(tabs >= 4);
     }
 
     void theLayoutIsReset()
