@@ -9,6 +9,7 @@
 #include "host/core/canvas/EditSession.h"
 #include "host/core/objects/Screen.h"
 #include "host/core/project/ImageReferences.h"
+#include "host/core/project/ObjectTree.h"
 #include "host/core/project/Project.h"
 
 #include <QAction>
@@ -48,15 +49,6 @@ protected:
 private:
     QIcon m_icon = ThemedIcon::named(QStringLiteral("image"), QPalette::PlaceholderText);
 };
-
-Screen* screenOf(DesignerObject* object)
-{
-    for (DesignerObject* above = object; above; above = above->parentObject()) {
-        if (auto* screen = qobject_cast<Screen*>(above))
-            return screen;
-    }
-    return nullptr;
-}
 
 } // namespace
 
@@ -181,7 +173,7 @@ void ImagePanel::addUses(QMenu* menu, const QString& image)
         return;
     QMenu* uses = menu->addMenu(coreText("Used By"));
     for (DesignerObject* object : objects.first(qMin<qsizetype>(objects.size(), MostListedUses))) {
-        const QString name = screenOf(object)->getIdName() + QLatin1Char('/') + object->getIdName();
+        const QString name = ObjectTree::screenOf(object)->getIdName() + QLatin1Char('/') + object->getIdName();
         connect(uses->addAction(name), &QAction::triggered, this,
                 [this, object] { Q_EMIT objectsRequested({object}); });
     }
@@ -217,7 +209,7 @@ void ImagePanel::showUses()
     // Screens in their order, each with what is to be selected on it.
     QList<QList<DesignerObject*>> screens;
     for (DesignerObject* object : users(images.constFirst())) {
-        if (screens.isEmpty() || screenOf(screens.constLast().constFirst()) != screenOf(object))
+        if (screens.isEmpty() || ObjectTree::screenOf(screens.constLast().constFirst()) != ObjectTree::screenOf(object))
             screens.append(QList<DesignerObject*>());
         screens.last().append(object);
     }
@@ -225,7 +217,7 @@ void ImagePanel::showUses()
         return;
     qsizetype shown = 0;
     for (qsizetype i = 0; i < screens.size(); ++i) {
-        if (screenOf(screens.at(i).constFirst()) != m_session->currentScreen())
+        if (ObjectTree::screenOf(screens.at(i).constFirst()) != m_session->currentScreen())
             continue;
         const QList<DesignerObject*>& selection = m_session->selection();
         const bool seen = QSet<DesignerObject*>(selection.cbegin(), selection.cend())
@@ -308,7 +300,7 @@ QList<DesignerObject*> ImagePanel::users(const QString& image) const
     QList<DesignerObject*> objects;
     const QList<ImageUse> uses = ImageReferences::uses(m_session->project(), image);
     for (const ImageUse& use : uses) {
-        if (screenOf(use.object) && !objects.contains(use.object))
+        if (ObjectTree::screenOf(use.object) && !objects.contains(use.object))
             objects.append(use.object);
     }
     return objects;

@@ -9,6 +9,7 @@
 #include "host/core/objects/EditorMarks.h"
 #include "host/core/objects/Screen.h"
 #include "host/core/objects/UnknownElement.h"
+#include "host/core/project/ObjectTree.h"
 #include "host/core/project/Project.h"
 #include "host/core/properties/ObjectListProperty.h"
 
@@ -235,11 +236,7 @@ bool ProjectTreeModel::canDropMimeData(const QMimeData* data, Qt::DropAction act
     return !objects.isEmpty() && std::all_of(objects.cbegin(), objects.cend(), [&](const DesignerObject* object) {
         if (areScreens)
             return object->parentObject() == owner;
-        for (const DesignerObject* above = owner; above; above = above->parentObject()) {
-            if (above == object)
-                return false;
-        }
-        return qobject_cast<const Element*>(object) != nullptr;
+        return qobject_cast<const Element*>(object) && !ObjectTree::isWithin(owner, object);
     });
 }
 

@@ -4,6 +4,7 @@
 #include "host/core/canvas/EditSession.h"
 #include "host/core/canvas/ScreenRenderer.h"
 #include "host/core/objects/Screen.h"
+#include "host/core/project/ObjectTree.h"
 #include "host/core/project/Project.h"
 #include "host/core/properties/DesignerProperty.h"
 
@@ -16,15 +17,6 @@ namespace {
 constexpr int FirstDelay = 60; // ms
 constexpr int ChangeDelay = 400; // ms after the last change
 constexpr int CostFactor = 8; // of a drawing's time, before the next one
-
-Screen* screenAbove(DesignerObject* object)
-{
-    for (; object; object = object->parentObject()) {
-        if (auto* screen = qobject_cast<Screen*>(object))
-            return screen;
-    }
-    return nullptr;
-}
 
 } // namespace
 
@@ -66,7 +58,7 @@ QImage ScreenThumbnails::thumbnail(Screen* screen)
 
 void ScreenThumbnails::forget(DesignerObject* object)
 {
-    Screen* screen = screenAbove(object);
+    Screen* screen = ObjectTree::screenOf(object);
     const auto entry = m_entries.find(screen);
     if (!screen || entry == m_entries.end())
         return;

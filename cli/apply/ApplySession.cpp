@@ -6,6 +6,7 @@
 #include "host/common/LocalizationHelper.h"
 #include "host/core/objects/QmlIdentifier.h"
 #include "host/core/objects/Screen.h"
+#include "host/core/project/ObjectTree.h"
 #include "host/core/project/Project.h"
 
 namespace Korvex::Meridane::Designer {
@@ -17,15 +18,6 @@ namespace {
 QString noObject(const QString& reference)
 {
     return LocalizationHelper::coreString(QStringLiteral("There is no object \"%1\".")).arg(reference);
-}
-
-Screen* screenOf(DesignerObject* object)
-{
-    for (; object; object = object->parentObject()) {
-        if (auto* screen = qobject_cast<Screen*>(object))
-            return screen;
-    }
-    return nullptr;
 }
 
 /// Why \a screen could not be read, naming its file; empty when it could.
@@ -92,7 +84,7 @@ DesignerObject* ApplySession::find(const QString& reference, bool screensToo, QS
     if (!found)
         return nullptr;
 
-    const QString unreadable = unreadableReason(screenOf(found));
+    const QString unreadable = unreadableReason(ObjectTree::screenOf(found));
     if (!unreadable.isEmpty()) {
         *message = unreadable;
         return nullptr;
@@ -111,8 +103,8 @@ DesignerObject* ApplySession::find(EditArguments& arguments, bool screensToo)
         arguments.refuse(message);
         return nullptr;
     }
-    m_edits.setCurrentScreen(screenOf(found));
-    m_edits.scene(screenOf(found)); // an element without its item has not reported its outer size
+    m_edits.setCurrentScreen(ObjectTree::screenOf(found));
+    m_edits.scene(ObjectTree::screenOf(found)); // an element without its item has not reported its outer size
     return found;
 }
 

@@ -7,6 +7,7 @@
 #include "host/core/objects/EditorMarks.h"
 #include "host/core/objects/Screen.h"
 #include "host/core/objects/VisualElement.h"
+#include "host/core/project/ObjectTree.h"
 #include "host/core/project/Project.h"
 #include "host/core/properties/DesignerProperty.h"
 #include "host/core/values/ValueConversion.h"
@@ -49,13 +50,6 @@ struct Arrangement
         return all;
     }
 };
-
-Screen* screenOf(DesignerObject* object)
-{
-    while (object && !qobject_cast<Screen*>(object))
-        object = object->parentObject();
-    return qobject_cast<Screen*>(object);
-}
 
 /// \a objects in the coordinates of their parent, or of the screen where they have several or \a onScreen says so.
 Arrangement arrangementOf(const QList<DesignerObject*>& objects, bool onScreen)
@@ -176,7 +170,7 @@ EditResult Alignment::align(EditSession* session, const QList<DesignerObject*>& 
     if (arrangement.elements.isEmpty())
         return tooFew(LocalizationHelper::coreString(QStringLiteral("There is no element to align.")));
     const QRectF reference =
-        alone ? QRectF(QPointF(0, 0), screenOf(objects.constFirst())->size()) : arrangement.bounds();
+        alone ? QRectF(QPointF(0, 0), ObjectTree::screenOf(objects.constFirst())->size()) : arrangement.bounds();
     Moves moves(session, arrangement);
     const bool middle = edge == AlignEdge::Center || edge == AlignEdge::Middle;
     for (DesignerObject* element : arrangement.elements)
@@ -210,7 +204,7 @@ EditResult Alignment::centerOnScreen(EditSession* session, const QList<DesignerO
     arrangement.elements = ElementPlaces::movable(arrangement.elements);
     if (arrangement.elements.isEmpty())
         return tooFew(LocalizationHelper::coreString(QStringLiteral("There is no element to center.")));
-    QPointF way = QRectF(QPointF(0, 0), screenOf(arrangement.elements.constFirst())->size()).center()
+    QPointF way = QRectF(QPointF(0, 0), ObjectTree::screenOf(arrangement.elements.constFirst())->size()).center()
                   - arrangement.bounds().center();
     // All go the same way, so that they keep their distances: to whole pixels when all stand on them.
     const bool whole =

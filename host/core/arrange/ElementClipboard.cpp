@@ -8,6 +8,7 @@
 #include "host/core/objects/Group.h"
 #include "host/core/objects/Screen.h"
 #include "host/core/project/ElementJson.h"
+#include "host/core/project/ObjectTree.h"
 #include "host/core/project/Project.h"
 #include "host/core/properties/ObjectListProperty.h"
 
@@ -34,13 +35,6 @@ const QLatin1String OriginKey("origin");
 const QLatin1String BoundsKey("bounds");
 const QLatin1String ProjectKey("project");
 const QLatin1String ResourcesKey("resources");
-
-Screen* screenOf(DesignerObject* object)
-{
-    while (object && !qobject_cast<Screen*>(object))
-        object = object->parentObject();
-    return qobject_cast<Screen*>(object);
-}
 
 QJsonArray numbers(const QRectF& rect)
 {
@@ -79,7 +73,7 @@ QRectF readBounds(const QJsonObject& entry)
 DesignerObject* ownerFor(EditSession* session, Screen* screen, const QSet<QString>& copiedIds)
 {
     const QList<DesignerObject*> selection = session->selection();
-    if (selection.isEmpty() || screenOf(selection.constFirst()) != screen)
+    if (selection.isEmpty() || ObjectTree::screenOf(selection.constFirst()) != screen)
         return screen;
     DesignerObject* owner = selection.constFirst()->parentObject();
     if (selection.size() == 1 && qobject_cast<Group*>(selection.constFirst())
@@ -133,7 +127,7 @@ QByteArray ElementClipboard::write(EditSession* session, const QList<DesignerObj
     QJsonArray places;
     const QList<DesignerObject*> elements = copyable(objects);
     for (DesignerObject* element : elements) {
-        session->scene(screenOf(element)); // places are those of items
+        session->scene(ObjectTree::screenOf(element)); // places are those of items
         entries.append(ElementJson::write(element));
         places.append(writePlace(element));
     }
@@ -152,7 +146,7 @@ QImage ElementClipboard::picture(EditSession* session, const QList<DesignerObjec
     RenderOptions options;
     options.ground = false;
     options.only = copyable(objects);
-    Screen* screen = options.only.isEmpty() ? nullptr : screenOf(options.only.constFirst());
+    Screen* screen = options.only.isEmpty() ? nullptr : ObjectTree::screenOf(options.only.constFirst());
     return screen ? ScreenRenderer::render(session->scene(screen), options) : QImage();
 }
 
@@ -198,7 +192,7 @@ EditResult ElementClipboard::duplicate(EditSession* session, const QList<Designe
                                        const std::optional<QPointF>& offset, QList<DesignerObject*>* copies)
 {
     QList<DesignerObject*> originals = copyable(objects);
-    Screen* screen = originals.isEmpty() ? nullptr : screenOf(originals.constFirst());
+    Screen* screen = originals.isEmpty() ? nullptr : ObjectTree::screenOf(originals.constFirst());
     if (!screen)
         return {true, false, {}};
     if (!screen->contentError().isEmpty())
@@ -207,7 +201,7 @@ EditResult ElementClipboard::duplicate(EditSession* session, const QList<Designe
     ElementCopies made(session, screen);
     for (const DesignerObject* original : std::as_const(originals)) {
         DesignerObject* owner = original->parentObject();
-        const bool onScreen = screenOf(owner) == screen;
+        const bool onScreen = ObjectTree::screenOf(owner) == screen;
         if (auto element = onScreen ? ElementJson::read(ElementJson::write(original)) : nullptr) {
             const ElementPlace place = ElementPlaces::placeOf(original);
             made.add(std::move(element), owner, place, ElementPlaces::outerBounds(original, place.toScene));

@@ -5,13 +5,13 @@
 
 namespace Korvex::Meridane::Designer {
 
-/// Walks over objects and what is below them, each object before its children.
+/// Ways through the tree of objects, down to what is below one and up to what it stands in.
 class ObjectTree
 {
 public:
     ObjectTree() = delete;
 
-    /// Visits \a object and everything below it. Screens that have not been read are visited, but stay unread.
+    /// Visits \a object and everything below it, each object before its children. Screens that have not been read are visited, but stay unread.
     template <typename Visitor>
     static void visitRead(const DesignerObject* object, const Visitor& visit)
     {
@@ -25,16 +25,34 @@ public:
         }
     }
 
+    /// The screen that \a object stands on, \a object itself for a screen; null for the project and what stands nowhere.
+    [[nodiscard]] static Screen* screenOf(DesignerObject* object)
+    {
+        while (object && !qobject_cast<Screen*>(object))
+            object = object->parentObject();
+        return qobject_cast<Screen*>(object);
+    }
+    [[nodiscard]] static const Screen* screenOf(const DesignerObject* object)
+    {
+        while (object && !qobject_cast<const Screen*>(object))
+            object = object->parentObject();
+        return qobject_cast<const Screen*>(object);
+    }
+
+    /// Whether \a object is \a owner or stands in it.
+    [[nodiscard]] static bool isWithin(const DesignerObject* object, const DesignerObject* owner)
+    {
+        while (object && object != owner)
+            object = object->parentObject();
+        return object != nullptr;
+    }
+
     /// "screen/id" for an element, the id for a screen, empty for a project.
     [[nodiscard]] static QString name(const DesignerObject* object)
     {
-        for (const DesignerObject* above = object; above; above = above->parentObject()) {
-            if (qobject_cast<const Screen*>(above)) {
-                return above == object ? object->getIdName()
-                                       : above->getIdName() + QLatin1Char('/') + object->getIdName();
-            }
-        }
-        return object->getIdName();
+        const Screen* screen = screenOf(object);
+        return screen && screen != object ? screen->getIdName() + QLatin1Char('/') + object->getIdName()
+                                          : object->getIdName();
     }
 };
 

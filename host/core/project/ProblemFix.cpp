@@ -5,6 +5,7 @@
 #include "host/core/objects/Screen.h"
 #include "host/core/objects/VisualElement.h"
 #include "host/core/project/ElementPlacement.h"
+#include "host/core/project/ObjectTree.h"
 #include "host/core/project/Project.h"
 #include "host/core/properties/DesignerProperty.h"
 #include "host/core/values/ValueConversion.h"
@@ -110,9 +111,7 @@ DesignerObject* ProblemFix::object(Project* project, const Problem& problem)
 EditResult ProblemFix::moveOntoScreen(EditSession* session, DesignerObject* object)
 {
     const auto* element = qobject_cast<const VisualElement*>(object);
-    Screen* screen = nullptr;
-    for (DesignerObject* above = object; above && !screen; above = above->parentObject())
-        screen = qobject_cast<Screen*>(above);
+    Screen* screen = ObjectTree::screenOf(object);
     if (!screen)
         return gone();
     session->scene(screen);

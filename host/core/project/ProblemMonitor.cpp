@@ -1,6 +1,7 @@
 #include "host/core/project/ProblemMonitor.h"
 
 #include "host/core/objects/Screen.h"
+#include "host/core/project/ObjectTree.h"
 #include "host/core/project/Project.h"
 #include "host/core/project/ProjectChecker.h"
 #include "host/core/properties/DesignerProperty.h"
@@ -14,18 +15,8 @@ namespace {
 
 constexpr int Delay = 300; // ms after a change
 constexpr int Slice = 8; // ms
-constexpr int BetweenSlices = 4; // ms, for everything else that goes on
 constexpr int ProgressSlice = 20; // ms, for somebody who waits
-
-/// The screen that \a object stands on or is; null for the project and for what stands nowhere.
-const Screen* screenAbove(const DesignerObject* object)
-{
-    for (; object; object = object->parentObject()) {
-        if (const auto* screen = qobject_cast<const Screen*>(object))
-            return screen;
-    }
-    return nullptr;
-}
+constexpr int BetweenSlices = 4; // ms, for everything else that goes on
 
 QList<Problem> withoutRepetitions(const QList<Problem>& problems)
 {
@@ -123,7 +114,7 @@ bool ProblemMonitor::checkAll(const WorkProgress& progress)
 
 void ProblemMonitor::objectChanged(DesignerObject* object)
 {
-    const Screen* screen = screenAbove(object);
+    const Screen* screen = ObjectTree::screenOf(object);
     if (screen) {
         m_screenProblems.remove(screen);
         if (screen == m_unfinished)
