@@ -4,6 +4,7 @@
 #include "host/core/objects/EditorMarks.h"
 #include "host/core/project/ElementJson.h"
 
+#include <QElapsedTimer>
 #include <QtTest>
 
 using namespace Korvex::Meridane::Designer;
@@ -218,6 +219,45 @@ private Q_SLOTS:
         canvas.session->setHidden({rectangle}, false);
         QVERIFY(canvas.graphic(rectangle)->isSelected());
         QCOMPARE(canvas.selected(), QList<DesignerObject*>{rectangle});
+    }
+
+    void thousandsOfElementsAreLockedHiddenAndShownInNoTime()
+    {
+        CanvasFixture canvas;
+        QList<DesignerObject*> all;
+        for (int i = 0; i < 4000; ++i)
+            all.append(canvas.addRectangle({double(i % 80) * 10, double(i / 80) * 10, 8, 8}));
+        QElapsedTimer clock;
+        const auto taken = [&clock](const char* what) {
+            const qint64 time = clock.restart();
+            qInfo("%s: %lld ms", what, time);
+            return time;
+        };
+        canvas.select(all);
+        clock.start();
+        canvas.session->setLocked(all, true);
+        QVERIFY(taken("locking") < 2000);
+        QVERIFY(canvas.selected().isEmpty());
+        canvas.session->undo();
+        QVERIFY(taken("undoing it") < 2000);
+        canvas.select(all);
+        clock.start();
+        canvas.session->redo();
+        QVERIFY(taken("locking again") < 2000);
+        QVERIFY(canvas.selected().isEmpty());
+        canvas.session->undo();
+
+        canvas.session->setHidden(all, true);
+        canvas.select(all);
+        QCOMPARE(canvas.selected().size(), all.size());
+        clock.start();
+        canvas.session->setHidden(all, false);
+        QVERIFY(taken("showing") < 2000);
+        QVERIFY(canvas.graphic(all.constFirst())->isSelected() && canvas.graphic(all.constLast())->isSelected());
+        canvas.session->undo();
+        QVERIFY(taken("hiding") < 2000);
+        canvas.session->redo();
+        QVERIFY(taken("showing again") < 2000);
     }
 };
 

@@ -130,10 +130,8 @@ EditResult Grouping::ungroup(EditSession* session, const QList<DesignerObject*>&
             new ReparentObjects(moved, (*group)->parentObject(), indexOf(*group),
                                 ReparentObjects::Select::AtTheNewPlace, command.get());
         }
-        if ((*group)->editorMark(EditorMarks::hidden()) == EditorMarks::setValue()) {
-            for (DesignerObject* child : moved)
-                new ChangeEditorMark(child, EditorMarks::hidden(), EditorMarks::setValue(), command.get());
-        }
+        if (!moved.isEmpty() && (*group)->editorMark(EditorMarks::hidden()) == EditorMarks::setValue())
+            new ChangeEditorMark(moved, EditorMarks::hidden(), EditorMarks::setValue(), command.get());
         members += moved;
         new RemoveObject(*group, command.get());
     }

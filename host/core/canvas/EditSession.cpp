@@ -1,12 +1,8 @@
 #include "host/core/canvas/EditSession.h"
 
-#include "host/core/canvas/CanvasNumbers.h"
 #include "host/core/canvas/CanvasScene.h"
 #include "host/core/canvas/GraphicsItem.h"
 #include "host/core/commands/AddObject.h"
-#include "host/core/commands/ChangeEditorMark.h"
-#include "host/core/commands/ChangeProperties.h"
-#include "host/core/commands/ChangeProperty.h"
 #include "host/core/commands/MoveObject.h"
 #include "host/core/commands/RemoveFont.h"
 #include "host/core/commands/RemoveObject.h"
@@ -15,15 +11,15 @@
 #include "host/core/objects/EditorMarks.h"
 #include "host/core/objects/QmlIdentifier.h"
 #include "host/core/objects/Screen.h"
-#include "host/core/objects/VisualElement.h"
 #include "host/core/plugins/DesignerFactory.h"
+#include "host/core/project/ElementEdits.h"
 #include "host/core/project/FontImporter.h"
 #include "host/core/project/FontReferences.h"
 #include "host/core/project/ImageReferences.h"
+#include "host/core/project/ObjectTree.h"
 #include "host/core/project/Project.h"
 #include "host/core/project/ResourceImporter.h"
 #include "host/core/properties/DesignerProperty.h"
-#include "host/core/properties/ObjectListProperty.h"
 #include "host/core/values/ValueConversion.h"
 
 #include "host/common/LocalizationHelper.h"
@@ -42,31 +38,6 @@ namespace {
 QString text(const char* source)
 {
     return LocalizationHelper::coreString(QString::fromUtf8(source));
-}
-
-/// The name of the step that sets or takes away \a mark of \a elements.
-QString markText(const QList<DesignerObject*>& elements, const QString& mark, bool set)
-{
-    const int count = int(elements.size());
-    const QString id = elements.constFirst()->getIdName();
-    if (mark == EditorMarks::locked() && set) {
-        return count == 1 ? LocalizationHelper::coreString(QStringLiteral("Lock %1")).arg(id)
-                          : LocalizationHelper::coreString(QStringLiteral("Lock %n Element"),
-                                                           QStringLiteral("Lock %n Elements"), count);
-    }
-    if (mark == EditorMarks::locked()) {
-        return count == 1 ? LocalizationHelper::coreString(QStringLiteral("Unlock %1")).arg(id)
-                          : LocalizationHelper::coreString(QStringLiteral("Unlock %n Element"),
-                                                           QStringLiteral("Unlock %n Elements"), count);
-    }
-    if (set) {
-        return count == 1 ? LocalizationHelper::coreString(QStringLiteral("Hide %1")).arg(id)
-                          : LocalizationHelper::coreString(QStringLiteral("Hide %n Element"),
-                                                           QStringLiteral("Hide %n Elements"), count);
-    }
-    return count == 1 ? LocalizationHelper::coreString(QStringLiteral("Show %1")).arg(id)
-                      : LocalizationHelper::coreString(QStringLiteral("Show %n Element"),
-                                                       QStringLiteral("Show %n Elements"), count);
 }
 
 } // namespace
@@ -219,72 +190,38 @@ EditResult EditSession::resizeScreen(Screen* screen, const QSizeF& size, ScreenE
 EditResult EditSession::addElement(const QString& className, Screen* screen, const QString& id,
                                    const QMap<QString, QString>& properties, DesignerObject** added)
 {
-    if (!screen)
-        return refused(text("There is no screen to add to."));
-    screen->readContent();
-    if (!screen->contentError().isEmpty())
-        return refused(screen->contentError());
-    QString reason;
-    if (!id.isEmpty() && !isQmlIdentifier(id, &reason))
-        return refused(reason);
-    if (!id.isEmpty() && screen->element(id))
-        return refused(text("The id \"%1\" is already used.").arg(id));
-    const QStringList known = DesignerFactory::instance()->elementClassNames();
-    std::unique_ptr<DesignerObject> object;
-    if (known.contains(className))
-        object.reset(DesignerFactory::instance()->createDataObject(className, nullptr));
-    if (!object)
-        return refused(text("There is no element class \"%1\".").arg(className));
-    for (auto value = properties.cbegin(); value != properties.cend(); ++value) {
-        if (!object->getProperty(value.key()))
-            return refused(text("\"%1\" has no property \"%2\".").arg(className, value.key()));
-    }
-
+    ElementEdits::Plan plan = ElementEdits::add(className, screen, id, properties);
+    if (!plan.message.isEmpty())
+        return refused(plan.message);
     scene(screen); // an edit always has items
-    object->setIdName(id);
-    DesignerObject* element = object.get();
-    auto command = std::make_unique<UndoCommand>();
-    const auto* add = new AddObject(screen, std::move(object), -1, command.get());
-    command->setText(add->text());
-    command->setAllOrNothing(true);
-    QList<ChangeProperties::Value> values;
-    for (const auto& property : element->properties()) {
-        const auto value = properties.constFind(property->id());
-        if (value != properties.cend())
-            values.append({property, value.value()});
-    }
-    new ChangeProperties(element, values, command.get());
-    const EditResult result = execute(std::move(command));
+    const EditResult result = execute(std::move(plan.command));
     if (result.changed) {
-        setSelection({element});
+        setSelection({plan.element});
         if (added)
-            *added = element;
+            *added = plan.element;
     }
     return result;
 }
 
 EditResult EditSession::removeElements(const QList<DesignerObject*>& elements)
 {
-    auto command = std::make_unique<UndoCommand>();
+    QList<DesignerObject*> going;
     for (DesignerObject* element : elements) {
         Screen* screen = screenOf(element);
         if (!screen || element == screen)
             continue;
         scene(screen);
-        new RemoveObject(element, command.get());
+        going.append(element);
     }
-    const int count = command->childCommandCount();
-    if (count == 0)
+    ElementEdits::Plan plan = ElementEdits::remove(going);
+    if (!plan.command)
         return {true, false, {}};
-    command->setText(count == 1 ? command->childCommand(0)->text()
-                                : LocalizationHelper::coreString(QStringLiteral("Remove %n Element"),
-                                                                 QStringLiteral("Remove %n Elements"), int(count)));
     EditResult result;
     {
         // The selection follows once, at the end, instead of at each element that goes.
         const QScopedValueRollback<bool> setting(m_settingSelection, true);
         const QSignalBlocker silent(scene(m_currentScreen));
-        result = execute(std::move(command));
+        result = execute(std::move(plan.command));
     }
     if (m_selection.removeIf([this](DesignerObject* object) { return !Project::parentProject(object); }) > 0)
         Q_EMIT selectionChanged();
@@ -299,45 +236,24 @@ EditResult EditSession::setProperty(DesignerObject* object, const QString& prope
 EditResult EditSession::setProperties(const QList<DesignerObject*>& objects, const QString& propertyId,
                                       const QStringList& values)
 {
-    auto command = std::make_unique<UndoCommand>();
-    command->setAllOrNothing(true);
-    const QSet<DesignerObject*> selected(m_selection.begin(), m_selection.end());
-    for (int i = 0; i < objects.size(); ++i) {
-        DesignerObject* object = objects.at(i);
-        const auto property = object->getProperty(propertyId);
-        if (!property || dynamic_cast<const ObjectListProperty*>(property.data()))
-            return refused(text("\"%1\" has no property \"%2\".").arg(object->getIdName(), propertyId));
+    ElementEdits::Plan plan = ElementEdits::set(objects, propertyId, values, m_selection);
+    if (!plan.message.isEmpty())
+        return refused(plan.message);
+    for (DesignerObject* object : objects)
         scene(screenOf(object));
-        const auto* change = new ChangeProperty(property, values.at(i), selected.contains(object), command.get());
-        command->setText(change->text());
-    }
-    return execute(std::move(command));
+    return execute(std::move(plan.command));
 }
 
 EditResult EditSession::moveElements(const QList<DesignerObject*>& elements, const QPointF& distance,
                                      const QString& mergeKey)
 {
-    auto command = std::make_unique<UndoCommand>();
-    command->setText(elements.size() == 1
-                         ? text("Move %1").arg(elements.first()->getIdName())
-                         : LocalizationHelper::coreString(QStringLiteral("Move %n Element"),
-                                                          QStringLiteral("Move %n Elements"), int(elements.size())));
-    command->setMergeKey(mergeKey);
-    const QSet<DesignerObject*> selected(m_selection.begin(), m_selection.end());
-    for (DesignerObject* object : elements) {
-        const auto* element = qobject_cast<VisualElement*>(object);
-        bool ok = false;
-        const QPointF position =
-            element ? ValueConversion::toPoint(element->position()->valueString(), &ok) : QPointF();
-        if (!ok)
-            continue;
-        scene(screenOf(object));
-        new ChangeProperty(element->position(), ValueConversion::toString(withoutNoise(position + distance)),
-                           selected.contains(object), command.get());
-    }
-    if (command->childCommandCount() == 0)
+    ElementEdits::Plan plan = ElementEdits::move(elements, distance, m_selection);
+    if (!plan.command)
         return {true, false, {}};
-    return execute(std::move(command));
+    plan.command->setMergeKey(mergeKey);
+    for (DesignerObject* element : elements)
+        scene(screenOf(element));
+    return execute(std::move(plan.command));
 }
 
 EditResult EditSession::rotateElement(DesignerObject* element, double angle, const QString& fixedPoint)
@@ -377,12 +293,8 @@ EditResult EditSession::setMark(const QList<DesignerObject*>& elements, const QS
     }
     if (changed.isEmpty())
         return {true, false, {}};
-    auto command = std::make_unique<UndoCommand>();
-    command->setText(markText(changed, mark, set));
-    for (DesignerObject* element : std::as_const(changed)) {
+    for (DesignerObject* element : std::as_const(changed))
         scene(screenOf(element)); // an edit always has items
-        new ChangeEditorMark(element, mark, value, command.get());
-    }
     if (set && !undoStack()->isBlocked()) {
         // At once, instead of one by one as the marks are set.
         QList<DesignerObject*> remaining = m_selection;
@@ -390,7 +302,15 @@ EditResult EditSession::setMark(const QList<DesignerObject*>& elements, const QS
         if (remaining.removeIf([&going](DesignerObject* object) { return going.contains(object); }) > 0)
             setSelection(remaining);
     }
-    return execute(std::move(command));
+    EditResult result;
+    {
+        // What was selected out of sight and now shows it does so at the end, instead of at each element that is shown.
+        const QScopedValueRollback<bool> setting(m_settingSelection, m_settingSelection || !set);
+        result = execute(ElementEdits::mark(changed, mark, set).command);
+    }
+    if (!set && !m_selection.isEmpty())
+        setSelection(QList<DesignerObject*>(m_selection));
+    return result;
 }
 
 EditResult EditSession::rename(DesignerObject* object, const QString& id)
@@ -511,11 +431,7 @@ EditResult EditSession::execute(std::unique_ptr<UndoCommand> command)
 
 Screen* EditSession::screenOf(DesignerObject* object) const
 {
-    for (DesignerObject* parent = object; parent; parent = parent->parentObject()) {
-        if (auto* screen = qobject_cast<Screen*>(parent))
-            return screen;
-    }
-    return nullptr;
+    return ObjectTree::screenOf(object);
 }
 
 void EditSession::onStepApplied(const UndoCommand* command)
@@ -542,13 +458,7 @@ void EditSession::onObjectRemoved(DesignerObject* object)
     }
     if (m_settingSelection)
         return;
-    const auto gone = [object](DesignerObject* selected) {
-        for (DesignerObject* parent = selected; parent; parent = parent->parentObject()) {
-            if (parent == object)
-                return true;
-        }
-        return false;
-    };
+    const auto gone = [object](const DesignerObject* selected) { return ObjectTree::isWithin(selected, object); };
     if (m_selection.removeIf(gone) > 0)
         Q_EMIT selectionChanged();
 }
@@ -559,13 +469,7 @@ void EditSession::onObjectMarked(DesignerObject* object, const QString& mark)
     if (m_selection.isEmpty() || !concernsSelection || object->editorMark(mark) != EditorMarks::setValue())
         return;
     QList<DesignerObject*> remaining = m_selection;
-    const auto stands = [object](const DesignerObject* selected) {
-        for (; selected; selected = selected->parentObject()) {
-            if (selected == object)
-                return true;
-        }
-        return false;
-    };
+    const auto stands = [object](const DesignerObject* selected) { return ObjectTree::isWithin(selected, object); };
     if (remaining.removeIf(stands) > 0)
         setSelection(remaining);
 }

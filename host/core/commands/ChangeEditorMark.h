@@ -2,16 +2,22 @@
 
 #include "host/core/commands/UndoCommand.h"
 
+#include <QList>
 #include <QPointer>
+
+#include <functional>
 
 namespace Korvex::Meridane::Designer {
 
-/// Sets one of an object's editor marks: locks, hides, places guides. Has no effect on marks that the object has not
-/// declared.
+/// Sets an editor mark of one or several objects: locks, hides, places guides. Has no effect on marks that
+/// the objects have not declared.
 class MERIDANE_CORE_EXPORT ChangeEditorMark : public UndoCommand
 {
 public:
     ChangeEditorMark(DesignerObject* object, const QString& mark, const QString& value, UndoCommand* parent);
+    /// The elements that can no longer be selected with the mark (EditorMarks::locked(), hidden()) are let go together.
+    ChangeEditorMark(const QList<DesignerObject*>& objects, const QString& mark, const QString& value,
+                     UndoCommand* parent);
     ~ChangeEditorMark() override;
 
     [[nodiscard]] bool isValid() const override;
@@ -24,10 +30,17 @@ protected:
     [[nodiscard]] bool structureChanged() const override;
 
 private:
-    QPointer<DesignerObject> m_object;
+    struct Marked
+    {
+        QPointer<DesignerObject> object;
+        QString before;
+    };
+
+    bool apply(const std::function<QString(const Marked&)>& value);
+
+    QList<Marked> m_objects;
     QString m_mark;
-    QString m_before;
-    QString m_after;
+    QString m_value;
     bool m_changed = false;
 };
 
