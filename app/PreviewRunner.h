@@ -31,8 +31,7 @@ public:
 
     /// Exports \a project and starts with the screen \a screenId (empty: the first). False when the export met problems
     /// (the list), when \a progress has ended it, or there is no temporary folder (failed() tells).
-    bool start(Project* project, const QString& screenId, QList<Problem>* problems,
-               const WorkProgress& progress = {});
+    bool start(Project* project, const QString& screenId, QList<Problem>* problems, const WorkProgress& progress = {});
     [[nodiscard]] bool isRunning() const;
 
     /// The path of the viewer that lies beside this program.
