@@ -13,8 +13,35 @@
 #include <QDockWidget>
 #include <QMainWindow>
 #include <QMenu>
+#include <QTimer>
 
 namespace Korvex::Meridane::Designer {
+
+namespace {
+
+/// Gives \a dock at least as much height as it needs to show something: it may have been opened in the place of a low panel.
+/// The highest panel of the column gives it away.
+void makeRoom(QDockWidget* dock)
+{
+    constexpr int Smallest = 300; // pixels: a wide display at the width of a column, with what stands above it
+    auto* window = qobject_cast<QMainWindow*>(dock->parentWidget());
+    if (!window || dock->isFloating() || !dock->isVisible())
+        return;
+    QDockWidget* highest = nullptr;
+    const QList<QDockWidget*> docks = window->findChildren<QDockWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QDockWidget* other : docks) {
+        const bool isAboveOrBelow = other != dock && !other->isFloating() && !other->visibleRegion().isEmpty()
+                                    && window->dockWidgetArea(other) == window->dockWidgetArea(dock)
+                                    && other->x() == dock->x();
+        if (isAboveOrBelow && (!highest || other->height() > highest->height()))
+            highest = other;
+    }
+    const int missing = Smallest - dock->height();
+    if (missing > 0 && highest && highest->height() - missing >= Smallest / 2)
+        window->resizeDocks({highest, dock}, {highest->height() - missing, Smallest}, Qt::Vertical);
+}
+
+} // namespace
 
 ResultPanels::ResultPanels(WindowPanels* panels, QObject* parent)
     : QObject(parent)
@@ -38,10 +65,12 @@ QAction* ResultPanels::makeAction(const char* name, const char* icon, const QStr
     action->setObjectName(QLatin1String(name));
     action->setCheckable(true);
     connect(action, &QAction::triggered, dock, [dock](bool checked) {
-        if (checked)
-            WindowPanels::reveal(dock);
-        else
+        if (!checked) {
             dock->hide();
+            return;
+        }
+        WindowPanels::reveal(dock);
+        QTimer::singleShot(0, dock, [dock] { makeRoom(dock); }); // when the layout has shown it
     });
     // A panel behind another tab is open as well, so that its visibility is not what counts.
     connect(dock->toggleViewAction(), &QAction::toggled, action, &QAction::setChecked);

@@ -103,6 +103,25 @@ private Q_SLOTS:
         QVERIFY(!toggle->icon().isNull());
     }
 
+    void aPictureOpenedInAFlatPlaceGetsRoom()
+    {
+        m_window->resize(1000, 800);
+        auto* history = m_window->findChild<QDockWidget*>(QStringLiteral("HistoryDock"));
+        auto* sheet = m_window->findChild<QDockWidget*>(QStringLiteral("SheetDock"));
+        m_window->resizeDocks({sheet, history}, {600, 120}, Qt::Vertical);
+        QTRY_VERIFY(history->height() < 200);
+        m_window->findChild<QAction*>(QStringLiteral("view.showLivePreview"))->trigger();
+        QTRY_VERIFY(results()->previewDock()->height() >= 280);
+        // What is large enough is left as it is.
+        m_window->resizeDocks({sheet, results()->previewDock()}, {300, 420}, Qt::Vertical);
+        QTRY_VERIFY(results()->previewDock()->height() > 350);
+        const int height = results()->previewDock()->height();
+        m_window->findChild<QAction*>(QStringLiteral("view.showAsOnPanel"))->trigger();
+        QTRY_VERIFY(results()->deviceDock()->isVisible());
+        QTest::qWait(50);
+        QVERIFY(qAbs(results()->deviceDock()->height() - height) <= 2);
+    }
+
     void noShortcutIsTakenTwice()
     {
         QMap<QString, QString> taken;
@@ -163,25 +182,6 @@ private Q_SLOTS:
         }
     }
 
-    void thePhysicalSizeAsksForTheDensityOnce()
-    {
-        results()->deviceDock()->show();
-        auto* physical = results()->device()->findChild<QCheckBox*>();
-        auto* density = results()->device()->findChildren<QDoubleSpinBox*>().constFirst();
-        QVERIFY(!density->isVisible());
-        const QSizeF before = results()->device()->picture()->shownSize();
-        physical->click();
-        QTRY_VERIFY(density->isVisible() && density->hasFocus());
-        density->selectAll();
-        QTest::keyClicks(density, QStringLiteral("200"));
-        QTest::keyClick(density, Qt::Key_Return);
-        const double wanted = m_window->screen()->physicalDotsPerInch() / 200;
-        QTRY_VERIFY(qAbs(results()->device()->picture()->shownSize().width() - 800 * wanted) < 0.01);
-        QVERIFY(results()->device()->picture()->shownSize() != before);
-        // Remembered for the next window.
-        m_window = std::make_unique<MainWindow>(m_prompts.get());
-        m_window->show();
-        results()->deviceDock()->show();
     void theWholePanelIsSeenInANarrowDock()
     {
         results()->deviceDock()->show();
@@ -221,6 +221,25 @@ private Q_SLOTS:
         QVERIFY(m_window->workspace()->sheet()->isAncestorOf(QApplication::focusWidget()));
     }
 
+    void thePhysicalSizeAsksForTheDensityOnce()
+    {
+        results()->deviceDock()->show();
+        auto* physical = results()->device()->findChild<QCheckBox*>();
+        auto* density = results()->device()->findChildren<QDoubleSpinBox*>().constFirst();
+        QVERIFY(!density->isVisible());
+        const QSizeF before = results()->device()->picture()->shownSize();
+        physical->click();
+        QTRY_VERIFY(density->isVisible() && density->hasFocus());
+        density->selectAll();
+        QTest::keyClicks(density, QStringLiteral("200"));
+        QTest::keyClick(density, Qt::Key_Return);
+        const double wanted = m_window->screen()->physicalDotsPerInch() / 200;
+        QTRY_VERIFY(qAbs(results()->device()->picture()->shownSize().width() - 800 * wanted) < 0.01);
+        QVERIFY(results()->device()->picture()->shownSize() != before);
+        // Remembered for the next window.
+        m_window = std::make_unique<MainWindow>(m_prompts.get());
+        m_window->show();
+        results()->deviceDock()->show();
         QTRY_VERIFY(qAbs(results()->device()->picture()->shownSize().width() - 800 * wanted) < 0.01);
     }
 
