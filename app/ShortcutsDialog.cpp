@@ -42,8 +42,10 @@ constexpr ListedKey CanvasKeys[] = {
     {QT_TRANSLATE_NOOP("Core", "Drag"),
      QT_TRANSLATE_NOOP("Core", "Move elements; on empty ground, select with a frame")},
     {QT_TRANSLATE_NOOP("Core", "Drag a handle"), QT_TRANSLATE_NOOP("Core", "Resize, or move a point")},
-    {QT_TRANSLATE_NOOP("Core", "Ctrl+Click, Shift+Click"),
+    {QT_TRANSLATE_NOOP("Core", "Shift+Click"),
      QT_TRANSLATE_NOOP("Core", "Add an element to the selection or take it out")},
+    {QT_TRANSLATE_NOOP("Core", "Ctrl+Click"),
+     QT_TRANSLATE_NOOP("Core", "Select what lies beneath the selected element")},
     {QT_TRANSLATE_NOOP("Core", "Space+Drag, middle button"), QT_TRANSLATE_NOOP("Core", "Scroll")},
     {QT_TRANSLATE_NOOP("Core", "Ctrl+Wheel"), QT_TRANSLATE_NOOP("Core", "Zoom at the pointer")},
 };

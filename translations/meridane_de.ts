@@ -1003,14 +1003,24 @@ Läuft mit Qt %1.</translation>
         <translation>Größe ändern oder einen Punkt verschieben</translation>
     </message>
     <message>
-        <source>Ctrl+Click, Shift+Click</source>
+        <source>Shift+Click</source>
         <extracomment>app/ShortcutsDialog.cpp</extracomment>
-        <translation>Strg+Klick, Umschalt+Klick</translation>
+        <translation>Umschalt+Klick</translation>
     </message>
     <message>
         <source>Add an element to the selection or take it out</source>
         <extracomment>app/ShortcutsDialog.cpp</extracomment>
         <translation>Ein Element zur Auswahl hinzufügen oder aus ihr entfernen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Click</source>
+        <extracomment>app/ShortcutsDialog.cpp</extracomment>
+        <translation>Strg+Klick</translation>
+    </message>
+    <message>
+        <source>Select what lies beneath the selected element</source>
+        <extracomment>app/ShortcutsDialog.cpp</extracomment>
+        <translation>Auswählen, was unter dem ausgewählten Element liegt</translation>
     </message>
     <message>
         <source>Space+Drag, middle button</source>
