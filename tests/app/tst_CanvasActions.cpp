@@ -228,6 +228,17 @@ private Q_SLOTS:
         QVERIFY(offered.contains(QStringLiteral("screen.add")));
     }
 
+    void aClickBesideTheElementsLetsGoOfAScreenChosenInTheTree()
+    {
+        (void)add(QRectF(100, 100, 200, 150));
+        session()->setSelection({session()->currentScreen()});
+        QVERIFY(action("edit.delete")->isEnabled());
+        const QPoint ground = canvas()->viewportTransform().map(QPointF(20, 20)).toPoint();
+        QTest::mouseClick(canvas()->viewport(), Qt::LeftButton, {}, ground);
+        QVERIFY(session()->selection().isEmpty());
+        QVERIFY(!action("edit.delete")->isEnabled());
+    }
+
     void theRightButtonShowsTheMenu()
     {
         DesignerObject* element = add(QRectF(100, 100, 200, 150));

@@ -2,6 +2,7 @@
 
 #include "host/core/canvas/CanvasScene.h"
 #include "host/core/canvas/CanvasView.h"
+#include "host/core/canvas/EditSession.h"
 #include "host/core/canvas/MoveGesture.h"
 #include "host/core/objects/DesignerObject.h"
 
@@ -40,8 +41,12 @@ void RubberBandGesture::move(const CanvasPointer& pointer)
 void RubberBandGesture::finish(const CanvasPointer& pointer)
 {
     move(pointer);
-    CanvasScene* scene = view()->canvasScene();
-    if (scene && paintedRect().isEmpty() && !(m_press.modifiers & (Qt::ControlModifier | Qt::ShiftModifier)))
+    if (!paintedRect().isEmpty() || (m_press.modifiers & (Qt::ControlModifier | Qt::ShiftModifier)))
+        return;
+    // The session may have selected what the scene does not know: Delete must not meet a screen that was chosen in the tree.
+    if (EditSession* session = view()->session())
+        session->setSelection({});
+    else if (CanvasScene* scene = view()->canvasScene())
         scene->setSelectedObjects({});
 }
 
