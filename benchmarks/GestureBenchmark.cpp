@@ -92,7 +92,7 @@ public:
         using Clock = std::chrono::steady_clock;
         std::vector<double> frames; // ms
         std::vector<double> work; // ms
-        for (auto _ : state) {
+        for ([[maybe_unused]] const auto _ : state) {
             mouse(QEvent::MouseButtonPress, from, true);
             for (int frame = 1; frame <= Frames; ++frame) {
                 const double angle = frame * 0.05;
@@ -140,14 +140,18 @@ void moveElements(benchmark::State& state)
 void resizeElement(benchmark::State& state)
 {
     Canvas canvas;
-    DesignerObject* resized = nullptr;
     // One that is large enough for handles at this zoom.
     const QList<DesignerObject*> elements = canvas.elements(200);
+    DesignerObject* resized = nullptr;
     for (DesignerObject* element : elements) {
         const GraphicsItem* item = element->graphicsItem();
         if (item->hasFrameHandles()
             && (!resized || item->outerRect().width() > resized->graphicsItem()->outerRect().width()))
             resized = element;
+    }
+    if (!resized) {
+        state.SkipWithError("No element has handles at this zoom.");
+        return;
     }
     canvas.select({resized});
     const QGraphicsItem* graphic = resized->graphicsItem()->graphic();
@@ -168,7 +172,7 @@ void hover(benchmark::State& state)
 {
     Canvas canvas;
     int step = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         ++step;
         canvas.mouse(QEvent::MouseMove, QPointF(200 + step * 37 % 800, 100 + step * 23 % 600), false);
     }

@@ -123,7 +123,7 @@ void ClipboardResources::take(EditSession* session, const QJsonObject& resources
         const QByteArray bytes = bytesOf(resources, ImagesKey, imagesFolder, name);
         if (bytes.isEmpty())
             return name;
-        const QString held = ResourceImporter::resourceHolding(project, bytes);
+        QString held = ResourceImporter::resourceHolding(project, bytes);
         if (!held.isEmpty())
             return held;
         QString imported;

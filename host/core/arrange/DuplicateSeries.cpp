@@ -29,7 +29,7 @@ EditResult DuplicateSeries::duplicate(EditSession* session, const QList<Designer
 {
     const QList<DesignerObject*> originals = ElementClipboard::copyable(objects);
     QList<DesignerObject*> copies;
-    const EditResult result = ElementClipboard::duplicate(session, originals, wayTo(originals), &copies);
+    EditResult result = ElementClipboard::duplicate(session, originals, wayTo(originals), &copies);
     if (result.changed) {
         m_originals = {originals.cbegin(), originals.cend()};
         m_copies = {copies.cbegin(), copies.cend()};

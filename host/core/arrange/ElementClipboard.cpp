@@ -182,7 +182,7 @@ EditResult ElementClipboard::insert(EditSession* session, const QByteArray& data
     if (placement == Placement::Aside)
         copies.moveAside();
     copies.moveIntoView();
-    const EditResult result = copies.execute(text);
+    EditResult result = copies.execute(text);
     if (result.changed)
         session->setSelection(added);
     return result;
@@ -212,7 +212,7 @@ EditResult ElementClipboard::duplicate(EditSession* session, const QList<Designe
         made.move(*offset);
     else
         made.moveAside();
-    const EditResult result = made.execute(LocalizationHelper::coreString(QStringLiteral("Duplicate")));
+    EditResult result = made.execute(LocalizationHelper::coreString(QStringLiteral("Duplicate")));
     if (result.changed) {
         session->setSelection(added);
         if (copies)

@@ -104,7 +104,7 @@ EditResult Grouping::group(EditSession* session, const QList<DesignerObject*>& o
     command->setAllOrNothing(true);
     new AddObject(owner, std::move(made), indexOf(front) + 1, command.get());
     new ReparentObjects(members, result, -1, ReparentObjects::Select::AtTheOldPlace, command.get());
-    const EditResult edit = session->project()->execute(std::move(command));
+    EditResult edit = session->project()->execute(std::move(command));
     if (edit.changed) {
         session->setSelection({result});
         if (group)
@@ -115,7 +115,7 @@ EditResult Grouping::group(EditSession* session, const QList<DesignerObject*>& o
 
 EditResult Grouping::ungroup(EditSession* session, const QList<DesignerObject*>& objects)
 {
-    const QList<DesignerObject*> groups = ungroupable(objects);
+    QList<DesignerObject*> groups = ungroupable(objects);
     if (groups.isEmpty())
         return {true, false, {}};
     auto command = std::make_unique<UndoCommand>();
@@ -123,19 +123,20 @@ EditResult Grouping::ungroup(EditSession* session, const QList<DesignerObject*>&
     command->setAllOrNothing(true);
     QList<DesignerObject*> members;
     // From the front on: what is done to one group does not move the places of those behind it.
-    for (auto group = groups.crbegin(); group != groups.crend(); ++group) {
-        const auto& children = (*group)->childList()->items();
+    std::reverse(groups.begin(), groups.end());
+    for (DesignerObject* group : std::as_const(groups)) {
+        const auto& children = group->childList()->items();
         const QList<DesignerObject*> moved(children.cbegin(), children.cend());
         if (!moved.isEmpty()) {
-            new ReparentObjects(moved, (*group)->parentObject(), indexOf(*group),
-                                ReparentObjects::Select::AtTheNewPlace, command.get());
+            new ReparentObjects(moved, group->parentObject(), indexOf(group), ReparentObjects::Select::AtTheNewPlace,
+                                command.get());
+            if (group->editorMark(EditorMarks::hidden()) == EditorMarks::setValue())
+                new ChangeEditorMark(moved, EditorMarks::hidden(), EditorMarks::setValue(), command.get());
         }
-        if (!moved.isEmpty() && (*group)->editorMark(EditorMarks::hidden()) == EditorMarks::setValue())
-            new ChangeEditorMark(moved, EditorMarks::hidden(), EditorMarks::setValue(), command.get());
         members += moved;
-        new RemoveObject(*group, command.get());
+        new RemoveObject(group, command.get());
     }
-    const EditResult edit = session->project()->execute(std::move(command));
+    EditResult edit = session->project()->execute(std::move(command));
     if (edit.changed)
         session->setSelection(ElementPlaces::roots(members));
     return edit;

@@ -147,7 +147,7 @@ EditResult EditSession::addScreen(const QString& id, const QSizeF& size, Screen*
     if (!screen->changePropertyValue(
             sizeProperty, ValueConversion::toString(size.isValid() ? size : m_project->displaySize()), &message))
         return refused(message);
-    const EditResult result = execute(std::make_unique<AddObject>(m_project.get(), std::move(object), -1, nullptr));
+    EditResult result = execute(std::make_unique<AddObject>(m_project.get(), std::move(object), -1, nullptr));
     if (result.changed) {
         setCurrentScreen(screen);
         setSelection({});
@@ -167,7 +167,7 @@ EditResult EditSession::duplicateScreen(Screen* screen, const QString& id, Scree
     ScreenEdits::Plan plan = ScreenEdits::duplicate(m_project.get(), screen, id);
     if (!plan.message.isEmpty())
         return refused(plan.message);
-    const EditResult result = execute(std::move(plan.command));
+    EditResult result = execute(std::move(plan.command));
     if (result.changed) {
         setCurrentScreen(plan.screen);
         setSelection({});
@@ -194,7 +194,7 @@ EditResult EditSession::addElement(const QString& className, Screen* screen, con
     if (!plan.message.isEmpty())
         return refused(plan.message);
     scene(screen); // an edit always has items
-    const EditResult result = execute(std::move(plan.command));
+    EditResult result = execute(std::move(plan.command));
     if (result.changed) {
         setSelection({plan.element});
         if (added)
@@ -393,7 +393,7 @@ EditResult EditSession::moveToParent(const QList<DesignerObject*>& elements, Des
     auto command = std::make_unique<ReparentObjects>(elements, owner, index);
     if (!command->isValid())
         return refused(text("These elements cannot be moved there."));
-    const EditResult result = execute(std::move(command));
+    EditResult result = execute(std::move(command));
     if (result.changed)
         setSelection(elements);
     return result;
@@ -423,7 +423,7 @@ EditResult EditSession::refused(const QString& message)
 
 EditResult EditSession::execute(std::unique_ptr<UndoCommand> command)
 {
-    const EditResult result = m_project->execute(std::move(command));
+    EditResult result = m_project->execute(std::move(command));
     if (!result.accepted)
         Q_EMIT editRefused(result.message);
     return result;

@@ -23,8 +23,8 @@ QCursor handleCursor(const CanvasView* view, const HandleHit& hit)
     if (toView.type() <= QTransform::TxScale)
         return SelectionHandles::cursor(hit);
     // Where the handle leads, as if the frame were a square: a corner's arrow is a diagonal, whatever the sides.
-    const QPointF outwards(hit.number % 3 - 1, hit.number / 3 - 1);
-    const QPointF way = toView.map(outwards) - toView.map(QPointF(0, 0));
+    const QPoint outwards(hit.number % 3 - 1, hit.number / 3 - 1);
+    const QPointF way = toView.map(QPointF(outwards)) - toView.map(QPointF(0, 0));
     const double angle = qRadiansToDegrees(std::atan2(way.y(), way.x()));
     constexpr Qt::CursorShape Shapes[] = {Qt::SizeHorCursor, Qt::SizeFDiagCursor, Qt::SizeVerCursor,
                                           Qt::SizeBDiagCursor};
