@@ -36,6 +36,13 @@ bool hasReachable(const Screen* screen)
               });
 }
 
+/// Enables those of \a orders that would change the order of \a elements.
+void enableOrders(const QList<QAction*>& orders, const QList<DesignerObject*>& elements)
+{
+    for (QAction* order : orders)
+        order->setEnabled(SiblingOrder::canMove(elements, SiblingOrder::Move(order->data().toInt())));
+}
+
 } // namespace
 
 EditActions::EditActions(MessageBar* messages, QObject* parent)
@@ -129,7 +136,9 @@ void EditActions::setSession(EditSession* session)
     if (session) {
         UndoStack* stack = session->undoStack();
         connect(stack, &QUndoStack::indexChanged, this, &EditActions::updateHistory);
-        connect(stack, &QUndoStack::indexChanged, this, &EditActions::updateSelection); // the order may be another
+        connect(stack, &QUndoStack::indexChanged, this, [this] {
+            enableOrders(m_order, m_session->undoStack()->isBlocked() ? QList<DesignerObject*>() : elements());
+        });
         connect(stack, &QUndoStack::undoTextChanged, this, &EditActions::updateHistory);
         connect(stack, &UndoStack::blockedChanged, this, &EditActions::updateHistory);
         connect(stack, &UndoStack::blockedChanged, this, &EditActions::updateSelection);
@@ -258,10 +267,7 @@ void EditActions::updateSelection()
     for (QAction* action : {m_copy, m_duplicate})
         action->setEnabled(hasElements);
     m_cut->setEnabled(hasRemovable);
-    for (QAction* action : m_order) {
-        action->setEnabled(hasElements
-                           && SiblingOrder::canMove(elements(), SiblingOrder::Move(action->data().toInt())));
-    }
+    enableOrders(m_order, free ? elements() : QList<DesignerObject*>());
     m_delete->setEnabled(hasRemovable || isScreen);
     m_rename->setEnabled(free && selection.size() == 1);
     m_selectAll->setEnabled(hasScreen && hasReachable(m_session->currentScreen()));
