@@ -14,8 +14,12 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QScopedValueRollback>
 #include <QStyledItemDelegate>
+
+#include <functional>
+#include <optional>
 
 namespace Korvex::Meridane::Designer {
 
@@ -35,11 +39,17 @@ constexpr int MarkWidth = 24; // pixels, of the column of a mark
 constexpr int MarkSide = 16; // of its icon
 
 /// Paints the eye and the padlock: those that are set always, dimmed where a group has passed them on; the others while
-/// the mouse is over the row.
+/// the mouse is over the row. Those that are about to change look as they will.
 class MarkDelegate : public QStyledItemDelegate
 {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    /// The mark that a cell is about to get; nothing for one that stays.
+    using Pending = std::function<std::optional<ProjectTreeModel::Mark>(const QModelIndex& index)>;
+
+    MarkDelegate(Pending pending, QObject* parent)
+        : QStyledItemDelegate(parent)
+        , m_pending(std::move(pending))
+    {}
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
@@ -47,7 +57,7 @@ public:
         const QVariant value = index.data(ProjectTreeModel::MarkRole);
         if (!value.isValid())
             return;
-        const auto mark = ProjectTreeModel::Mark(value.toInt());
+        const auto mark = m_pending(index).value_or(ProjectTreeModel::Mark(value.toInt()));
         if (mark == ProjectTreeModel::Mark::None && !option.state.testFlag(QStyle::State_MouseOver))
             return;
         const bool set = mark != ProjectTreeModel::Mark::None;
@@ -63,9 +73,20 @@ public:
         ThemedIcon::named(name, selected ? QPalette::HighlightedText : QPalette::Text).paint(painter, place);
         painter->restore();
     }
+
+private:
+    Pending m_pending;
 };
 
 } // namespace
+
+struct ProjectTree::Rub
+{
+    int column = 0;
+    bool sets = false; // or takes back
+    int y = 0; // where the mouse was last, in the viewport
+    QList<QPointer<DesignerObject>> objects; // the first one says what becomes of all; none after Escape
+};
 
 ProjectTree::ProjectTree(EditSession* session, QWidget* parent)
     : QTreeView(parent)
@@ -84,7 +105,13 @@ ProjectTree::ProjectTree(EditSession* session, QWidget* parent)
     setAcceptDrops(true);
     setDropIndicatorShown(true);
     setDragDropMode(QAbstractItemView::InternalMove);
-    setItemDelegate(new MarkDelegate(this));
+    setItemDelegate(new MarkDelegate(
+        [this](const QModelIndex& index) -> std::optional<ProjectTreeModel::Mark> {
+            if (!m_rub || index.column() != m_rub->column || !m_rub->objects.contains(m_model->object(index)))
+                return std::nullopt;
+            return m_rub->sets ? ProjectTreeModel::Mark::Own : ProjectTreeModel::Mark::None;
+        },
+        this));
     header()->setStretchLastSection(false);
     header()->setMinimumSectionSize(MarkWidth);
     header()->setSectionResizeMode(ProjectTreeModel::NameColumn, QHeaderView::Stretch);
@@ -174,6 +201,11 @@ void ProjectTree::contextMenuEvent(QContextMenuEvent* event)
 
 void ProjectTree::keyPressEvent(QKeyEvent* event)
 {
+    if (m_rub && event->key() == Qt::Key_Escape) {
+        m_rub->objects.clear(); // until the mouse is let go
+        viewport()->update();
+        return;
+    }
     // Keys that the window uses must not start the search by typing, and Enter goes to the name.
     if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && state() != EditingState)
         renameCurrent();
@@ -209,8 +241,60 @@ bool ProjectTree::pressMark(const QMouseEvent* event)
     if (objects.removeAll(object) == 0)
         objects.clear();
     objects.prepend(object);
-    m_model->toggleMark(pressed.column(), objects);
+    m_rub = std::make_unique<Rub>();
+    m_rub->column = pressed.column();
+    m_rub->sets =
+        ProjectTreeModel::Mark(pressed.data(ProjectTreeModel::MarkRole).toInt()) != ProjectTreeModel::Mark::Own;
+    m_rub->y = event->position().toPoint().y();
+    m_rub->objects = QList<QPointer<DesignerObject>>(objects.cbegin(), objects.cend());
+    viewport()->update();
     return true;
+}
+
+void ProjectTree::mouseMoveEvent(QMouseEvent* event)
+{
+    if (m_rub && event->buttons().testFlag(Qt::LeftButton))
+        rubTo(event->position().toPoint().y());
+    else
+        QTreeView::mouseMoveEvent(event);
+}
+
+void ProjectTree::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (m_rub && event->button() == Qt::LeftButton)
+        endRub();
+    else
+        QTreeView::mouseReleaseEvent(event);
+}
+
+/// Takes the marks of the rows down or up to \a y, in the viewport, along.
+void ProjectTree::rubTo(int y)
+{
+    if (m_rub->objects.isEmpty())
+        return;
+    const int x = columnViewportPosition(m_rub->column);
+    const int step = m_rub->y < y ? 1 : -1;
+    for (int at = m_rub->y; at != y + step; at += step) {
+        const QModelIndex index = indexAt(QPoint(x, at));
+        const QPointer<DesignerObject> object = m_model->object(index);
+        if (index.data(ProjectTreeModel::MarkRole).isValid() && !m_rub->objects.contains(object))
+            m_rub->objects.append(object);
+    }
+    m_rub->y = y;
+    viewport()->update();
+}
+
+void ProjectTree::endRub()
+{
+    const std::unique_ptr<Rub> rub = std::move(m_rub);
+    QList<DesignerObject*> objects;
+    for (const QPointer<DesignerObject>& object : rub->objects) {
+        // An undo meanwhile may have taken some away.
+        if (object && object->parentObject())
+            objects.append(object);
+    }
+    m_model->toggleMark(rub->column, objects);
+    viewport()->update();
 }
 
 void ProjectTree::setFilter(const QString& text)

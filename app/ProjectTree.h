@@ -2,6 +2,8 @@
 
 #include <QTreeView>
 
+#include <memory>
+
 namespace Korvex::Meridane::Designer {
 
 class DesignerObject;
@@ -49,18 +51,26 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     [[nodiscard]] QSize sizeHint() const override;
 
 private:
+    /// Marks that the mouse goes over while it is held down: they change together when it is let go.
+    struct Rub;
+
     void selectInSession();
     void showSessionSelection();
     [[nodiscard]] bool pressMark(const QMouseEvent* event);
+    void rubTo(int y);
+    void endRub();
     bool filterBelow(const QModelIndex& parent);
     void unhideBelow(const QModelIndex& parent);
     void filterLater();
 
     EditSession* m_session;
     ProjectTreeModel* m_model;
+    std::unique_ptr<Rub> m_rub; // null: none is under way
     QString m_filter;
     bool m_filterPending = false;
     bool m_following = false; // a selection is being copied from one side to the other

@@ -57,9 +57,48 @@ private Q_SLOTS:
         const QPoint at = markPoint(element(0), ProjectTreeModel::HiddenColumn);
         QTest::mouseClick(m_tree->viewport(), Qt::LeftButton, {}, at);
         QTest::mouseDClick(m_tree->viewport(), Qt::LeftButton, {}, at);
+        QTest::mouseRelease(m_tree->viewport(), Qt::LeftButton, {}, at);
         QVERIFY(m_session->undoStack()->count() >= 2);
         QCOMPARE(EditorMarks::isHidden(element(0)), m_session->undoStack()->count() % 2 == 1);
         QVERIFY(m_tree->isExpanded(m_tree->treeModel()->indexOf(m_session->currentScreen())));
+    }
+
+    void rubbingOverEyesHidesAllOfThemInOneStep()
+    {
+        // The rows stand from front to back.
+        const QPoint from = markPoint(element(3), ProjectTreeModel::HiddenColumn);
+        const QPoint to = markPoint(element(1), ProjectTreeModel::HiddenColumn);
+        m_session->setHidden({element(2)}, true);
+        QTest::mousePress(m_tree->viewport(), Qt::LeftButton, {}, from);
+        moveTo(to);
+        QTest::mouseRelease(m_tree->viewport(), Qt::LeftButton, {}, to);
+        QVERIFY(!EditorMarks::isHidden(element(0)));
+        for (const int index : {1, 2, 3})
+            QVERIFY(EditorMarks::isHidden(element(index)));
+        QCOMPARE(m_session->undoStack()->count(), 2);
+        QVERIFY(m_session->selection().isEmpty());
+        // The first one says what becomes of the others, up as well as down.
+        QTest::mousePress(m_tree->viewport(), Qt::LeftButton, {}, to);
+        moveTo(from);
+        QTest::mouseRelease(m_tree->viewport(), Qt::LeftButton, {}, from);
+        for (const int index : {1, 2, 3})
+            QVERIFY(!EditorMarks::isHidden(element(index)));
+        m_session->undo();
+        m_session->undo();
+        QVERIFY(EditorMarks::isHidden(element(2)));
+        QVERIFY(!EditorMarks::isHidden(element(1)) && !EditorMarks::isHidden(element(3)));
+    }
+
+    void escapeTakesARubBack()
+    {
+        const QPoint from = markPoint(element(3), ProjectTreeModel::LockedColumn);
+        const QPoint to = markPoint(element(1), ProjectTreeModel::LockedColumn);
+        QTest::mousePress(m_tree->viewport(), Qt::LeftButton, {}, from);
+        moveTo(to);
+        QTest::keyClick(m_tree, Qt::Key_Escape);
+        QTest::mouseRelease(m_tree->viewport(), Qt::LeftButton, {}, to);
+        QCOMPARE(m_session->undoStack()->count(), 0);
+        QVERIFY(!EditorMarks::isLocked(element(3)));
     }
 
     void theRowsThatAreSelectedTogetherAreLockedTogether()
@@ -140,6 +179,14 @@ private Q_SLOTS:
     }
 
 private:
+    /// Moves the mouse to \a place in the tree with its left button held down.
+    void moveTo(const QPoint& place)
+    {
+        const QPoint global = m_tree->viewport()->mapToGlobal(place);
+        QMouseEvent event(QEvent::MouseMove, place, global, Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(m_tree->viewport(), &event);
+    }
+
     void show(int elements)
     {
         cleanup();
