@@ -30,7 +30,7 @@ const QString FolderKey = QStringLiteral("paths/pictures");
 
 QString startFolder()
 {
-    const QString last = AppSettings().value(FolderKey).toString();
+    QString last = AppSettings().value(FolderKey).toString();
     if (!last.isEmpty() && QDir(last).exists())
         return last;
     const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);

@@ -13,6 +13,8 @@
 
 #include <QMenu>
 
+#include <functional>
+
 namespace Korvex::Meridane::Designer {
 
 ScreenActions::ScreenActions(UserPrompts* prompts, MessageBar* messages, QObject* parent)
@@ -80,7 +82,7 @@ void ScreenActions::showMenu(Screen* screen, const QPoint& globalPos)
 
 void ScreenActions::fillMenu(QMenu* menu, Screen* screen)
 {
-    const auto entry = [&](const char* icon, const QString& text, bool enabled, auto run) {
+    const auto entry = [&](const char* icon, const QString& text, bool enabled, const std::function<void()>& run) {
         QAction* action = menu->addAction(ThemedIcon::named(QString::fromLatin1(icon)), text);
         action->setEnabled(enabled);
         connect(action, &QAction::triggered, this, run);

@@ -80,7 +80,7 @@ void selectMany(benchmark::State& state)
 {
     Selection selection(state.range(0) != 0);
     selection.select(selection.elements); // the rows are built
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         selection.select({selection.elements.constFirst()});
         state.SetIterationTime(selection.select(selection.elements));
     }
@@ -90,7 +90,7 @@ void selectAnother(benchmark::State& state)
 {
     Selection selection(state.range(0) != 0);
     qsizetype next = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         next = (next + 1) % selection.elements.size();
         state.SetIterationTime(selection.select({selection.elements.at(next)}));
     }
@@ -99,7 +99,7 @@ void selectAnother(benchmark::State& state)
 void colors(benchmark::State& state)
 {
     const Selection selection(false);
-    for (auto _ : state)
+    for ([[maybe_unused]] const auto _ : state)
         benchmark::DoNotOptimize(projectColors(*selection.session.project(), 16));
 }
 

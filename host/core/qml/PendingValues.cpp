@@ -2,6 +2,8 @@
 
 #include "host/core/properties/DesignerProperty.h"
 
+#include <algorithm>
+
 namespace Korvex::Meridane::Designer {
 
 PendingValues::PendingValues(const QVector<PropertyChange>& changes)
@@ -16,8 +18,7 @@ PendingValues::PendingValues(const QVector<PropertyChange>& changes)
 PendingValues::~PendingValues()
 {
     // Backwards: of a property that is named twice the first value is its own.
-    for (auto kept = m_kept.crbegin(); kept != m_kept.crend(); ++kept)
-        kept->property->fill(kept->value);
+    std::for_each(m_kept.crbegin(), m_kept.crend(), [](const auto& kept) { kept.property->fill(kept.value); });
 }
 
 } // namespace Korvex::Meridane::Designer

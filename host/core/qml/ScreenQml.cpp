@@ -150,7 +150,7 @@ LineChange ScreenQml::update(const DesignerObject* object)
         return rebuild();
     Block& block = m_blocks[std::size_t(index)];
     const QStringList before = std::exchange(block.lines, linesIn(qml));
-    const LineChange change = difference(before, block.lines, firstLines()[std::size_t(index)]);
+    LineChange change = difference(before, block.lines, firstLines()[std::size_t(index)]);
     if (before.size() != block.lines.size()) {
         m_lineCount += int(block.lines.size() - before.size());
         m_firstLines.clear();
