@@ -22,10 +22,8 @@
 #include "host/core/objects/DesignerObject.h"
 #include "host/core/plugins/DesignerFactory.h"
 
-#include <QDragEnterEvent>
 #include <QGraphicsItem>
 #include <QHelpEvent>
-#include <QMimeData>
 #include <QMouseEvent>
 #include <QToolTip>
 #include <QWheelEvent>
@@ -264,55 +262,6 @@ void CanvasView::changeEvent(QEvent* event)
     else if (event->type() == QEvent::EnabledChange || event->type() == QEvent::ActivationChange)
         cancelGesture();
     QGraphicsView::changeEvent(event);
-}
-
-void CanvasView::dragEnterEvent(QDragEnterEvent* event)
-{
-    if (acceptsDrop(event))
-        event->acceptProposedAction();
-}
-
-void CanvasView::dragMoveEvent(QDragMoveEvent* event)
-{
-    if (!acceptsDrop(event))
-        return;
-    event->acceptProposedAction();
-    (void)dropPlace(event); // shows what it would snap to
-}
-
-void CanvasView::dragLeaveEvent(QDragLeaveEvent*)
-{
-    m_dropSnapping.reset();
-    updateHandles();
-}
-
-void CanvasView::dropEvent(QDropEvent* event)
-{
-    if (!acceptsDrop(event))
-        return;
-    const QPointF place = dropPlace(event);
-    m_dropSnapping.reset();
-    updateHandles();
-    event->acceptProposedAction();
-    setFocus(Qt::MouseFocusReason);
-    PlaceGesture::place(this, QString::fromUtf8(event->mimeData()->data(elementMimeType())), place, {});
-}
-
-/// Where the top left corner of what is dragged in comes to stand: whole pixels, snapped where the view snaps.
-QPointF CanvasView::dropPlace(const QDropEvent* event)
-{
-    const CanvasPointer pointer = pointerAt(event->position(), event->modifiers());
-    const QPointF there(std::round(pointer.scenePos.x()), std::round(pointer.scenePos.y()));
-    if (!m_dropSnapping)
-        m_dropSnapping = std::make_unique<GestureSnapping>(this);
-    m_dropSnapping->hide();
-    updateHandles();
-    return m_dropSnapping->isActive(pointer) ? m_dropSnapping->snapPoint(there, true) : there;
-}
-
-bool CanvasView::acceptsDrop(const QDropEvent* event) const
-{
-    return canvasScene() && !m_gesture && event->mimeData()->hasFormat(elementMimeType());
 }
 
 CanvasPointer CanvasView::pointerAt(const QPointF& viewPos, Qt::KeyboardModifiers modifiers) const

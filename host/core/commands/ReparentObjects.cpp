@@ -1,7 +1,7 @@
 #include "host/core/commands/ReparentObjects.h"
 
 #include "host/core/canvas/CanvasNumbers.h"
-#include "host/core/canvas/CanvasScene.h"
+#include "host/core/canvas/CanvasSelection.h"
 #include "host/core/canvas/GraphicsItem.h"
 #include "host/core/objects/Screen.h"
 #include "host/core/objects/VisualElement.h"
@@ -13,7 +13,6 @@
 #include "host/common/LocalizationHelper.h"
 
 #include <QGraphicsItem>
-#include <QSet>
 
 #include <algorithm>
 #include <cmath>
@@ -58,19 +57,6 @@ QHash<DesignerObject*, QString> idsOf(DesignerObject* object)
         ids.insert(const_cast<DesignerObject*>(visited), visited->getIdName());
     });
     return ids;
-}
-
-/// Takes \a objects out of the selection of their canvas at once; each of them that goes would change it by itself.
-void letGo(const QList<DesignerObject*>& objects)
-{
-    const GraphicsItem* item = objects.isEmpty() ? nullptr : objects.constFirst()->graphicsItem();
-    auto* scene = item ? qobject_cast<CanvasScene*>(item->graphic()->scene()) : nullptr;
-    if (!scene || scene->selectedItems().size() < 2)
-        return;
-    QList<DesignerObject*> remaining = scene->selectedObjects();
-    const QSet<DesignerObject*> going(objects.cbegin(), objects.cend());
-    remaining.removeIf([&going](DesignerObject* object) { return going.contains(object); });
-    scene->setSelectedObjects(remaining);
 }
 
 /// \a ids: what the object and those below it are to be called at their new place; empty: what is free there.
@@ -172,14 +158,14 @@ void ReparentObjects::execute()
 
 void ReparentObjects::undoStructure()
 {
-    letGo(m_objects);
+    CanvasSelection::letGo(m_objects);
     std::for_each(m_moves.crbegin(), m_moves.crend(),
                   [this](const Move& done) { move(done.object, done.from, done.fromIndex, done.idsBefore); });
 }
 
 void ReparentObjects::redoStructure()
 {
-    letGo(m_objects);
+    CanvasSelection::letGo(m_objects);
     for (const Move& done : std::as_const(m_moves))
         move(done.object, m_owner, done.toIndex, done.idsAfter);
 }
@@ -202,7 +188,7 @@ bool ReparentObjects::moveAll()
     // The child before which they go is named by itself: places shift while siblings are taken out.
     const bool toFront = m_index < 0 || m_index >= staying.size();
     DesignerObject* before = toFront ? nullptr : staying.at(m_index);
-    letGo(m_objects);
+    CanvasSelection::letGo(m_objects);
     for (DesignerObject* object : std::as_const(m_objects)) {
         DesignerObject* from = object->parentObject();
         const int fromIndex = int(from->childList()->items().indexOf(object));
