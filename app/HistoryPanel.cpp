@@ -7,6 +7,8 @@
 
 #include <QScopedValueRollback>
 
+#include <utility>
+
 namespace Korvex::Meridane::Designer {
 
 HistoryPanel::HistoryPanel(EditSession* session, QWidget* parent)
@@ -20,7 +22,11 @@ HistoryPanel::HistoryPanel(EditSession* session, QWidget* parent)
     setUniformItemSizes(true);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setModel(m_model);
-    connect(m_model, &HistoryModel::currentStateChanged, this, &HistoryPanel::showCurrentState);
+    // Once for all steps of a turn: the view lays out all its rows for it.
+    connect(m_model, &HistoryModel::currentStateChanged, this, [this] {
+        if (!std::exchange(m_showing, true))
+            QMetaObject::invokeMethod(this, &HistoryPanel::showCurrentState, Qt::QueuedConnection);
+    });
     connect(session->undoStack(), &UndoStack::blockedChanged, this, [this](bool blocked) { setEnabled(!blocked); });
     showCurrentState();
 }
@@ -42,6 +48,7 @@ QSize HistoryPanel::sizeHint() const
 
 void HistoryPanel::showCurrentState()
 {
+    m_showing = false;
     const QScopedValueRollback<bool> following(m_following, true);
     setCurrentIndex(m_model->currentState());
     scrollTo(m_model->currentState());

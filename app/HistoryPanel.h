@@ -27,6 +27,7 @@ private:
     EditSession* m_session;
     HistoryModel* m_model;
     bool m_following = false; // the list follows the history, not the other way round
+    bool m_showing = false; // the present state is about to be shown
 };
 
 } // namespace Korvex::Meridane::Designer

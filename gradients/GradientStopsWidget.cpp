@@ -326,20 +326,36 @@ void GradientStopsWidget::updateRows()
     setFocusProxy(m_rows.isEmpty() ? nullptr : m_rows.first());
 }
 
-/// Tab visits the rows as they stand, wherever a row was made or moved.
+/// What Tab goes through, as the rows stand, wherever a row was made or moved.
+QList<QWidget*> GradientStopsWidget::tabStops() const
+{
+    QList<QWidget*> stops;
+    for (const GradientStopWidget* row : m_rows + QList{m_addRow})
+        stops += {row->positionField(), row->colorPicker()->swatch(), row->button()};
+    return stops;
+}
+
 void GradientStopsWidget::linkTabs()
 {
     QWidget* before = m_preview;
-    const auto link = [&before](const GradientStopWidget* row) {
-        for (QWidget* part :
-             std::initializer_list<QWidget*>{row->positionField(), row->colorPicker()->swatch(), row->button()}) {
-            setTabOrder(before, part);
-            before = part;
-        }
-    };
-    for (const GradientStopWidget* row : std::as_const(m_rows))
-        link(row);
-    link(m_addRow);
+    const QList<QWidget*> stops = tabStops();
+    for (QWidget* stop : stops) {
+        setTabOrder(before, stop);
+        before = stop;
+    }
+}
+
+/// Qt would also stop at the widgets between the rows, because they hand the focus on.
+bool GradientStopsWidget::focusNextPrevChild(bool next)
+{
+    QList<QWidget*> stops = tabStops();
+    stops.removeIf([](const QWidget* stop) { return !stop->isVisible() || !stop->isEnabled(); });
+    const qsizetype at = stops.indexOf(QApplication::focusWidget());
+    const qsizetype wanted = next ? at + 1 : at - 1;
+    if (at < 0 || wanted < 0 || wanted >= stops.size())
+        return QWidget::focusNextPrevChild(next);
+    stops.at(wanted)->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
 }
 
 void GradientStopsWidget::setPartsVisible(bool visible)

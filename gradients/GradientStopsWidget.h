@@ -63,6 +63,7 @@ Q_SIGNALS:
     void rowAdded(GradientStopWidget* row);
 
 protected:
+    bool focusNextPrevChild(bool next) override;
     void changeEvent(QEvent* event) override;
 
 private Q_SLOTS:
@@ -77,6 +78,7 @@ private:
     void setRowCount(qsizetype count);
     void sort();
     void updateRows();
+    [[nodiscard]] QList<QWidget*> tabStops() const;
     void linkTabs();
     void setPartsVisible(bool visible);
     void colorLine();

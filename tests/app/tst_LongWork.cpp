@@ -114,10 +114,12 @@ private Q_SLOTS:
     void aCheckThatIsEndedGoesOnUnnoticed()
     {
         const ProblemMonitor* monitor = m_window->window->projectPanels()->monitor();
-        const QVector<Screen*> screens = session()->project()->screens();
-        for (Screen* screen : screens) {
-            for (int i = 0; i < 300; ++i)
-                session()->addElement(QStringLiteral("Rectangle"), screen, {}, {});
+        // More than the check gets done before anybody could press Cancel.
+        for (int i = 0; i < 100; ++i)
+            session()->addElement(QStringLiteral("Rectangle"), session()->currentScreen(), {}, {});
+        for (int doublings = 0; doublings < 5; ++doublings) {
+            m_window->action("edit.selectAll")->trigger();
+            m_window->action("edit.duplicate")->trigger();
         }
         endNext();
         m_window->action("project.check")->trigger();

@@ -204,7 +204,7 @@ private Q_SLOTS:
         add();
         HistoryPanel* history = m_window->workspace()->history();
         QCOMPARE(history->model()->rowCount(), 3);
-        QCOMPARE(history->currentIndex().row(), 2);
+        QTRY_COMPARE(history->currentIndex().row(), 2);
         QTest::mouseClick(history->viewport(), Qt::LeftButton, {},
                           history->visualRect(history->model()->index(1, 0)).center());
         QTRY_COMPARE(session()->undoStack()->index(), 1);

@@ -352,6 +352,21 @@ private Q_SLOTS:
         QCOMPARE(targets.snap({between, SnapEdge::Left | SnapEdge::Right, 4, true}).correction.x(), 1.0);
     }
 
+    void whatComesToAGapShowsNoLineThatIsOnlyNear()
+    {
+        Layout layout;
+        layout.elements = {QRectF(0, 30, 10, 20), QRectF(30, 30, 10, 20)};
+        layout.guidesX = {15.3};
+        const QRectF moving(15.1, 30, 10, 20);
+        const SnapEdges edges = SnapEdge::Left | SnapEdge::Right;
+        const SnapTargets targets = layout.targets();
+        const SnapResult result = targets.snap({moving, edges, 6, false});
+        QCOMPARE(result.kindX, SnapKind::Gap);
+        const SnapMarks marks = targets.marks(moving.translated(result.correction.x(), 0), edges, result);
+        QCOMPARE(marks.lines.size(), 0);
+        QCOMPARE(marks.gaps.size(), 2);
+    }
+
     void aPlaceBetweenTwoPixelsIsRoundedOutwards()
     {
         Layout layout;

@@ -32,11 +32,12 @@ SnapParts partsY(SnapEdges edges)
     return {edges.testFlag(SnapEdge::Top), edges.testFlag(SnapEdge::VerticalCenter), edges.testFlag(SnapEdge::Bottom)};
 }
 
-void addMarks(SnapMarks& marks, const SnapAxis& axis, const SnapSpan& placed, SnapParts parts, double acrossCorrection,
-              Qt::Orientation acrossOrientation)
+void addMarks(SnapMarks& marks, const SnapAxis& axis, const SnapSpan& placed, SnapParts parts, SnapKind kind,
+              double acrossCorrection, Qt::Orientation acrossOrientation)
 {
     QVector<SnapStop> stops = axis.stopsAt(placed, parts, Tolerance);
-    if (stops.isEmpty())
+    // What has come to a gap or to the grid stands on no line, however near one is.
+    if (stops.isEmpty() && kind != SnapKind::Gap && kind != SnapKind::Grid)
         stops = axis.stopsAt(placed, parts, RoundingTolerance);
     for (const SnapStop& stop : std::as_const(stops)) {
         const double from = std::min(stop.from, placed.acrossLow);
@@ -108,9 +109,9 @@ SnapMarks SnapTargets::marks(const QRectF& placed, SnapEdges edges, const SnapRe
 {
     SnapMarks marks;
     if (result.snapsX)
-        addMarks(marks, m_x, alongX(placed), partsX(edges), result.correction.y(), Qt::Vertical);
+        addMarks(marks, m_x, alongX(placed), partsX(edges), result.kindX, result.correction.y(), Qt::Vertical);
     if (result.snapsY)
-        addMarks(marks, m_y, alongY(placed), partsY(edges), result.correction.x(), Qt::Horizontal);
+        addMarks(marks, m_y, alongY(placed), partsY(edges), result.kindY, result.correction.x(), Qt::Horizontal);
     return marks;
 }
 
