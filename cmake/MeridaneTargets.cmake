@@ -43,8 +43,12 @@ function(meridane_test name)
     if(NOT arg_TIMEOUT)
         set(arg_TIMEOUT 300)
     endif()
+    # Settings and caches of its own: tests that run side by side would change each other's.
+    set(home "${CMAKE_BINARY_DIR}/tests/homes/${name}")
+    file(MAKE_DIRECTORY "${home}")
     # Where a test crashes, Qt would wait for a debugger's report.
-    set(environment QTEST_DISABLE_STACK_DUMP=1 QT_QPA_PLATFORM=offscreen QT_QPA_UPDATE_IDLE_TIME=0 LC_ALL=C.UTF-8)
+    set(environment HOME=${home} XDG_CONFIG_HOME=${home}/.config XDG_CACHE_HOME=${home}/.cache
+        XDG_DATA_HOME=${home}/.local/share QTEST_DISABLE_STACK_DUMP=1 QT_QPA_PLATFORM=offscreen QT_QPA_UPDATE_IDLE_TIME=0 LC_ALL=C.UTF-8)
     if(MERIDANE_SANITIZERS)
         # Everything is several times slower, and leaks of the libraries below us are not ours to mend.
         math(EXPR arg_TIMEOUT "${arg_TIMEOUT} * 4")
