@@ -17,7 +17,6 @@ namespace Korvex::Meridane::Designer {
 
 namespace {
 
-constexpr char ShownName[] = "shownName"; // property of an editor
 constexpr int Side = ImageListModel::ThumbnailSide;
 constexpr int Margin = 6; // pixels around the content of a row
 constexpr int Gap = 10; // between thumbnail and text
@@ -37,13 +36,6 @@ QRect thumbnailRect(const QRect& row)
 }
 
 /// The line of the name and the one below it, together.
-QRect textRect(const QRect& row, const QFontMetrics& metrics)
-{
-    const int left = thumbnailRect(row).right() + 1 + Gap;
-    const int height = 2 * metrics.height() + 3;
-    return {left, row.center().y() - height / 2 + 1, row.right() - Margin - 2 - left, height};
-}
-
 /// The ground on which transparent pictures stand; white and black ones are seen on it.
 void paintGround(QPainter* painter, const QRectF& rect, const QPalette& palette)
 {
@@ -157,20 +149,11 @@ QWidget* ImageDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem
     return line;
 }
 
-void ImageDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
+QRect ImageDelegate::textRect(const QRect& row, const QFontMetrics& metrics) const
 {
-    const QVariant name = index.data(Qt::EditRole);
-    if (editor->property(ShownName) == name)
-        return;
-    editor->setProperty(ShownName, name);
-    QStyledItemDelegate::setEditorData(editor, index);
-}
-
-void ImageDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option, const QModelIndex&) const
-{
-    const QRect text = textRect(option.rect, option.fontMetrics);
-    const int height = editor->sizeHint().height();
-    editor->setGeometry(text.left() - 5, option.rect.center().y() - height / 2 + 1, text.width() + 8, height);
+    const int left = thumbnailRect(row).right() + 1 + Gap;
+    const int height = 2 * metrics.height() + 3;
+    return {left, row.center().y() - height / 2 + 1, row.right() - Margin - 2 - left, height};
 }
 
 } // namespace Korvex::Meridane::Designer

@@ -1,25 +1,24 @@
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "app/NameEditDelegate.h"
 
 namespace Korvex::Meridane::Designer {
 
 /// Draws the rows of the image list: the thumbnail on a checkerboard, the name, and below it size, kind and uses.
-class ImageDelegate : public QStyledItemDelegate
+class ImageDelegate : public NameEditDelegate
 {
     Q_OBJECT
 
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    using NameEditDelegate::NameEditDelegate;
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     /// A line for the name; what is selected in it leaves the ending out.
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
-    /// Leaves what has been typed alone when another part of the row changes.
-    void setEditorData(QWidget* editor, const QModelIndex& index) const override;
-    void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
-                              const QModelIndex& index) const override;
+
+protected:
+    [[nodiscard]] QRect textRect(const QRect& row, const QFontMetrics& metrics) const override;
 };
 
 } // namespace Korvex::Meridane::Designer

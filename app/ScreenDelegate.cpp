@@ -12,7 +12,6 @@ namespace Korvex::Meridane::Designer {
 
 namespace {
 
-constexpr char ShownName[] = "shownName"; // property of an editor
 constexpr int Width = ScreenListModel::ThumbnailSide;
 constexpr int Height = 64; // of the room for a thumbnail
 constexpr int Margin = 6;
@@ -22,13 +21,6 @@ constexpr double Radius = 5;
 QRect thumbnailRoom(const QRect& row)
 {
     return {row.left() + Margin + 2, row.center().y() - Height / 2 + 1, Width, Height};
-}
-
-QRect textRect(const QRect& row, const QFontMetrics& metrics)
-{
-    const int left = thumbnailRoom(row).right() + 1 + Gap;
-    const int height = 2 * metrics.height() + 3;
-    return {left, row.center().y() - height / 2 + 1, row.right() - Margin - left, height};
 }
 
 void paintThumbnail(QPainter* painter, const QRect& room, const QModelIndex& index, const QPalette& palette)
@@ -109,20 +101,11 @@ QWidget* ScreenDelegate::createEditor(QWidget* parent, const QStyleOptionViewIte
     return line;
 }
 
-void ScreenDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const
+QRect ScreenDelegate::textRect(const QRect& row, const QFontMetrics& metrics) const
 {
-    const QVariant name = index.data(Qt::EditRole);
-    if (editor->property(ShownName) == name)
-        return;
-    editor->setProperty(ShownName, name);
-    QStyledItemDelegate::setEditorData(editor, index);
-}
-
-void ScreenDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option, const QModelIndex&) const
-{
-    const QRect text = textRect(option.rect, option.fontMetrics);
-    const int height = editor->sizeHint().height();
-    editor->setGeometry(text.left() - 5, option.rect.center().y() - height / 2 + 1, text.width() + 8, height);
+    const int left = thumbnailRoom(row).right() + 1 + Gap;
+    const int height = 2 * metrics.height() + 3;
+    return {left, row.center().y() - height / 2 + 1, row.right() - Margin - left, height};
 }
 
 } // namespace Korvex::Meridane::Designer
